@@ -1,0 +1,66 @@
+// What a window holds: pictures, labels, buttons and the like, as plain data. The logic changes the data, a backend
+// draws what has changed; nothing here knows how.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace prismfall {
+
+// 0xBBGGRR: blue in the high byte, red in the low byte.
+using Colour = std::uint32_t;
+
+constexpr Colour kBlack = 0x000000;
+constexpr Colour kRed = 0x0000FF;
+
+enum class ElementKind {
+    Picture,       // shows `picture`
+    Button,        // shows `picture`; sounds at a press and has a click
+    PressPicture,  // shows `picture`; takes presses with their place, has no click
+    Label,         // shows `text`
+    RadioButton,   // a round mark when `checked`, then `text`; has a click
+    CheckBox,      // a square mark when `checked`, then `text`; has a click
+    GroupFrame,    // a frame with `text` in its upper edge
+    Outline,       // a rectangle of one pixel, without a fill
+};
+
+struct Font {
+    std::string_view family = "Times New Roman";
+    float points = 12;
+    bool bold = false;
+    bool italic = false;
+
+    bool operator==(const Font&) const = default;
+};
+
+// One element of a window. The box is in game pixels of the window's inner area, or of `panel` if there is one, and
+// covers x from `left` to below `left + width`. Names, pictures, tags and font families are literals.
+struct Element {
+    std::string_view name;
+    ElementKind kind = ElementKind::Picture;
+    float left = 0;
+    float top = 0;
+    int width = 0;
+    int height = 0;
+    bool visible = true;
+    bool enabled = true;                // a disabled element is not there for the mouse
+    std::string_view picture = {};      // name of the picture it shows, empty for none
+    std::string text = {};              // starts at the left and top edge; what does not fit is cut off
+    std::string_view tag = {};          // which of several pairs of faces a button has
+    Colour colour = kBlack;             // of text, marks and outlines
+    std::optional<Colour> ground = {};  // what a label stands on; without it the text lies on what is below
+    Font font = {};
+    bool wraps = false;              // break the text into lines at the box's right edge
+    bool checked = false;            // radio buttons and check boxes
+    const Element* panel = nullptr;  // the element that this one lies in and is hidden with
+
+    bool operator==(const Element&) const = default;
+};
+
+inline bool IsShown(const Element& element) {
+    return element.visible && (element.panel == nullptr || element.panel->visible);
+}
+
+}  // namespace prismfall

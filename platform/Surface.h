@@ -1,0 +1,60 @@
+// The painted layer of the main window: a block of pixels that lies over the background picture and keeps what was
+// painted. Shared by all backends, so that the picture is the same everywhere and a test can look at its pixels.
+// Composing it with pictures and showing it is left to a backend.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/Element.h"
+
+namespace prismfall {
+
+// From (left, top) up to but not including (right, bottom).
+struct PixelBox {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    bool IsEmpty() const { return left >= right || top >= bottom; }
+    bool operator==(const PixelBox&) const = default;
+};
+
+class Surface {
+  public:
+    static constexpr int kWidth = 802;
+    static constexpr int kHeight = 602;
+    static constexpr std::uint32_t kUnpainted = 0;  // a pixel through which the background shows
+
+    Surface();
+
+    // The operations of Platform.h. Any coordinates will do: what lies outside is cut off. A width of 0 or less paints
+    // nothing.
+    void Line(int x1, int y1, int x2, int y2, Colour colour, int width);
+    void Box(int x1, int y1, int x2, int y2, Colour colour, int width);
+    void Restore(int x1, int y1, int x2, int y2);
+    void Clear();
+
+    // 0xFFRRGGBB, or kUnpainted. kWidth pixels a row, without gaps; x and y must lie on the surface.
+    std::uint32_t PixelAt(int x, int y) const { return pixels[Index(x, y)]; }
+    const std::uint32_t* Row(int y) const { return &pixels[Index(0, y)]; }
+
+    // What has changed since the last call, as boxes on the surface that may overlap; long diagonals come in pieces.
+    // The boxes are put into `boxes`, whose former content goes; the caller keeps it, so that nothing is allocated
+    // from frame to frame.
+    void TakeDamage(std::vector<PixelBox>& boxes);
+
+  private:
+    static std::size_t Index(int x, int y) {
+        return static_cast<std::size_t>(y) * kWidth + static_cast<std::size_t>(x);
+    }
+    void FillSpan(int y, int left, int right, std::uint32_t pixel);
+    void AddDamage(PixelBox box);
+    void AddLineDamage(int x1, int y1, int x2, int y2, int reach);
+
+    std::vector<std::uint32_t> pixels;
+    std::vector<PixelBox> damage;
+};
+
+}  // namespace prismfall

@@ -1,0 +1,90 @@
+// A window as plain data: its size, its elements in stacking order and the handlers that a backend calls when the
+// player or the desktop acts on it. What the handlers do belongs to the screens and the game.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "platform/Element.h"
+
+namespace prismfall {
+
+enum class MouseButton : std::int16_t { Left = 1, Right = 2 };
+
+constexpr std::int16_t kEscapeKey = 27;
+
+// Called by a backend on the one thread that runs everything. Any of them may be empty. Places are in game pixels:
+// of the window's inner area for the window's own events, of the element for an element's.
+struct WindowHandlers {
+    std::function<void()> activate;                                       // the window has come to the front
+    std::function<void(float x, float y)> mouseMove;                      // over the surface, not over an element
+    std::function<void(MouseButton button, float x, float y)> mouseDown;  // on the surface
+    std::function<void()> doubleClick;  // the second press of a double click, in place of mouseDown
+    std::function<void(std::int16_t code)> keyDown;
+    std::function<void(bool minimised)> resize;
+    std::function<void()> queryUnload;  // the window is about to close by its close box
+    std::function<void()> unload;       // the window goes
+    std::function<void(Element&)> elementMove;
+    std::function<void(Element&, MouseButton button, float x, float y)> elementDown;
+    std::function<void(Element&)> elementClick;  // press and release of the left button on the same element
+};
+
+struct Window {
+    std::string_view name;
+    std::string_view title;
+    int innerWidth = 0;  // game pixels
+    int innerHeight = 0;
+    std::string_view background;  // a picture laid at the top left and cut off at the edges
+    bool isDialog = false;        // a small frame without minimise and maximise boxes
+    bool hasIcon = false;
+    bool visible = false;            // set and cleared by the backend's Show and Hide
+    std::vector<Element*> elements;  // stacking order, later ones on top
+    WindowHandlers on;
+
+    Window() = default;
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    // Takes elements into the window's own keeping, on top of those it has, once.
+    void Own(std::vector<Element> table) {
+        owned = std::move(table);
+        for (Element& element : owned) elements.push_back(&element);
+    }
+
+    // The element of that name, or nothing.
+    Element* Find(std::string_view elementName) {
+        for (Element* element : elements)
+            if (element->name == elementName) return element;
+        return nullptr;
+    }
+
+    // The element of that name, which must exist.
+    Element& operator[](std::string_view elementName) { return *Find(elementName); }
+
+    // The topmost element at a place that the mouse can meet (shown and enabled), or nothing for the surface.
+    Element* ElementAt(float x, float y) {
+        for (auto it = elements.rbegin(); it != elements.rend(); ++it)
+            if (Covers(**it, x, y)) return *it;
+        return nullptr;
+    }
+
+  private:
+    static bool Covers(const Element& element, float x, float y) {
+        if (!IsShown(element) || !element.enabled) return false;
+        const float left = element.left + (element.panel != nullptr ? element.panel->left : 0);
+        const float top = element.top + (element.panel != nullptr ? element.panel->top : 0);
+        return x >= left && x < left + static_cast<float>(element.width) && y >= top &&
+               y < top + static_cast<float>(element.height);
+    }
+
+    std::vector<Element> owned;
+};
+
+inline bool HasClick(const Element& element) {
+    return element.kind == ElementKind::Button || element.kind == ElementKind::RadioButton ||
+           element.kind == ElementKind::CheckBox;
+}
+
+}  // namespace prismfall
