@@ -1,0 +1,13 @@
+// The wave files that the program carries, under their ids 102 to 108. The build makes the definition from
+// assets/sounds (see cmake/EmbedSounds.cmake).
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+namespace prismfall {
+
+// A complete RIFF WAVE file, or nothing for an id that is not there.
+std::span<const std::byte> LoadSoundResource(int id);
+
+}  // namespace prismfall

@@ -1,0 +1,13 @@
+// The dialog at the end of a puzzle: the verdict, and what to do next. What it is that ends a puzzle, and the mark of a
+// solved one, is with the two ticks.
+#pragma once
+
+#include "simulation/VMain.h"
+
+namespace prismfall {
+
+// Shows VPuzzleResult. A solved puzzle offers the next one (a disabled button after the last) and the menu, a lost one
+// its solution, the menu and another try. Returns when the dialog has closed and the chosen move has been made.
+void ShowPuzzleResult(VMain& main, Boolean Solved);
+
+}  // namespace prismfall

@@ -1,0 +1,137 @@
+// See Tutorial.h.
+#include "game/Tutorial.h"
+
+#include <algorithm>
+#include <array>
+
+#include "simulation/BeamSpawning.h"
+#include "simulation/PlayerInput.h"
+#include "simulation/Playfield.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr std::int16_t kClockBeam = 4;  // PuzzleLineNr of the beam whose head is the tutorial's clock
+constexpr std::int16_t kBentBeam = 2;
+constexpr std::int16_t kStartedBeam = 6;
+
+constexpr int kSkip = 0;
+constexpr int kGoOn = 1;
+
+struct Moment {
+    std::int16_t trigger;  // YEnd of the clock beam at the start of a tick
+    float left;            // of the picture on the playfield
+    float top;
+};
+
+constexpr std::array<Moment, kTutorialPictureCount> kMoments = {{
+    {324, 325, 54},
+    {332, 323, 74},
+    {356, 13, 177},
+    {375, 449, 64},
+    {400, 20, 420},
+    {440, 468, 173},
+    {475, 13, 291},
+    {520, 84, 484},
+}};
+
+// Where a picture can be clicked, in its own pixels; all bounds lie outside the spot.
+struct Spot {
+    std::size_t picture;
+    bool rightButtonOnly;
+    float xAbove;
+    float xBelow;
+    float yAbove;
+    float yBelow;
+    int action;
+};
+
+constexpr std::array<Spot, 9> kSpots = {{
+    {0, false, 14, 67, 75, 104, kSkip},
+    {0, false, 123, 197, 80, 104, kGoOn},
+    {1, false, 6, 37, 95, 130, kGoOn},
+    {2, false, 90, 123, 31, 173, kGoOn},
+    {3, false, 84, 115, 10, 41, kGoOn},
+    {4, false, 147, 179, 75, 100, kGoOn},
+    {5, false, 127, 167, 105, 128, kGoOn},
+    {6, true, 175, 199, 14, 60, kGoOn},
+    {7, false, 149, 185, 75, 96, kGoOn},
+}};
+
+bool Contains(const Spot& spot, float x, float y) {
+    return x > spot.xAbove && x < spot.xBelow && y > spot.yAbove && y < spot.yBelow;
+}
+
+CLine* FindBeam(const VMain& main, std::int16_t number) {
+    const auto beam = std::ranges::find(main.Lines, number, &CLine::PuzzleLineNr);
+    return beam == main.Lines.end() ? nullptr : *beam;
+}
+
+// After its bend the beam's number stands for two segments, of which only one grows.
+CLine* FindGrowingBeam(const VMain& main, std::int16_t number) {
+    const auto beam = std::ranges::find_if(
+        main.Lines, [number](const CLine* line) { return line->PuzzleLineNr == number && line->RunMode == kGrowing; });
+    return beam == main.Lines.end() ? nullptr : *beam;
+}
+
+void BendForPlayer(VMain& main) {
+    CLine* beam = FindBeam(main, kBentBeam);
+    if (beam == nullptr) return;
+    beam->RunMode = kStopped;
+    CreateLine(main, beam, false, kSpawnHeight);
+}
+
+void StartForPlayer(VMain& main) {
+    if (CLine* beam = FindBeam(main, kStartedBeam)) beam->RunMode = kGrowing;
+}
+
+void SpeedUpForPlayer(VMain& main) {
+    if (CLine* beam = FindGrowingBeam(main, kBentBeam)) SpeedUpLine(main, *beam, false);
+}
+
+void ActForPlayer(VMain& main) {
+    if (main.TutorialStep == 2) BendForPlayer(main);
+    if (main.TutorialStep == 4) StartForPlayer(main);
+    if (main.TutorialStep == 7) SpeedUpForPlayer(main);
+}
+
+}  // namespace
+
+void TriggerTutorial(VMain& main) {
+    const CLine* clock = FindBeam(main, kClockBeam);
+    if (clock == nullptr) return;
+    const auto moment = std::ranges::find(kMoments, clock->YEnd, &Moment::trigger);
+    if (moment == kMoments.end()) return;
+    const auto picture = static_cast<std::size_t>(moment - kMoments.begin());
+    main.TutorialStep = static_cast<std::int16_t>(picture + 1);
+    main.platform.StopTimer(Timer::LineExtender);
+    main.PictTut[picture].left = moment->left;
+    main.PictTut[picture].top = moment->top;
+    main.PictTut[picture].visible = true;
+}
+
+void PictTut_MouseDown(VMain& main, std::size_t picture, MouseButton Button, float X, float Y) {
+    for (const Spot& spot : kSpots) {
+        if (spot.picture != picture || !Contains(spot, X, Y)) continue;
+        if (spot.rightButtonOnly && Button != MouseButton::Right) continue;
+        return ContinueTutorial(main, spot.action);
+    }
+}
+
+void ContinueTutorial(VMain& main, int Action) {
+    if (Action == kSkip) {
+        main.TutorialActive = false;
+    } else {
+        ActForPlayer(main);
+    }
+    main.platform.StartTimer(Timer::LineExtender);
+    HideTutorialPictures(main);
+    main.TutorialStep = 0;
+}
+
+void HideTutorialPictures(VMain& main) {
+    for (Element& picture : main.PictTut) picture.visible = false;
+}
+
+}  // namespace prismfall

@@ -1,0 +1,30 @@
+// The removal of beams: a destroyed beam thins out step by step with its whole chain. The timer that carries the
+// removal on stands in RemovalTick; what starts one is the growth tick or a speed-up.
+#pragma once
+
+#include <cstdint>
+
+#include "simulation/VMain.h"
+
+namespace prismfall {
+
+// One step of removal for a beam and, through the links, for all of its chain in the same colour: each becomes dying
+// and stands still, is painted out and painted again `Thickness` wide, without edges. Only `oLine` itself keeps
+// `ByFastLine`. This is also how a level rise reaches the timers. A caller that starts a removal then appends `oLine`
+// to DyingLines.
+void DeleteLine(VMain& main, CLine& oLine, std::int16_t Thickness, Boolean ByFastLine);
+
+// The step of removal after the one that the beam stands in.
+std::int16_t NextThickness(const CLine& beam);
+
+// Paints all beams again, since a removal has painted out what lay under it. Those that begin above the blue line are
+// left to the growth tick.
+void RedrawLines(VMain& main);
+
+// Ends all beams. Nothing is painted.
+void ClearLines(VMain& main);
+
+// Whether every beam of Lines is dying; true for none.
+Boolean AllLinesDeleted(const VMain& main);
+
+}  // namespace prismfall

@@ -1,0 +1,22 @@
+// The one geometric question of the game: which beam lies just ahead of a head. What follows from a hit is decided by
+// whoever asks.
+#pragma once
+
+#include <cstdint>
+
+#include "simulation/VMain.h"
+
+namespace prismfall {
+
+// The first beam of Lines that is near enough to the test point (X, Y), or nothing. A beam is hit at a distance of 1 or
+// less, or by its head, if that runs the other way at about the height `PrevY` of the moving head before its step.
+// Nothing is hit at or above the blue line. `FastLine` asks for a beam that is speeded up, which runs through every
+// dying beam; a growing one still strikes those in the first step of their removal.
+CLine* FindCollision(const VMain& main, std::int16_t X, std::int16_t Y, std::int16_t PrevY, std::int32_t Direction,
+                     Boolean FastLine);
+
+// The point of the segment (X1, Y1) to (X2, Y2) that is nearest to (X, Y), and its distance.
+void PointToSegmentDistance(float X, float Y, float X1, float Y1, float X2, float Y2, float& NearestX, float& NearestY,
+                            float& Distance);
+
+}  // namespace prismfall

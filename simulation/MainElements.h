@@ -1,0 +1,81 @@
+// The elements of the main window, each at its place, in stacking order. The logic reads and changes them by name.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "platform/Element.h"
+
+namespace prismfall {
+
+constexpr std::size_t kPreviewCount = 9;
+constexpr std::size_t kTutorialPictureCount = 8;
+
+inline Element MakePicture(std::string_view name, int left, int top, int width, int height) {
+    return {.name = name,
+            .left = static_cast<float>(left),
+            .top = static_cast<float>(top),
+            .width = width,
+            .height = height,
+            .picture = name};
+}
+
+inline Element MakeButton(std::string_view name, int left, int top, int width, int height, std::string_view face) {
+    Element button = MakePicture(name, left, top, width, height);
+    button.kind = ElementKind::Button;
+    button.picture = face;
+    return button;
+}
+
+// A number in red on a panel's picture.
+inline Element MakeNumber(std::string_view name, const Element& panel, int left, int top, int width, int height) {
+    Element number = MakePicture(name, left, top, width, height);
+    number.kind = ElementKind::Label;
+    number.picture = {};
+    number.colour = kRed;
+    number.font = {.family = "Arial", .points = 14.25F};
+    number.panel = &panel;
+    return number;
+}
+
+struct MainElements {
+    Element ImagePrismfall = MakePicture("ImagePrismfall", 46, 101, 586, 205);
+    Element ImageA = MakePicture("ImageA", 544, 102, 84, 87);
+    Element CommandPuzzle = MakeButton("CommandPuzzle", 160, 408, 133, 54, "PuzzleUp");
+    Element CommandArcade = MakeButton("CommandArcade", 400, 409, 151, 58, "ArcadeUp");
+    Element CommandPrevious = MakeButton("CommandPrevious", 679, 27, 121, 37, "PreviousUp");
+    Element CommandNext = MakeButton("CommandNext", 693, 71, 97, 33, "NextUp");
+    Element LabelPuzzlePage = MakePicture("LabelPuzzlePage", 680, 110, 129, 57);
+    Element PictureScores = MakePicture("PictureScores", 682, -1, 120, 114);
+    Element VScore = MakeNumber("VScore", PictureScores, 57, 22, 57, 23);
+    Element VLevel = MakeNumber("VLevel", PictureScores, 57, 52, 56, 22);
+    Element VHighScore = MakeNumber("VHighScore", PictureScores, 57, 80, 57, 23);
+    Element PictureScores2 = MakePicture("PictureScores2", 682, -1, 120, 114);
+    Element LabelPuzzleNr = MakeNumber("LabelPuzzleNr", PictureScores2, 76, 22, 23, 21);
+    Element CmdStart = MakeButton("CmdStart", 690, 223, 100, 54, "StartUp");
+    Element cmdPause = MakeButton("cmdPause", 695, 294, 89, 38, "PauseUp");
+    Element CmdOptions = MakeButton("CmdOptions", 696, 362, 97, 39, "OptionsUp");
+    Element CmdScores = MakeButton("CmdScores", 691, 428, 107, 34, "ScoresUp");
+    Element CmdAbout = MakeButton("CmdAbout", 698, 479, 86, 44, "AboutUp");
+    Element CommandExit = MakeButton("CommandExit", 711, 540, 59, 37, "ExitUp");
+    std::array<Element, kPreviewCount> LabelSolved;      // the marks of the puzzle menu's previews
+    std::array<Element, kTutorialPictureCount> PictTut;  // PictTut1 to PictTut8
+    Element LabelMulti = {.name = "LabelMulti",          // the score pop-up
+                          .kind = ElementKind::Label,
+                          .left = 703,
+                          .top = 191,
+                          .width = 41,
+                          .height = 17,
+                          .visible = false,
+                          .font = {.family = "Felix Titling", .points = 9.75F}};
+
+    MainElements();
+    MainElements(const MainElements&) = delete;
+    MainElements& operator=(const MainElements&) = delete;
+
+    // All of them, those on top last.
+    std::vector<Element*> InStackingOrder();
+};
+
+}  // namespace prismfall

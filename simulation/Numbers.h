@@ -1,0 +1,34 @@
+// The game's own ways with numbers: a truth value of 16 bits, sums that stay in 16 bits by stopping at the ends of the
+// range instead of wrapping round, and the one way of rounding.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace prismfall {
+
+// All bits set or none.
+class Boolean {
+  public:
+    constexpr Boolean() = default;
+    constexpr Boolean(bool isTrue) : bits(isTrue ? std::int16_t{-1} : std::int16_t{0}) {}
+    constexpr operator bool() const { return bits != 0; }
+
+  private:
+    std::int16_t bits = 0;
+};
+
+// The nearest value that fits 16 bits.
+constexpr std::int16_t Saturated(std::int64_t value) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    return static_cast<std::int16_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+// To the nearest whole number, a tie going to the even one; what is out of range stops at its end. `value` is a number.
+inline std::int16_t Rounded(double value) {
+    return Saturated(static_cast<std::int64_t>(std::nearbyint(std::clamp(value, -1e6, 1e6))));
+}
+
+}  // namespace prismfall

@@ -1,0 +1,70 @@
+// The playfield: where its walls, floor and lines lie, the colours of the beams, and how a beam is painted and erased.
+// The surface keeps what was painted, so whoever changes a beam paints the change.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "simulation/VMain.h"
+
+namespace prismfall {
+
+// Game pixels.
+constexpr int kLeftWall = 14;    // a head moving left stops at the first x below it
+constexpr int kRightWall = 670;  // a head moving right stops at the first x that reaches it
+constexpr int kFloor = 586;      // a head that would step onto it ends the game
+constexpr std::int16_t kSpawnHeight = 20;
+constexpr int kPlayfieldTop = 20;
+constexpr int kBeamWidth = 5;
+constexpr int kAhead = 3;  // the test point lies this far past the next place of a head, in x and in y
+
+// Below CollisionLineY:
+constexpr int kBlueLine = 20;
+constexpr int kFastEntryLimit = 24;  // where a speeded beam begins to leave a trail
+constexpr int kEntryLimit = 25;      // where a growing beam does
+
+constexpr std::int16_t kArcadeCollisionLineY = 40;
+constexpr std::int16_t kPuzzleCollisionLineY = 0;
+
+// Blue, green, red, yellow; and the grey of a game's end, which no beam has.
+constexpr std::size_t kGrey = 4;
+inline constexpr std::array<Colour, 5> LineColors = {0xFF0000, 0x008000, 0x0000FF, 0x00C0C0, 0x808080};
+inline constexpr std::array<Colour, 5> LineColorsUpper = {0xFFC000, 0x00FF00, 0xC0C0A0, 0xC0FFFF, 0xC0C0C0};
+inline constexpr std::array<Colour, 5> LineColorsLower = {0x800000, 0x000400, 0x0000C0, 0x008080, 0xA0A0A0};
+constexpr Colour kBlueLineColour = 0xFF0000;
+
+// The next place of a head, one pixel down and one sideways, and the point ahead of it at which collisions are looked
+// for.
+struct Step {
+    std::int16_t x;
+    std::int16_t y;
+    std::int16_t testX;
+    std::int16_t testY;
+};
+
+Step NextStep(const CLine& beam);
+
+bool IsAtRightWall(int x);
+// Whether a head that moves in that direction has met a wall at x.
+bool MeetsWall(std::int32_t direction, int x);
+
+// Sets a beam's tail one step behind its head: from here on it leaves a trail.
+void BeginTrail(CLine& beam);
+
+// Paints one piece of beam: a core five pixels wide, a bright edge along its upper side, a dark one along its lower.
+// `Color` is an index into LineColors, kGrey included.
+void DrawLine(VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, std::int32_t Direction);
+
+// Paints a whole beam out in black and repairs the wall that this cut into.
+void EraseLine(VMain& main, const CLine& oLine);
+
+// Brings the frame back beside an end of the beam: the first that applies of head left, tail left, head right, tail
+// right.
+void RepairWalls(VMain& main, const CLine& oLine);
+void RepairLeftWall(VMain& main, int y);
+void RepairRightWall(VMain& main, int y);
+
+// Paints the blue line below which beams can collide.
+void RedrawCollisionLine(VMain& main);
+
+}  // namespace prismfall

@@ -1,0 +1,105 @@
+// See StateDump.h.
+#include "tools/headless/StateDump.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/headless/PrintFormat.h"
+#include "tools/headless/TimerNames.h"
+
+namespace prismfall {
+
+namespace {
+
+int Flag(Boolean value) { return value ? 1 : 0; }
+
+// The place of a beam in Lines, from 1; 0 for one that is no longer there.
+std::ptrdiff_t PlaceOf(const VMain& main, const CLine* beam) {
+    const auto found = std::ranges::find(main.Lines, beam);
+    return found == main.Lines.end() ? 0 : found - main.Lines.begin() + 1;
+}
+
+void PrintPlaces(std::ostream& out, const VMain& main, const std::vector<CLine*>& beams, char separator) {
+    if (beams.empty()) out << '-';
+    for (std::size_t i = 0; i < beams.size(); ++i) {
+        if (i > 0) out << separator;
+        out << PlaceOf(main, beams[i]);
+    }
+}
+
+void PrintBeam(std::ostream& out, const VMain& main, const CLine& beam) {
+    out << "beam " << PlaceOf(main, &beam) << ' ' << beam.XStart << ',' << beam.YStart << ' ' << beam.XEnd << ','
+        << beam.YEnd << " dir=" << beam.Direction << " color=" << beam.Color << " mode=" << beam.RunMode
+        << " thick=" << static_cast<int>(beam.Thicknes) << " deleted=" << Flag(beam.Deleted)
+        << " fast=" << Flag(beam.DeletedByFastLine) << " nr=" << beam.PuzzleLineNr << " links=";
+    PrintPlaces(out, main, beam.LinkedLines, ',');
+    out << " stops=";
+    PrintPlaces(out, main, beam.StoppingLines, ',');
+    out << '\n';
+}
+
+void PrintState(std::ostream& out, const VMain& main) {
+    out << "state mode=" << main.GameMode << " running=" << Flag(main.GameRunning)
+        << " waiting=" << Flag(main.PuzzleWaiting) << " puzzle=" << main.CurrentPuzzle << " page=" << main.PuzzlePage
+        << " level=" << main.Level << " count=" << main.LevelLineCount << " score=" << main.Score
+        << " high=" << main.HighScore << " toggle=" << main.GrowthToggle << " tutorial=" << Flag(main.TutorialActive)
+        << '/' << main.TutorialStep << " liney=" << main.CollisionLineY << '\n';
+}
+
+void PrintTimers(std::ostream& out, const VirtualTimers& timers) {
+    out << "timers";
+    for (const TimerName& row : kTimerNames)
+        out << ' ' << row.name << '=' << (timers.IsOn(row.timer) ? "on" : "off") << ':' << timers.Interval(row.timer);
+    out << '\n';
+}
+
+bool IsPlacedByGame(const Element& element) {
+    return element.kind == ElementKind::PressPicture || element.name.starts_with("LabelSolved") ||
+           element.name == "LabelMulti";
+}
+
+void PrintElement(std::ostream& out, const Element& element) {
+    out << "element " << element.name;
+    if (element.kind == ElementKind::Label) {
+        out << " text=\"" << element.text << '"';
+    } else {
+        out << " picture=" << element.picture;
+    }
+    if (element.name == "CmdStart" || element.name == "cmdPause") out << " tag=\"" << element.tag << '"';
+    if (IsPlacedByGame(element)) out << " at=" << ShortNumber(element.left) << ',' << ShortNumber(element.top);
+    if (element.name == "LabelMulti") out << " color=" << ColourName(element.colour);
+    out << '\n';
+}
+
+}  // namespace
+
+void PrintDump(std::ostream& out, const VMain& main, const VirtualTimers& timers) {
+    PrintState(out, main);
+    PrintTimers(out, timers);
+    for (const CLine* beam : main.Lines) PrintBeam(out, main, *beam);
+    out << "dying ";
+    PrintPlaces(out, main, main.DyingLines, ' ');
+    out << '\n';
+}
+
+void PrintElements(std::ostream& out, const VMain& main) {
+    std::vector<Element*> shown;
+    std::ranges::copy_if(main.window.elements, std::back_inserter(shown),
+                         [](Element* element) { return IsShown(*element); });
+    std::ranges::sort(shown, {}, [](const Element* element) { return element->name; });
+    for (const Element* element : shown) PrintElement(out, *element);
+}
+
+void PrintSettings(std::ostream& out, const VMain& main, std::int64_t time) {
+    out << "settings start=" << main.StartLevel << " gamestart=" << main.GameStartLevel << " music=" << Flag(main.Music)
+        << " effects=" << Flag(main.SoundEffects) << " first=" << Flag(main.PlayFirstTime) << " time=" << time << '\n';
+    for (std::size_t row = 1; row <= kScoreRows; ++row)
+        out << "row " << row << ' ' << main.RowScore[row] << ' ' << main.RowLevel[row] << ' ' << main.RowEndLevel[row]
+            << '\n';
+}
+
+void PrintStore(std::ostream& out, const HeadlessPlatform& platform) {
+    for (const auto& [name, text] : platform.Store()) out << name.first << ' ' << name.second << ' ' << text << '\n';
+}
+
+}  // namespace prismfall

@@ -1,0 +1,18 @@
+// Prints what the game holds, for scripts and people to read: state, beams, elements, settings, store.
+#pragma once
+
+#include <ostream>
+
+#include "platform/headless/HeadlessPlatform.h"
+#include "simulation/VMain.h"
+
+namespace prismfall {
+
+void PrintDump(std::ostream& out, const VMain& main, const VirtualTimers& timers);
+// The visible elements of the main window, sorted by name.
+void PrintElements(std::ostream& out, const VMain& main);
+// The settings in memory and the score table, with the time of the clock.
+void PrintSettings(std::ostream& out, const VMain& main, std::int64_t time);
+void PrintStore(std::ostream& out, const HeadlessPlatform& platform);
+
+}  // namespace prismfall

@@ -1,0 +1,25 @@
+// The timers by name, in the order in which they are printed.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "platform/Platform.h"
+
+namespace prismfall {
+
+struct TimerName {
+    Timer timer;
+    std::string_view name;
+};
+
+inline constexpr std::array<TimerName, kTimerCount> kTimerNames = {{
+    {Timer::LineCreator, "LineCreator"},
+    {Timer::LineExtender, "LineExtender"},
+    {Timer::LineDeleter, "LineDeleter"},
+    {Timer::TimerMulti, "TimerMulti"},
+    {Timer::TimerA, "TimerA"},
+    {Timer::TimerPlayIntro, "TimerPlayIntro"},
+}};
+
+}  // namespace prismfall
