@@ -1,7 +1,6 @@
 // See GameControl.h.
 #include "game/GameControl.h"
 
-#include <string>
 #include <string_view>
 
 #include "audio/Music.h"
@@ -48,11 +47,11 @@ void ShowArcadeScreen(VMain& main) {
 
 void StartScore(VMain& main) {
     main.Score = 0;
-    main.VScore.text = "0";
+    ShowNumber(main.VScore, 0);
     main.LevelLineCount = 0;
     main.Level = main.StartLevel;
     PlayLevelMusic(main, main.Level);
-    main.VLevel.text = std::to_string(main.Level);
+    ShowNumber(main.VLevel, main.Level);
     SetLevelSpeed(main);
     main.GameStartLevel = main.StartLevel;
 }

@@ -1,8 +1,6 @@
 // See PuzzleStart.h.
 #include "game/PuzzleStart.h"
 
-#include <string>
-
 #include "audio/Music.h"
 #include "game/PuzzleCatalogue.h"
 #include "game/PuzzleMenu.h"
@@ -37,7 +35,7 @@ void ShowPuzzleScreen(VMain& main) {
     main.Level = 1;
     PlayLevelMusic(main, main.CurrentPuzzle);
     main.CollisionLineY = kPuzzleCollisionLineY;
-    main.LabelPuzzleNr.text = std::to_string(main.CurrentPuzzle);
+    ShowNumber(main.LabelPuzzleNr, main.CurrentPuzzle);
 }
 
 void ShowButtons(VMain& main, std::string_view startFace, std::string_view startTag) {

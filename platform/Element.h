@@ -59,6 +59,8 @@ struct Element {
     bool operator==(const Element&) const = default;
 };
 
+inline void ShowNumber(Element& label, int number) { label.text = std::to_string(number); }
+
 inline bool IsShown(const Element& element) {
     return element.visible && (element.panel == nullptr || element.panel->visible);
 }

@@ -81,9 +81,9 @@ void MakeHighScores(VMain& main) {
 void FillRows(VMain& main) {
     Window& dialog = *main.VHighScore2;
     for (std::size_t row = 0; row < kScoreRows; ++row) {
-        dialog[kScoreNames[row]].text = std::to_string(main.RowScore[row + 1]);
-        dialog[kLevelNames[row]].text = std::to_string(main.RowLevel[row + 1]);
-        dialog[kEndLevelNames[row]].text = std::to_string(main.RowEndLevel[row + 1]);
+        ShowNumber(dialog[kScoreNames[row]], main.RowScore[row + 1]);
+        ShowNumber(dialog[kLevelNames[row]], main.RowLevel[row + 1]);
+        ShowNumber(dialog[kEndLevelNames[row]], main.RowEndLevel[row + 1]);
     }
 }
 
@@ -117,7 +117,7 @@ void ClearScores(VMain& main) {
     main.RowEndLevel.fill(0);
     if (main.VHighScore2) FillRows(main);
     main.HighScore = 0;
-    main.VHighScore.text = "0";
+    ShowNumber(main.VHighScore, 0);
 }
 
 void ClearPuzzleProgress(VMain& main) {

@@ -2,7 +2,6 @@
 #include "screens/MainWindow.h"
 
 #include <array>
-#include <string>
 
 #include "audio/Music.h"
 #include "game/GameControl.h"
@@ -75,14 +74,14 @@ void StopGame(VMain& main) {
 }
 
 void ShowStartNumbers(VMain& main) {
-    main.VScore.text = "0";
+    ShowNumber(main.VScore, 0);
     main.Level = 1;
-    main.VLevel.text = "0";  // until a game shows its own
+    ShowNumber(main.VLevel, 0);  // until a game shows its own
 }
 
 void TakeHighScore(VMain& main) {
     main.HighScore = main.RowScore[1];
-    main.VHighScore.text = std::to_string(main.HighScore);
+    ShowNumber(main.VHighScore, main.HighScore);
 }
 
 }  // namespace

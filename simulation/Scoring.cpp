@@ -2,7 +2,6 @@
 #include "simulation/Scoring.h"
 
 #include <algorithm>
-#include <string>
 
 #include "audio/Music.h"
 #include "simulation/Playfield.h"
@@ -25,7 +24,7 @@ void StartPopUp(VMain& main, std::int16_t N, std::int16_t points) {
     const float popX = static_cast<float>(main.MultiSumX) / static_cast<float>(N);
     const float popY = static_cast<float>(main.MultiSumY) / static_cast<float>(N);
     main.LabelMulti.visible = true;
-    main.LabelMulti.text = std::to_string(points);
+    ShowNumber(main.LabelMulti, points);
     main.LabelMulti.left = popX + (main.MultiDirection == kRightwards ? kPopUpAside : 0.0F);
     main.LabelMulti.top = popY + kPopUpAbove;
     main.LabelMulti.colour = LineColors[static_cast<std::size_t>(main.MultiColor)];
@@ -38,7 +37,7 @@ std::int16_t LevelTarget(const VMain& main) { return Saturated(main.Level * 8 + 
 void RaiseLevel(VMain& main) {
     main.Level = Saturated(main.Level + 1);
     main.LevelLineCount = 0;
-    main.VLevel.text = std::to_string(main.Level);
+    ShowNumber(main.VLevel, main.Level);
     PlayLevelMusic(main, main.Level);
 }
 
@@ -50,9 +49,9 @@ void AddScore(VMain& main, std::int16_t N) {
     main.Score = Saturated(main.Score + points);
     if (main.Score > main.HighScore) {
         main.HighScore = main.Score;
-        main.VHighScore.text = std::to_string(main.HighScore);
+        ShowNumber(main.VHighScore, main.HighScore);
     }
-    main.VScore.text = std::to_string(main.Score);
+    ShowNumber(main.VScore, main.Score);
     main.LevelLineCount = Saturated(main.LevelLineCount + N);
     if (main.LevelLineCount >= LevelTarget(main)) RaiseLevel(main);
 }
