@@ -70,13 +70,13 @@ void DrawPreviewBeam(VMain& main, const Cell& cell, CatalogueEntry beam) {
 
 void DrawCell(VMain& main, int row, int column) {
     const Cell cell = CellAt(row, column);
-    const auto k = static_cast<std::size_t>(kMenuColumns * row + column);
-    const std::size_t puzzle = static_cast<std::size_t>(main.PuzzlePage - 1) * kPuzzlesPerPage + k;
+    const int k = kMenuColumns * row + column;
+    const int puzzle = (main.PuzzlePage - 1) * kPuzzlesPerPage + k;
     const int left = cell.left + kLeftWall;
     const int top = cell.top + kPlayfieldTop;
     main.platform.SurfaceBox(left, top, left + cell.width, top + cell.height, kCellColour, kPenWidth);
-    PlaceMark(main, cell, k, puzzle);
-    ForEachRecord(main.Puzzles[puzzle], layout::kFields,
+    PlaceMark(main, cell, static_cast<std::size_t>(k), static_cast<std::size_t>(puzzle));
+    ForEachRecord(main.Puzzles[static_cast<std::size_t>(puzzle)], layout::kFields,
                   [&](CatalogueEntry beam) { DrawPreviewBeam(main, cell, beam); });
 }
 

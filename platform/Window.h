@@ -2,6 +2,7 @@
 // player or the desktop acts on it. What the handlers do belongs to the screens and the game.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -65,9 +66,9 @@ struct Window {
 
     // The topmost element at a place that the mouse can meet (shown and enabled), or nothing for the surface.
     Element* ElementAt(float x, float y) {
-        for (auto it = elements.rbegin(); it != elements.rend(); ++it)
-            if (Covers(**it, x, y)) return *it;
-        return nullptr;
+        const auto covers = [x, y](const Element* element) { return Covers(*element, x, y); };
+        const auto topmost = std::find_if(elements.rbegin(), elements.rend(), covers);
+        return topmost == elements.rend() ? nullptr : *topmost;
     }
 
   private:

@@ -72,6 +72,7 @@ Element MakeText(const Text& text) {
 
 std::vector<Element> MakeElements() {
     std::vector<Element> table;
+    table.reserve(kTexts.size() + 3);
     for (const Text& text : kTexts) table.push_back(MakeText(text));
     Element picture = MakePicture("Image1", 202, 28, 195, 58);
     picture.picture = "AboutPicture";

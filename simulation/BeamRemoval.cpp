@@ -26,7 +26,7 @@ void ThinOne(VMain& main, CLine& beam, std::int16_t thickness, Boolean byFastLin
 CLine* NextLinked(CLine& beam, std::int16_t thickness) {
     while (beam.removalWalk.nextLink < beam.LinkedLines.size()) {
         CLine* linked = beam.LinkedLines[beam.removalWalk.nextLink++];
-        if (linked->Color == beam.Color && linked->Thicknes != thickness) return linked;
+        if (linked->Color == beam.Color && linked->Thicknes != static_cast<float>(thickness)) return linked;
     }
     return nullptr;
 }

@@ -16,6 +16,14 @@ constexpr int kCannotOpen = 1;
 constexpr int kFrameWidth = 4;
 constexpr int kFrameHeight = 27;
 
+// A press and a click of the left button.
+void Answer(Window& dialog, const std::string& name) {
+    Element* element = dialog.Find(name);
+    if (element == nullptr || !IsShown(*element) || !element->enabled || !HasClick(*element)) return;
+    if (dialog.on.elementDown) dialog.on.elementDown(*element, MouseButton::Left, 0, 0);
+    if (dialog.on.elementClick) dialog.on.elementClick(*element);
+}
+
 }  // namespace
 
 void HeadlessPlatform::Run(std::int64_t milliseconds) {
@@ -98,14 +106,6 @@ bool HeadlessPlatform::ShowModally(Window& dialog) {
     const bool wasHidden = !dialog.visible;
     dialog.visible = false;
     return wasHidden;
-}
-
-// A press and a click of the left button.
-void HeadlessPlatform::Answer(Window& dialog, const std::string& name) {
-    Element* element = dialog.Find(name);
-    if (element == nullptr || !IsShown(*element) || !element->enabled || !HasClick(*element)) return;
-    if (dialog.on.elementDown) dialog.on.elementDown(*element, MouseButton::Left, 0, 0);
-    if (dialog.on.elementClick) dialog.on.elementClick(*element);
 }
 
 Extent HeadlessPlatform::OuterSize(const Window& window) {

@@ -86,7 +86,6 @@ class HeadlessPlatform : public Platform {
   private:
     void PrintStroke(const char* operation, int x1, int y1, int x2, int y2, Colour colour, int width);
     void FireDue(std::int64_t until);
-    void Answer(Window& dialog, const std::string& name);
 
     std::ostream& out;
     Surface surface;

@@ -33,7 +33,7 @@ std::string ColourName(Colour colour) {
 
 std::string DialogTitle(Window& dialog) {
     const Element* message = dialog.Find("ImageMessage");
-    const std::string name(dialog.name);
+    std::string name(dialog.name);
     if (message == nullptr) return name;
     return name + (message->picture == "PuzzleSolved" ? " solved" : " failed");
 }
