@@ -1,0 +1,89 @@
+// A block of pixels to compose on, and pictures to lay on it. Everything is 32-bit ARGB with the colours already
+// multiplied by their opacity, so that pictures can be scaled and laid over one another without dark seams. What is
+// drawn where belongs to others.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "platform/Element.h"
+#include "platform/Surface.h"
+
+namespace prismfall {
+
+// What both boxes cover; empty if they do not meet.
+PixelBox Overlap(const PixelBox& a, const PixelBox& b);
+// The smallest box around both. An empty one adds nothing.
+PixelBox Around(const PixelBox& a, const PixelBox& b);
+long Area(const PixelBox& box);
+
+// 0xBBGGRR as an opaque pixel.
+std::uint32_t PixelOf(Colour colour);
+// A pixel at a share of its strength, from 0 to 255.
+std::uint32_t Weakened(std::uint32_t pixel, std::uint32_t share);
+
+struct Image {
+    Image() = default;
+    Image(int imageWidth, int imageHeight);
+
+    std::uint32_t* Row(int y) { return &pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width)]; }
+    const std::uint32_t* Row(int y) const {
+        return &pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width)];
+    }
+
+    int width = 0;
+    int height = 0;
+    bool opaque = false;  // no pixel lets anything through
+    std::vector<std::uint32_t> pixels;
+};
+
+// The two pixels of a row or column between which a pixel of its scaled likeness lies, and the second one's share of
+// 256.
+struct Between {
+    int first = 0;
+    int second = 0;
+    std::uint32_t share = 0;
+};
+Between NeighboursAt(int place, float scale, int size);
+// A pixel smoothed from the four around it.
+std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Between& column,
+                      std::uint32_t shareOfLower);
+
+// The picture in another size, smoothed.
+Image Scaled(const Image& image, int width, int height);
+
+class Canvas {
+  public:
+    // `stride` is the distance between rows in pixels. The pixels must outlive the canvas.
+    Canvas(std::uint32_t* pixels, int width, int height, int stride);
+
+    // Nothing outside `clip` is drawn from now on; at first everything may be.
+    void SetClip(const PixelBox& box);
+    const PixelBox& Clip() const { return clip; }
+
+    void Fill(const PixelBox& box, std::uint32_t pixel);
+    void Draw(const Image& image, int left, int top);
+    // A straight stroke with round ends and smooth edges; without length it is a disc.
+    void Stroke(float x1, float y1, float x2, float y2, float width, std::uint32_t pixel);
+    std::uint32_t* Row(int y) { return pixels + static_cast<std::ptrdiff_t>(y) * stride; }
+
+  private:
+    std::uint32_t* pixels;
+    PixelBox bounds;
+    PixelBox clip;
+    int stride;
+};
+
+// `over` laid over `below`.
+inline std::uint32_t Blend(std::uint32_t over, std::uint32_t below) {
+    const std::uint32_t through = 255 - (over >> 24);
+    if (through == 0) return over;
+    const std::uint32_t oddParts = ((below >> 8) & 0xFF00FF) * through + 0x800080;
+    const std::uint32_t evenParts = (below & 0xFF00FF) * through + 0x800080;
+    const std::uint32_t odd = (oddParts + ((oddParts >> 8) & 0xFF00FF)) & 0xFF00FF00;
+    const std::uint32_t even = ((evenParts + ((evenParts >> 8) & 0xFF00FF)) >> 8) & 0xFF00FF;
+    return over + (odd | even);
+}
+
+}  // namespace prismfall

@@ -1,0 +1,147 @@
+// What pictures, labels, marks and frames look like.
+#include "platform/sdl/ElementPainter.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace prismfall {
+
+namespace {
+
+constexpr float kMarkSize = 13;       // of a radio button's circle and a check box's square, in game pixels
+constexpr float kMarkGap = 4;         // between the mark and the text
+constexpr float kFrameTextInset = 8;  // of a group frame's text from the frame's left edge
+constexpr std::uint32_t kFrameStrength = 0x90;
+constexpr std::uint32_t kPlaceholderGround = 0xFF202020;
+constexpr Font kPlaceholderFont{.family = "MS Sans Serif", .points = 9};
+constexpr Colour kPlaceholderColour = 0xC0C0C0;
+
+void DrawOutline(Canvas& canvas, const PixelBox& box, std::uint32_t pixel, int width) {
+    canvas.Fill({box.left, box.top, box.right, box.top + width}, pixel);
+    canvas.Fill({box.left, box.bottom - width, box.right, box.bottom}, pixel);
+    canvas.Fill({box.left, box.top, box.left + width, box.bottom}, pixel);
+    canvas.Fill({box.right - width, box.top, box.right, box.bottom}, pixel);
+}
+
+int LineWidth(const Display& display) { return std::max(1, display.Pixels(1)); }
+
+void DrawPicture(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
+    if (element.picture.empty()) return;
+    if (const Image* image = display.pictures.Find(element.picture); image != nullptr) {
+        canvas.Draw(*image, box.left, box.top);
+        return;
+    }
+    canvas.Fill(box, kPlaceholderGround);
+    DrawOutline(canvas, box, PixelOf(kPlaceholderColour), LineWidth(display));
+    display.text.DrawLine(canvas, element.picture, kPlaceholderFont, kPlaceholderColour, box.left + display.Pixels(4),
+                          box.top + display.Pixels(4));
+}
+
+void DrawLabel(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
+    if (element.ground) canvas.Fill(box, PixelOf(*element.ground));
+    const int height = display.text.LineHeight(element.font);
+    const int width = element.wraps ? box.right - box.left : 0;
+    int top = box.top;
+    for (const std::string& line : display.text.Lines(element.text, element.font, width)) {
+        display.text.DrawLine(canvas, line, element.font, element.colour, box.left, top);
+        top += height;
+    }
+}
+
+void DrawRadioMark(Canvas& canvas, const Element& element, float left, float middle, float size, float line) {
+    const std::uint32_t pixel = PixelOf(element.colour);
+    const std::uint32_t ground = PixelOf(element.ground.value_or(kBlack));
+    const float centre = left + size / 2;
+    canvas.Stroke(centre, middle, centre, middle, size, pixel);
+    canvas.Stroke(centre, middle, centre, middle, size - 2 * line, ground);
+    if (element.checked) canvas.Stroke(centre, middle, centre, middle, size - 6 * line, pixel);
+}
+
+void DrawCheckMark(Canvas& canvas, const Element& element, float left, float middle, float size, float line) {
+    const std::uint32_t pixel = PixelOf(element.colour);
+    const float top = middle - size / 2;
+    DrawOutline(
+        canvas,
+        {static_cast<int>(left), static_cast<int>(top), static_cast<int>(left + size), static_cast<int>(top + size)},
+        pixel, static_cast<int>(line));
+    if (!element.checked) return;
+    const auto stroke = [&](float x1, float y1, float x2, float y2) {
+        canvas.Stroke(left + x1 * size, top + y1 * size, left + x2 * size, top + y2 * size, 2 * line, pixel);
+    };
+    stroke(0.26F, 0.52F, 0.43F, 0.70F);
+    stroke(0.43F, 0.70F, 0.76F, 0.30F);
+}
+
+void DrawMarkedText(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
+    canvas.Fill(box, PixelOf(element.ground.value_or(kBlack)));
+    // Whole and of the same parity as its line, so that the square's edges are sharp and the circle is round.
+    const auto size = static_cast<float>(display.Pixels(kMarkSize));
+    const auto top = static_cast<float>((box.top + box.bottom - static_cast<int>(size)) / 2);
+    const auto left = static_cast<float>(box.left);
+    const auto line = static_cast<float>(LineWidth(display));
+    const auto draw = element.kind == ElementKind::RadioButton ? DrawRadioMark : DrawCheckMark;
+    draw(canvas, element, left, top + size / 2, size, line);
+    const int textTop = (box.top + box.bottom - display.text.LineHeight(element.font)) / 2;
+    display.text.DrawLine(canvas, element.text, element.font, element.colour,
+                          box.left + static_cast<int>(size) + display.Pixels(kMarkGap), textTop);
+}
+
+void DrawGroupFrame(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
+    const std::uint32_t ground = PixelOf(element.ground.value_or(kBlack));
+    canvas.Fill(box, ground);
+    PixelBox frame = box;
+    frame.top += display.text.LineHeight(element.font) / 2;
+    const std::uint32_t shade = Blend(Weakened(PixelOf(element.colour), kFrameStrength), ground);
+    DrawOutline(canvas, frame, shade, LineWidth(display));
+    const int left = box.left + display.Pixels(kFrameTextInset);
+    const int gap = display.Pixels(2);
+    const int right = left + display.text.Width(element.text, element.font);
+    canvas.Fill({left - gap, box.top, right + gap, frame.top + LineWidth(display)}, ground);
+    display.text.DrawLine(canvas, element.text, element.font, element.colour, left, box.top);
+}
+
+}  // namespace
+
+void Display::SetScale(float newScale) {
+    scale = newScale;
+    pictures.SetScale(newScale);
+    text.SetScale(newScale);
+}
+
+int Display::Pixels(float gamePixels) const { return static_cast<int>(std::nearbyint(gamePixels * scale)); }
+
+PixelBox WholeBox(const Element& element, const Display& display) {
+    const float left = element.left + (element.panel != nullptr ? element.panel->left : 0);
+    const float top = element.top + (element.panel != nullptr ? element.panel->top : 0);
+    const PixelBox corner{display.Pixels(left), display.Pixels(top), 0, 0};
+    return {corner.left, corner.top, corner.left + display.Pixels(static_cast<float>(element.width)),
+            corner.top + display.Pixels(static_cast<float>(element.height))};
+}
+
+PixelBox VisibleBox(const Element& element, const Display& display) {
+    const PixelBox box = WholeBox(element, display);
+    return element.panel != nullptr ? Overlap(box, WholeBox(*element.panel, display)) : box;
+}
+
+void DrawElement(Canvas& canvas, const Element& element, const PixelBox& area, Display& display) {
+    canvas.SetClip(Overlap(area, VisibleBox(element, display)));
+    if (canvas.Clip().IsEmpty()) return;
+    const PixelBox box = WholeBox(element, display);
+    switch (element.kind) {
+        case ElementKind::Picture:
+        case ElementKind::Button:
+        case ElementKind::PressPicture:
+            return DrawPicture(canvas, element, box, display);
+        case ElementKind::Label:
+            return DrawLabel(canvas, element, box, display);
+        case ElementKind::RadioButton:
+        case ElementKind::CheckBox:
+            return DrawMarkedText(canvas, element, box, display);
+        case ElementKind::GroupFrame:
+            return DrawGroupFrame(canvas, element, box, display);
+        case ElementKind::Outline:
+            return DrawOutline(canvas, box, PixelOf(element.colour), LineWidth(display));
+    }
+}
+
+}  // namespace prismfall

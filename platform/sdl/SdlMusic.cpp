@@ -1,0 +1,117 @@
+// Music by SDL_mixer, which cannot change a playing track from looping to playing once: that takes a new start at the
+// same place.
+#include "platform/sdl/SdlMusic.h"
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace prismfall {
+
+namespace {
+
+constexpr int kFullVolume = 1000;
+constexpr int kEndless = -1;
+constexpr int kOnce = 1;
+
+// The reason why a file cannot be read, or nothing.
+std::string ReadingFailure(const std::string& path) {
+    SDL_RWops* file = SDL_RWFromFile(path.c_str(), "rb");
+    if (file == nullptr) return SDL_GetError();
+    char byte = 0;
+    const bool readable = SDL_RWread(file, &byte, 1, 1) == 1;
+    SDL_RWclose(file);
+    return readable ? std::string() : "Couldn't read " + path;
+}
+
+}  // namespace
+
+std::string SdlMusic::Open(const std::string& file) {
+    Close();
+    if (std::string failure = ReadingFailure(file); !failure.empty()) return failure;
+    path = file;
+    if (!device.Open() || Load()) return {};
+    const std::string failure = Mix_GetError();
+    path.clear();
+    return failure.empty() ? "Couldn't play " + file : failure;
+}
+
+bool SdlMusic::Load() {
+    if (music == nullptr) music = Mix_LoadMUS(path.c_str());
+    if (music != nullptr) SetVolume(volume);
+    return music != nullptr;
+}
+
+void SdlMusic::Unload() {
+    if (music == nullptr) return;
+    Mix_HaltMusic();
+    Mix_FreeMusic(music);
+    music = nullptr;
+}
+
+void SdlMusic::Close() {
+    Unload();
+    path.clear();
+    state = State::Stopped;
+    place = 0;
+}
+
+void SdlMusic::SetVolume(int newVolume) {
+    volume = std::clamp(newVolume, 0, kFullVolume);
+    if (music == nullptr) return;
+    Mix_VolumeMusic(static_cast<int>(std::lround(static_cast<double>(volume) * MIX_MAX_VOLUME / kFullVolume)));
+}
+
+void SdlMusic::PlayFrom(double seconds, State newState) {
+    if (path.empty()) return;
+    state = newState;
+    place = seconds;
+    if (!device.Open() || !Load()) return;
+    // A fade of no length is the one call that starts at a place without letting the track's beginning be heard.
+    Mix_FadeInMusicPos(music, newState == State::Looping ? kEndless : kOnce, 0, seconds);
+}
+
+void SdlMusic::RememberPlace() {
+    if (music != nullptr) place = std::max(0.0, Mix_GetMusicPosition(music));
+}
+
+void SdlMusic::PlayLooping() { PlayFrom(0, State::Looping); }
+
+void SdlMusic::Resume() {
+    if (state == State::PlayingOnce) return;
+    if (state == State::Looping) RememberPlace();
+    PlayFrom(place, State::PlayingOnce);
+}
+
+void SdlMusic::Pause() {
+    if (state == State::Stopped || state == State::Paused) return;
+    // A track that has played to its end has nothing left to resume.
+    if (state == State::PlayingOnce && music != nullptr && Mix_PlayingMusic() == 0) return;
+    RememberPlace();
+    if (music != nullptr) Mix_PauseMusic();
+    state = State::Paused;
+}
+
+void SdlMusic::Stop() {
+    if (music != nullptr) Mix_HaltMusic();
+    state = State::Stopped;
+    place = 0;
+}
+
+bool SdlMusic::IsSounding() const { return music != nullptr && Mix_PlayingMusic() != 0 && state != State::Paused; }
+
+void SdlMusic::Release() {
+    if (IsSounding()) RememberPlace();
+    // A track played once that is over must not start again with the next device.
+    const bool isOver = state == State::PlayingOnce && music != nullptr && Mix_PlayingMusic() == 0;
+    Unload();
+    if (isOver) path.clear();
+}
+
+void SdlMusic::TakeUp() {
+    if (state == State::Looping || state == State::PlayingOnce) PlayFrom(place, state);
+}
+
+}  // namespace prismfall

@@ -1,0 +1,22 @@
+// What SDL does not tell an X11 desktop about a window, and what it does not ask it. On another kind of desktop nothing
+// happens and the usual values come back.
+#pragma once
+
+struct SDL_Window;
+
+namespace prismfall {
+
+struct DesktopFacts {
+    float scale = 1;  // how many pixels the user wants for a pixel of a plain display, 1 or more
+    int doubleClickMilliseconds = 500;
+};
+
+// To be asked once, before the first window.
+DesktopFacts AskDesktop();
+
+// For a window that is not shown yet. A main window can be closed, moved and minimised; a dialog, which belongs to
+// `owner` and keeps the input from it, cannot be minimised.
+void SetMainFrame(SDL_Window* window);
+void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner);
+
+}  // namespace prismfall
