@@ -2,9 +2,12 @@
 #include "platform/sdl/AudioThread.h"
 
 #include <future>
+#include <memory>
 #include <utility>
 
 namespace prismfall {
+
+AudioThread::~AudioThread() { Finish(std::chrono::hours(1)); }
 
 void AudioThread::Post(Task task) {
     {
@@ -12,17 +15,17 @@ void AudioThread::Post(Task task) {
         if (ending) return;
         tasks.push_back(std::move(task));
     }
-    changed.notify_one();
+    changed.notify_all();
     if (!thread.joinable()) thread = std::thread([this] { Run(); });
 }
 
-void AudioThread::Call(const Task& task) {
-    std::promise<void> done;
-    Post([&] {
+bool AudioThread::Call(Task task, std::chrono::milliseconds limit) {
+    const auto done = std::make_shared<std::promise<void>>();
+    Post([done, task = std::move(task)] {
         task();
-        done.set_value();
+        done->set_value();
     });
-    done.get_future().wait();
+    return done->get_future().wait_for(limit) == std::future_status::ready;
 }
 
 void AudioThread::RunLater(std::optional<std::chrono::milliseconds> delay, Task task) {
@@ -32,13 +35,14 @@ void AudioThread::RunLater(std::optional<std::chrono::milliseconds> delay, Task 
     later = std::move(task);
 }
 
-void AudioThread::Finish() {
-    {
-        const std::lock_guard lock(mutex);
-        ending = true;
-    }
-    changed.notify_one();
+bool AudioThread::Finish(std::chrono::milliseconds limit) {
+    std::unique_lock lock(mutex);
+    ending = true;
+    changed.notify_all();
+    if (thread.joinable() && !changed.wait_for(lock, limit, [this] { return ended; })) return false;
+    lock.unlock();
     if (thread.joinable()) thread.join();
+    return true;
 }
 
 void AudioThread::Run() {
@@ -55,6 +59,8 @@ void AudioThread::Run() {
             task = std::move(tasks.front());
             tasks.pop_front();
         } else if (ending) {
+            ended = true;
+            changed.notify_all();
             return;
         } else {
             laterAt.reset();

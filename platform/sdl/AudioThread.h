@@ -19,16 +19,18 @@ class AudioThread {
     AudioThread() = default;
     AudioThread(const AudioThread&) = delete;
     AudioThread& operator=(const AudioThread&) = delete;
-    ~AudioThread() { Finish(); }
+    ~AudioThread();
 
     // Runs a task as soon as those before it are done. The thread begins with the first one.
     void Post(Task task);
-    // Runs a task likewise and returns when it is done.
-    void Call(const Task& task);
+    // Runs a task likewise and returns true when it is done, or false if it is not done within `limit`; it is done
+    // later then, so what it refers to must last.
+    bool Call(Task task, std::chrono::milliseconds limit);
     // Only within a task: runs another one after some time, in place of the one that was to run before. Nothing: none.
     void RunLater(std::optional<std::chrono::milliseconds> delay, Task task);
-    // Does what has been posted and ends the thread.
-    void Finish();
+    // Does what has been posted and ends the thread. False if that is not done within `limit`; the thread is then left
+    // to itself and must not be destroyed.
+    bool Finish(std::chrono::milliseconds limit);
 
   private:
     void Run();
@@ -39,6 +41,7 @@ class AudioThread {
     std::optional<std::chrono::steady_clock::time_point> laterAt;
     Task later;
     bool ending = false;
+    bool ended = false;
     std::thread thread;
 };
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <string_view>
 
 namespace prismfall {
@@ -13,6 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kSilenceBeforeClosing = 3s;
+constexpr auto kLongestWait = 700ms;  // for the audio thread; a device opens and closes within a tenth of it
 constexpr int kFailureCode = 1;
 
 std::uint32_t Number(std::span<const std::byte> bytes, std::size_t at) {
@@ -38,10 +40,13 @@ void SdlAudio::PlayWave(std::span<const std::byte> wave) {
 
 int SdlAudio::MusicOpen(const std::string& path) {
     used = true;
-    thread.Call([&] {
-        failure = music.Open(path);
+    const auto answer = std::make_shared<std::string>();
+    const auto open = [this, path, answer] {
+        *answer = music.Open(path);
         CloseWhenSilent();
-    });
+    };
+    // With a sound server that hangs nothing will be heard, which is no failure of the file.
+    failure = thread.Call(open, kLongestWait) ? *answer : std::string();
     return failure.empty() ? 0 : kFailureCode;
 }
 
@@ -78,15 +83,14 @@ void SdlAudio::CloseWhenSilent() {
     });
 }
 
-void SdlAudio::Finish() {
-    if (!used) return;
+bool SdlAudio::Finish() {
+    if (!used) return true;
     thread.Post([this] {
         sound.Release();
         music.Close();
         device.Close();
     });
-    thread.Finish();
-    used = false;
+    return thread.Finish(kLongestWait);
 }
 
 std::chrono::nanoseconds WaveLength(std::span<const std::byte> wave) {

@@ -29,8 +29,8 @@ class SdlAudio {
     void DoWithMusic(std::function<void(SdlMusic&)> action);
     // The device has gone: what played plays on another one, if there is one.
     void DeviceLost();
-    // Silence, and the end of the audio thread.
-    void Finish();
+    // Silence, and the end of the audio thread. False if the sound server hangs; only the process's end helps then.
+    bool Finish();
 
   private:
     void CloseWhenSilent();

@@ -99,6 +99,10 @@ void SdlDesktop::Refresh() {
     for (const Shown& shown : windows) shown.real->Refresh();
 }
 
+void SdlDesktop::HideAll() {
+    for (auto shown = windows.rbegin(); shown != windows.rend(); ++shown) shown->real->HideNow();
+}
+
 void SdlDesktop::Handle(const SDL_Event& event) {
     if (event.type == SDL_QUIT) return endAsked();
     if (event.type == SDL_AUDIODEVICEREMOVED && event.adevice.iscapture == 0) return soundLost();

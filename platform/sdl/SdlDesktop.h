@@ -37,6 +37,8 @@ class SdlDesktop {
     // Whether the window's close box has been used; only a dialog lives on after that.
     bool CloseBoxUsed(const Window& window) const;
     void Refresh();
+    // Takes the windows off the display at once, dialogs first.
+    void HideAll();
     void Handle(const SDL_Event& event);
     // Tells the main window whether it is minimised, if that has changed since it was told last.
     void DeliverMinimised();

@@ -79,16 +79,20 @@ void SdlMusic::RememberPlace() {
 
 void SdlMusic::PlayLooping() { PlayFrom(0, State::Looping); }
 
+void SdlMusic::NoticeEnd() {
+    if (state == State::PlayingOnce && music != nullptr && Mix_PlayingMusic() == 0) state = State::Over;
+}
+
 void SdlMusic::Resume() {
-    if (state == State::PlayingOnce) return;
+    NoticeEnd();
+    if (state == State::PlayingOnce || state == State::Over) return;
     if (state == State::Looping) RememberPlace();
     PlayFrom(place, State::PlayingOnce);
 }
 
 void SdlMusic::Pause() {
-    if (state == State::Stopped || state == State::Paused) return;
-    // A track that has played to its end has nothing left to resume.
-    if (state == State::PlayingOnce && music != nullptr && Mix_PlayingMusic() == 0) return;
+    NoticeEnd();
+    if (state != State::Looping && state != State::PlayingOnce) return;
     RememberPlace();
     if (music != nullptr) Mix_PauseMusic();
     state = State::Paused;
@@ -103,11 +107,9 @@ void SdlMusic::Stop() {
 bool SdlMusic::IsSounding() const { return music != nullptr && Mix_PlayingMusic() != 0 && state != State::Paused; }
 
 void SdlMusic::Release() {
+    NoticeEnd();
     if (IsSounding()) RememberPlace();
-    // A track played once that is over must not start again with the next device.
-    const bool isOver = state == State::PlayingOnce && music != nullptr && Mix_PlayingMusic() == 0;
     Unload();
-    if (isOver) path.clear();
 }
 
 void SdlMusic::TakeUp() {

@@ -31,12 +31,13 @@ class SdlMusic {
     void TakeUp();
 
   private:
-    enum class State { Stopped, Looping, PlayingOnce, Paused };
+    enum class State { Stopped, Looping, PlayingOnce, Paused, Over };  // Over: played to its end once
 
     bool Load();
     void Unload();
     void PlayFrom(double seconds, State newState);
     void RememberPlace();
+    void NoticeEnd();
 
     AudioDevice& device;
     _Mix_Music* music = nullptr;

@@ -69,7 +69,8 @@ void SdlPlatform::CloseProgram() {
 // Handlers may stand below this call, on data that the program's end must not touch: the process ends here, without
 // going back through them.
 void SdlPlatform::EndProgram() {
-    audio.Finish();
+    desktop.HideAll();
+    if (!audio.Finish()) std::_Exit(EXIT_SUCCESS);
     SDL_Quit();
     std::exit(EXIT_SUCCESS);
 }
