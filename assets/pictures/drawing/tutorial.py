@@ -1,0 +1,104 @@
+"""The eight pictures of the tutorial: a white frame with white words, an arrow, and the spot that has to be clicked.
+
+Each lies among the beams at a fixed moment of puzzle 1 and shows what it covers: pieces of beams, and of the frame of
+the playfield where it reaches over that. All places are pixels of the picture; the spots are those the game tests.
+"""
+
+from beams import Pixels
+from buttons import PILL_DEFS, pill
+from lettering import text_path, text_width
+from neon import PALE, SOFT, TUBE, WHITE, centred_text, document, stroke
+from scenery import frame
+
+YELLOW, RED, BLUE = 3, 2, 0
+LEFT, RIGHT = 1, 2
+
+# Place on the playfield and size.
+PLACES = ((325, 54, 209, 114), (323, 74, 216, 148), (13, 177, 184, 89), (449, 64, 191, 165),
+          (20, 420, 197, 116), (468, 173, 186, 149), (13, 291, 213, 94), (84, 484, 200, 109))
+
+# The beams that show: start, the y to which the puzzle lays it out, the y of its head by now, direction and colour.
+BEAMS = ((),
+         ((174, 20, 180, 189, RIGHT, RED), (414, 180, 324, 333, LEFT, YELLOW)),
+         ((14, 20, 180, 213, RIGHT, YELLOW), (254, 180, 340, 373, LEFT, RED), (14, 180, 204, 237, RIGHT, YELLOW)),
+         ((614, 20, 88, 88, LEFT, BLUE),),
+         (),
+         (),
+         ((254, 180, 340, 421, LEFT, RED), (414, 180, 324, 476, LEFT, YELLOW), (14, 180, 204, 296, RIGHT, YELLOW),
+          (343, 189, 189, 332, LEFT, RED)),
+         ((414, 180, 324, 521, LEFT, YELLOW),))
+
+# Frame (left, top, right, bottom), first baseline, lines of text.
+TEXTS = (((4, 4, 205, 110), 20, ("In puzzle mode the goal", "is to clear all beams before", "they reach the ground")),
+         ((56, 4, 210, 62), 24, ("Bend the red beam", "by clicking on the end")),
+         ((66, 3, 155, 87), 16, ("The yellow beam", "is stopped", "by the red")),
+         ((6, 84, 185, 160), 106, ("Start the blue", "non-moving beam", "by clicking on the end")),
+         ((12, 18, 191, 110), 42, ("The beam is reflected", "by the wall")),
+         ((10, 16, 180, 144), 40, ("When beams of the", "same color collide", "they are destroyed")),
+         ((6, 8, 142, 86), 28, ("Make the red beam", "go faster by", "right-clicking", "on the end")),
+         ((26, 4, 195, 100), 22, ("If the yellow beam", "reaches the ground", "the game is over!")))
+LINE = 15
+
+# Shaft and point of each arrow.
+ARROWS = (None, ((56, 62), (38, 94)), ((155, 40), (180, 40)), ((100, 84), (100, 46)), ((30, 24), (5, 5)), ((26, 22), (7, 5)),
+          ((142, 36), (170, 37)), ((26, 37), (3, 37)))
+
+# Buttons (left, top, right, bottom of the pill, words, height of the lettering) and words that stand on a beam's end
+# (middle, first baseline, words, height of the lettering).
+BUTTONS = (((15, 76, 67, 104, ("Skip", "Tutorial"), 8.5), (124, 81, 197, 104, ("OK",), 11)), (),
+           ((91, 60, 123, 83, ("OK",), 10),), (), ((148, 76, 179, 100, ("OK",), 10),), ((128, 106, 167, 128, ("OK",), 10),),
+           (), ((150, 76, 185, 96, ("OK",), 10),))
+CALLS = (None, (22, 107, ("Click", "Here!"), 8), None, (100, 22, ("Click", "Here!"), 8), None, None,
+         (187, 27, ("Right", "Click", "Here!"), 7), None)
+
+
+def picture(index):
+    left, top, width, height = PLACES[index]
+    body = f'<g transform="translate({-left} {-top})">\n{frame()}</g>\n'
+    pixels = Pixels(left, top, width, height)
+    for beam in BEAMS[index]:
+        pixels.beam(*beam)
+    body += pixels.svg() + framed_text(*TEXTS[index])
+    if ARROWS[index]:
+        body += arrow(*ARROWS[index])
+    for button in BUTTONS[index]:
+        body += small_button(*button)
+    if CALLS[index]:
+        body += call(*CALLS[index])
+    return document(width, height, body, PILL_DEFS[False])
+
+
+def framed_text(frame_box, baseline, lines):
+    left, top, right, bottom = frame_box
+    body = (f'<rect x="{left + 0.5}" y="{top + 0.5}" width="{right - left - 1}" height="{bottom - top - 1}" rx="5" '
+            f'fill="#000000" stroke="{WHITE}" stroke-width="1"/>\n')
+    for row, line in enumerate(lines):
+        x = (left + right - text_width(line, 1.0)) / 2
+        body += stroke(text_path(line, x, baseline + row * LINE + 0.5, 1.0, snap=True), WHITE, 1.25)
+    return body
+
+
+def arrow(tail, tip):
+    length = ((tip[0] - tail[0]) ** 2 + (tip[1] - tail[1]) ** 2) ** 0.5
+    along = ((tip[0] - tail[0]) / length, (tip[1] - tail[1]) / length)
+    wings = [(tip[0] - 8 * along[0] + side * 5 * along[1], tip[1] - 8 * along[1] - side * 5 * along[0]) for side in (1, -1)]
+    path = (f"M{tail[0]} {tail[1]} L{tip[0]} {tip[1]} M{wings[0][0]:.2f} {wings[0][1]:.2f} L{tip[0]} {tip[1]} "
+            f"L{wings[1][0]:.2f} {wings[1][1]:.2f}")
+    return stroke(path, "#000000", 5) + stroke(path, WHITE, 2)
+
+
+def small_button(left, top, right, bottom, words, cap):
+    body = pill(left + 0.8, top + 0.8, right - left - 1.6, bottom - top - 1.6, False)
+    pitch = cap + 3
+    baseline = (top + bottom + cap - pitch * (len(words) - 1)) / 2
+    for row, word in enumerate(words):
+        body += stroke(centred_text(word, (left + right) / 2, baseline + row * pitch, cap / 10), WHITE, 1.3)
+    return body
+
+
+def call(middle, baseline, words, cap):
+    body = ""
+    for row, word in enumerate(words):
+        path = centred_text(word, middle, baseline + row * (cap + 6), cap / 10, -0.6)
+        body += stroke(path, "#000000", 4.5) + stroke(path, WHITE, 1.25)
+    return body
