@@ -170,6 +170,7 @@ void Surface::AddLineDamage(int x1, int y1, int x2, int y2, int reach) {
     const int pieces = std::max(std::abs(x2 - x1), std::abs(y2 - y1)) / kDamagePiece + 1;
     const bool isStraight = x1 == x2 || y1 == y2;
     const int count = isStraight ? 1 : pieces;
+    if (count > 1) ++reach;  // the pieces meet at whole pixels, so up to one away from the segment
     for (int i = 0; i < count; ++i) {
         const auto at = [&](int from, int to, int step) {
             return from + static_cast<int>(static_cast<Wide>(to - from) * step / count);
