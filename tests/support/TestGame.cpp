@@ -1,9 +1,11 @@
 // See TestGame.h.
 #include "tests/support/TestGame.h"
 
+#include <array>
 #include <utility>
 
 #include "screens/MainWindow.h"
+#include "simulation/Playfield.h"
 
 namespace prismfall {
 
@@ -18,6 +20,18 @@ TestGame& TestGame::QuietStore() {
     machine.PutSetting("General", "PlayFirstTime", "False");
     machine.PutSetting("General", "Music", "False");
     return *this;
+}
+
+VMain& TestGame::Play(std::int32_t gameMode) {
+    QuietStore().Load();
+    for (std::size_t timer = 0; timer < kTimerCount; ++timer) machine.StopTimer(static_cast<Timer>(timer));
+    machine.SurfaceClear();
+    main->GameMode = gameMode;
+    main->GameRunning = true;
+    main->GrowthToggle = 1;
+    main->CollisionLineY = gameMode == kArcadeGame ? kArcadeCollisionLineY : kPuzzleCollisionLineY;
+    TakePrinted();
+    return *main;
 }
 
 std::string TestGame::TakePrinted() {
@@ -44,6 +58,21 @@ void TestGame::Click(std::string_view element) {
     Element& button = main->window[element];
     main->window.on.elementDown(button, MouseButton::Left, 0, 0);
     main->window.on.elementClick(button);
+}
+
+std::string InShort(const CLine& beam) {
+    constexpr std::array<const char*, 3> kRunModes = {" stopped ", " growing ", " waiting "};
+    std::ostringstream text;
+    text << beam.XStart << ',' << beam.YStart << ' ' << beam.XEnd << ',' << beam.YEnd
+         << (beam.Direction == kRightwards ? " right" : " left") << kRunModes.at(static_cast<std::size_t>(beam.RunMode))
+         << beam.Thicknes << (beam.Deleted ? " dying" : "") << (beam.DeletedByFastLine ? " fast" : "");
+    return text.str();
+}
+
+std::string InShort(const VMain& main) {
+    std::string text;
+    for (const CLine* beam : main.Lines) text += InShort(*beam) + '\n';
+    return text;
 }
 
 }  // namespace prismfall

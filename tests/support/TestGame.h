@@ -20,6 +20,10 @@ class TestGame {
     // Starts the program into its main menu.
     VMain& Load();
 
+    // Loads with a quiet store and puts an empty playfield of `gameMode` in play: nothing painted, no timer running,
+    // and a toggle with which the next growth tick moves the beams of the entry zone too.
+    VMain& Play(std::int32_t gameMode);
+
     // A store in which the first run is over and the music is off.
     TestGame& QuietStore();
 
@@ -40,5 +44,12 @@ class TestGame {
     HeadlessPlatform machine;
     std::unique_ptr<VMain> main;
 };
+
+// A beam in short: "100,300 110,310 right growing 5" is tail, head, direction, RunMode and Thicknes; then "dying" for
+// one that is Deleted and "fast" for one that a speeded beam has struck.
+std::string InShort(const CLine& beam);
+
+// All of Lines, a beam a line.
+std::string InShort(const VMain& main);
 
 }  // namespace prismfall
