@@ -6,25 +6,23 @@ Buttons of one column have one width of pill, whatever the size of their picture
 from lettering import text_width
 from neon import PALE, SOFT, TUBE, WHITE, centred_text, document, gradient, rounded, stroke
 
-# The axis of the main window's side panel.
-PANEL_AXIS = 740.5
-
-# Name, words, picture size, left edge in the window if the pill hangs on the panel's axis, pill size, height of the
-# lettering in pixels.
+# Name, words, picture size, middle of the pill in the picture (its own middle where nothing is said), pill size, height
+# of the lettering in pixels. PANEL is the axis of the main window's side panel.
+PANEL = 740.5
 TABLE = [
-    ("Puzzle", "Puzzle", 133, 54, None, 123, 44, 17),
-    ("Arcade", "Arcade", 151, 58, None, 123, 44, 17),
-    ("Previous", "Previous Page", 121, 37, 679, 113, 28, 10),
-    ("Next", "Next Page", 97, 33, 693, 88, 27, 10),
-    ("Start", "Start", 100, 54, 690, 92, 40, 15),
-    ("Restart", "Restart", 100, 54, 690, 92, 40, 14),
-    ("Takeover", "Take Over", 100, 54, 690, 92, 40, 11.5),
-    ("Pause", "Pause", 89, 38, 695, 82, 30, 12),
-    ("Resume", "Resume", 89, 38, 695, 82, 30, 12),
-    ("Options", "Options", 97, 39, 696, 82, 30, 12),
-    ("Scores", "Scores", 107, 34, 691, 82, 28, 12),
-    ("About", "About", 86, 44, 698, 82, 30, 12),
-    ("Exit", "Exit", 59, 37, 711, 53, 29, 12),
+    ("Puzzle", "Puzzle", 133, 54, (66.5, 28), 121, 44, 17),
+    ("Arcade", "Arcade", 151, 58, (64, 27), 121, 44, 17),
+    ("Previous", "Previous Page", 121, 37, (PANEL - 679, 18.5), 113, 28, 10),
+    ("Next", "Next Page", 97, 33, (PANEL - 693, 16.5), 88, 27, 10),
+    ("Start", "Start", 100, 54, (PANEL - 690, 27), 92, 40, 15),
+    ("Restart", "Restart", 100, 54, (PANEL - 690, 27), 92, 40, 14),
+    ("Takeover", "Take Over", 100, 54, (PANEL - 690, 27), 92, 40, 11.5),
+    ("Pause", "Pause", 89, 38, (PANEL - 695, 19), 82, 30, 12),
+    ("Resume", "Resume", 89, 38, (PANEL - 695, 19), 82, 30, 12),
+    ("Options", "Options", 97, 39, (PANEL - 696, 19.5), 82, 30, 12),
+    ("Scores", "Scores", 107, 34, (PANEL - 691, 17), 82, 28, 12),
+    ("About", "About", 86, 44, (PANEL - 698, 22), 82, 30, 12),
+    ("Exit", "Exit", 59, 37, (PANEL - 711, 18.5), 53, 29, 12),
     ("OKScores", "OK", 70, 47, None, 60, 36, 14),
     ("ClearScores", "Clear Scores", 123, 36, None, 115, 28, 10),
     ("ClearPuzzleProgress", "Clear Puzzle Progress", 191, 40, None, 181, 28, 10),
@@ -39,17 +37,16 @@ TABLE = [
 
 def pictures():
     """All faces as (name, function that draws it)."""
-    for name, words, width, height, left, pill_width, pill_height, cap in TABLE:
-        middle = PANEL_AXIS - left if left is not None else width / 2
-        face = (words, width, height, middle, pill_width, pill_height, cap)
+    for name, words, width, height, middle, pill_width, pill_height, cap in TABLE:
+        face = (words, width, height, middle or (width / 2, height / 2), pill_width, pill_height, cap)
         yield name + "Up", lambda face=face: button(*face, lit=False)
         yield name + "Down", lambda face=face: button(*face, lit=True)
 
 
 def button(words, width, height, middle, pill_width, pill_height, cap, lit):
-    left = middle - pill_width / 2
-    top = height / 2 - pill_height / 2
-    body = pill(left, top, pill_width, pill_height, lit) + button_words(words, middle, height / 2 + cap / 2, cap, lit)
+    x, y = middle
+    glass = pill(x - pill_width / 2, y - pill_height / 2, pill_width, pill_height, lit)
+    body = glass + button_words(words, x, y + cap / 2, cap, lit)
     return document(width, height, body, PILL_DEFS[lit])
 
 

@@ -4,50 +4,68 @@ The dim letter and the lit one that flickers over it come from the same drawing,
 """
 
 from lettering import GLYPHS, placed
-from neon import WHITE, document, glowing, stroke
+from neon import WHITE, document, stroke
 
 WIDTH, HEIGHT = 586, 205
 # Where the flickering letter's picture lies in the logo, and its size.
 CUT_LEFT, CUT_TOP, CUT_WIDTH, CUT_HEIGHT = 498, 1, 84, 87
 
-SCALE = 7.0
+# Letter, left edge, baseline before the skew, scale, colour. The letters shrink as they rise, and follow the spectrum.
 RISE = -11.5  # degrees
-FIRST_LEFT = 20.0
-LAST_LEFT = 516.0
-FIRST_BASELINE = 182.0
-NAME = "PRISMFALL"
-SPECTRUM = ("#b45cff", "#6f6bff", "#3f8cff", "#22c3ff", "#1fdd9a", "#9be23a", "#f6dc38", "#ff9a32", "#ff4a3c")
-UNLIT, UNLIT_GLASS = "#4a1f24", "#7c3a3c"
+BASELINE = 184.0
+LETTERS = "PRISMFALL"
+FIRST_LEFT, LAST_LEFT = 27.0, 517.0
+TUBE_WEIGHT = 1.25  # of the scale
+FIRST_SCALE, LAST_SCALE = 9.2, 6.3
+# Added to the even gap before each letter: open shapes stand closer.
+OPTICAL = (0, -1, 2, 2, 0, 4, -13, 0, 4)
+SPECTRUM = ("#a44dff", "#6a5cff", "#2f86ff", "#14bdf5", "#14cf8f", "#8edb2e", "#f4d52c", "#ff9326", "#ff4236")
+UNLIT = ("#551c1d", "#8a3534", "#cf8f88")
 
 
 def letter_places():
-    """The left edge of every letter: even gaps from the first letter to the last."""
-    widths = [GLYPHS[letter][0] * SCALE for letter in NAME]
-    gap = (LAST_LEFT - FIRST_LEFT - sum(widths[:-1])) / (len(NAME) - 1)
-    places = []
+    """Left edge and scale of every letter."""
+    last = len(LETTERS) - 1
+    scales = [FIRST_SCALE + (LAST_SCALE - FIRST_SCALE) * i / last for i in range(last + 1)]
+    widths = [GLYPHS[letter][0] * scale for letter, scale in zip(LETTERS, scales)]
+    gap = (LAST_LEFT - FIRST_LEFT - sum(widths[:-1]) - sum(OPTICAL)) / last
     x = FIRST_LEFT
-    for width in widths:
-        places.append(x)
-        x += width + gap
-    return places
+    for i, width in enumerate(widths):
+        yield x, scales[i]
+        x += width + gap + (OPTICAL[i + 1] if i < last else 0)
 
 
-def letters(lit_last):
-    body = ""
-    for index, (letter, x) in enumerate(zip(NAME, letter_places())):
-        path = placed(GLYPHS[letter][1], x, 0, SCALE)
-        is_last = index == len(NAME) - 1
-        if is_last and not lit_last:
-            body += stroke(path, UNLIT, 8) + stroke(path, UNLIT_GLASS, 4.5) + stroke(path, "#a86a66", 1.2)
-            continue
-        body += glowing(path, SPECTRUM[index], WHITE, 6.5 if not is_last else 8, 9, 0.55 if not is_last else 0.9)
-    return f'<g transform="translate(0 {FIRST_BASELINE}) skewY({RISE}) translate(0 4)">\n{body}</g>\n'
+def lit_tube(path, colour, weight):
+    return (stroke(path, colour, weight * 2.2, 0.5, blur=10) + stroke(path, colour, weight * 1.5, 0.8, blur=3) +
+            stroke(path, colour, weight) + stroke(path, WHITE, weight * 0.62, 0.45, blur=0.9) +
+            stroke(path, WHITE, weight * 0.26, 0.95))
+
+
+def unlit_tube(path, weight):
+    return stroke(path, UNLIT[0], weight) + stroke(path, UNLIT[1], weight * 0.6) + stroke(path, UNLIT[2], weight * 0.14)
+
+
+def rising(body):
+    return f'<g transform="translate(0 {BASELINE}) skewY({RISE})">\n{body}</g>\n'
+
+
+def tubes():
+    """Path, weight and colour of every letter."""
+    for letter, colour, (x, scale) in zip(LETTERS, SPECTRUM, letter_places()):
+        yield placed(GLYPHS[letter][1], x, 0, scale), scale * TUBE_WEIGHT, colour
 
 
 def logo():
-    return document(WIDTH, HEIGHT, letters(lit_last=False))
+    *lit, (path, weight, _) = tubes()
+    body = "".join(lit_tube(path, colour, weight) for path, weight, colour in lit)
+    return document(WIDTH, HEIGHT, rising(body + unlit_tube(path, weight)))
 
 
 def last_letter():
-    moved = f'<g transform="translate({-CUT_LEFT} {-CUT_TOP})">\n{letters(lit_last=True)}</g>\n'
-    return document(CUT_WIDTH, CUT_HEIGHT, moved)
+    """The letter alone; its halo fades towards the picture's edges, or the picture would show as a box."""
+    *_, (path, weight, colour) = tubes()
+    fading = ('<mask id="fading" maskUnits="userSpaceOnUse" x="0" y="0" width="84" height="87">'
+              '<rect x="5" y="5" width="74" height="77" rx="8" fill="#ffffff" filter="url(#blur2.5)"/></mask>')
+    body = rising(stroke(path, colour, weight * 1.8, 0.6, blur=5) + lit_tube(path, colour, weight))
+    moved = f'<g mask="url(#fading)"><g transform="translate({-CUT_LEFT} {-CUT_TOP})">\n{body}</g></g>\n'
+    return document(CUT_WIDTH, CUT_HEIGHT, fading + moved)

@@ -22,14 +22,15 @@ BEAM_LIGHT = ("#3f78ff", "#16b84e", "#ff3a34", "#f2dc3c")
 
 def document(width, height, body, defs=""):
     """A whole SVG file of the given size in pixels."""
-    filters = "".join(blur_filter(name, width, height) for name in sorted(set(re.findall(r"url\(#blur([\d.]+)\)", body))))
+    filters = "".join(blur_filter(name) for name in sorted(set(re.findall(r"url\(#blur([\d.]+)\)", body))))
     return (f'<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="{width}" '
             f'height="{height}" viewBox="0 0 {width} {height}">\n<defs>{filters}{defs}</defs>\n{body}\n</svg>\n')
 
 
-def blur_filter(radius, width, height):
-    return (f'<filter id="blur{radius}" filterUnits="userSpaceOnUse" x="-40" y="-40" width="{width + 80}" '
-            f'height="{height + 80}" color-interpolation-filters="sRGB"><feGaussianBlur stdDeviation="{radius}"/></filter>')
+def blur_filter(radius):
+    """A blur that reaches far enough for any picture, also where a picture shows a part of a larger drawing."""
+    return (f'<filter id="blur{radius}" filterUnits="userSpaceOnUse" x="-700" y="-700" width="2200" '
+            f'height="2200" color-interpolation-filters="sRGB"><feGaussianBlur stdDeviation="{radius}"/></filter>')
 
 
 def gradient(name, stops, x2=0, y2=1):

@@ -28,28 +28,27 @@ BEAMS = ((),
           (343, 189, 189, 332, LEFT, RED)),
          ((414, 180, 324, 521, LEFT, YELLOW),))
 
-# Frame (left, top, right, bottom), first baseline, lines of text.
-TEXTS = (((4, 4, 205, 110), 20, ("In puzzle mode the goal", "is to clear all beams before", "they reach the ground")),
-         ((56, 4, 210, 62), 24, ("Bend the red beam", "by clicking on the end")),
-         ((66, 3, 155, 87), 16, ("The yellow beam", "is stopped", "by the red")),
-         ((6, 84, 185, 160), 106, ("Start the blue", "non-moving beam", "by clicking on the end")),
-         ((12, 18, 191, 110), 42, ("The beam is reflected", "by the wall")),
-         ((10, 16, 180, 144), 40, ("When beams of the", "same color collide", "they are destroyed")),
-         ((6, 8, 142, 86), 28, ("Make the red beam", "go faster by", "right-clicking", "on the end")),
-         ((26, 4, 195, 100), 22, ("If the yellow beam", "reaches the ground", "the game is over!")))
-LINE = 15
+# Frame (left, top, right, bottom), first baseline, distance of the lines, lines of text.
+TEXTS = (((4, 4, 205, 110), 24, 16, ("In puzzle mode the goal is", "to clear all beams before", "they reach the ground")),
+         ((48, 4, 214, 62), 29, 16, ("Bend the red beam", "by clicking on the end")),
+         ((66, 2, 150, 87), 16, 13, ("The yellow", "beam is", "stopped", "by the red")),
+         ((6, 84, 185, 150), 105, 16, ("Start the blue", "non-moving beam", "by clicking on the end")),
+         ((12, 24, 191, 110), 46, 16, ("The beam is reflected", "by the wall")),
+         ((10, 16, 180, 144), 40, 16, ("When beams of the", "same color collide", "they are destroyed")),
+         ((4, 8, 148, 86), 27, 16, ("Make the red beam", "go faster by", "right-clicking", "on the end")),
+         ((26, 4, 195, 100), 24, 16, ("If the yellow beam", "reaches the ground", "the game is over!")))
 
 # Shaft and point of each arrow.
-ARROWS = (None, ((56, 62), (38, 94)), ((155, 40), (180, 40)), ((100, 84), (100, 46)), ((30, 24), (5, 5)), ((26, 22), (7, 5)),
-          ((142, 36), (170, 37)), ((26, 37), (3, 37)))
+ARROWS = (None, ((52, 62), (36, 92)), ((150, 40), (180, 40)), ((100, 84), (100, 46)), ((26, 24), (6, 6)), ((26, 22), (7, 5)),
+          ((148, 37), (170, 37)), ((26, 37), (3, 37)))
 
 # Buttons (left, top, right, bottom of the pill, words, height of the lettering) and words that stand on a beam's end
-# (middle, first baseline, words, height of the lettering).
+# (the end, words with their baselines, height of the lettering).
 BUTTONS = (((15, 76, 67, 104, ("Skip", "Tutorial"), 8.5), (124, 81, 197, 104, ("OK",), 11)), (),
-           ((91, 60, 123, 83, ("OK",), 10),), (), ((148, 76, 179, 100, ("OK",), 10),), ((128, 106, 167, 128, ("OK",), 10),),
+           ((91, 61, 123, 83, ("OK",), 10),), (), ((148, 76, 179, 100, ("OK",), 10),), ((128, 106, 167, 128, ("OK",), 10),),
            (), ((150, 76, 185, 96, ("OK",), 10),))
-CALLS = (None, (22, 107, ("Click", "Here!"), 8), None, (100, 22, ("Click", "Here!"), 8), None, None,
-         (187, 27, ("Right", "Click", "Here!"), 7), None)
+CALLS = (None, ((20, 115), (("Click", 106), ("Here!", 129)), 8), None, ((97, 24), (("Click", 15), ("Here!", 39)), 8), None, None,
+         ((187, 41), (("Right", 22), ("Click", 33), ("Here!", 57)), 7), None)
 
 
 def picture(index):
@@ -68,13 +67,13 @@ def picture(index):
     return document(width, height, body, PILL_DEFS[False])
 
 
-def framed_text(frame_box, baseline, lines):
+def framed_text(frame_box, baseline, pitch, lines):
     left, top, right, bottom = frame_box
     body = (f'<rect x="{left + 0.5}" y="{top + 0.5}" width="{right - left - 1}" height="{bottom - top - 1}" rx="5" '
             f'fill="#000000" stroke="{WHITE}" stroke-width="1"/>\n')
     for row, line in enumerate(lines):
         x = (left + right - text_width(line, 1.0)) / 2
-        body += stroke(text_path(line, x, baseline + row * LINE + 0.5, 1.0, snap=True), WHITE, 1.25)
+        body += stroke(text_path(line, x, baseline + row * pitch + 0.5, 1.0, snap=True), WHITE, 1.25)
     return body
 
 
@@ -96,9 +95,9 @@ def small_button(left, top, right, bottom, words, cap):
     return body
 
 
-def call(middle, baseline, words, cap):
-    body = ""
-    for row, word in enumerate(words):
-        path = centred_text(word, middle, baseline + row * (cap + 6), cap / 10, -0.6)
-        body += stroke(path, "#000000", 4.5) + stroke(path, WHITE, 1.25)
-    return body
+def call(end, words, cap):
+    """Words on a beam's end, with a ring round the very end; dark around the letters where the beam runs behind them."""
+    ring = f"M{end[0] - 4.5} {end[1] + 0.5} a5 5 0 0 1 10 0 a5 5 0 0 1 -10 0"
+    body = f'<path d="{ring}" fill="none" stroke="{WHITE}" stroke-width="1.2"/>\n'
+    paths = [centred_text(word, end[0] + 1, baseline, cap / 10, -0.6) for word, baseline in words]
+    return body + "".join(stroke(path, "#000000", 4.5) for path in paths) + "".join(stroke(path, WHITE, 1.25) for path in paths)
