@@ -2,6 +2,7 @@
 // asked.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -10,6 +11,24 @@
 #include "simulation/VMain.h"
 
 namespace prismfall {
+
+// Lets a test look and act while a dialog stands or a handler yields.
+class TestMachine : public HeadlessPlatform {
+  public:
+    using HeadlessPlatform::HeadlessPlatform;
+
+    std::function<void(Window& dialog)> onDialog;  // before the queued answers
+    std::function<void()> onYield;
+
+    bool ShowModally(Window& dialog) override {
+        if (onDialog) onDialog(dialog);
+        return HeadlessPlatform::ShowModally(dialog);
+    }
+    void Yield() override {
+        if (onYield) onYield();
+        HeadlessPlatform::Yield();
+    }
+};
 
 class TestGame {
   public:
@@ -30,7 +49,7 @@ class TestGame {
     // The lines printed since the last call.
     std::string TakePrinted();
 
-    HeadlessPlatform& Machine() { return machine; }
+    TestMachine& Machine() { return machine; }
     VMain& Main() { return *main; }
 
     // Appends a live beam to Lines.
@@ -41,7 +60,7 @@ class TestGame {
 
   private:
     std::ostringstream printed;
-    HeadlessPlatform machine;
+    TestMachine machine;
     std::unique_ptr<VMain> main;
 };
 
