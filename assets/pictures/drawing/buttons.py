@@ -3,7 +3,6 @@
 Buttons of one column have one width of pill, whatever the size of their pictures, and stand on one axis of the window.
 """
 
-from lettering import text_width
 from neon import PALE, SOFT, TUBE, WHITE, centred_text, document, gradient, rounded, stroke
 
 # Name, words, picture size, middle of the pill in the picture (its own middle where nothing is said), pill size, height
@@ -68,6 +67,6 @@ def button_words(words, middle, baseline, cap, lit):
     weight = 1.0 + cap * 0.055
     path = centred_text(words, middle, baseline, scale)
     if lit:
-        return (stroke(path, "#9cc0ff", weight * 2.6, 0.8, blur=2.2) + stroke(path, SOFT, weight * 1.5, 0.9, blur=0.8) +
+        return (stroke(path, "#9cc0ff", weight * 2.6, 0.8, blur=2.2) + stroke(path, SOFT, weight * 1.35, 0.9, blur=0.7) +
                 stroke(path, WHITE, weight))
     return stroke(path, TUBE, weight * 2.2, 0.6, blur=1.8) + stroke(path, "#b8d0ff", weight)

@@ -4,7 +4,7 @@ The dim letter and the lit one that flickers over it come from the same drawing,
 """
 
 from lettering import GLYPHS, placed
-from neon import WHITE, document, stroke
+from neon import WHITE, box, document, stroke
 
 WIDTH, HEIGHT = 586, 205
 # Where the flickering letter's picture lies in the logo, and its size.
@@ -58,7 +58,7 @@ def tubes():
 def logo():
     *lit, (path, weight, _) = tubes()
     body = "".join(lit_tube(path, colour, weight) for path, weight, colour in lit)
-    return document(WIDTH, HEIGHT, rising(body + unlit_tube(path, weight)))
+    return document(WIDTH, HEIGHT, box(0, 0, WIDTH, HEIGHT, "#000000") + rising(body + unlit_tube(path, weight)))
 
 
 def last_letter():

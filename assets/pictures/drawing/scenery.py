@@ -5,7 +5,7 @@ black in the columns 11 and 672 beside the frame's hairline, so these are black 
 """
 
 from lettering import text_path
-from neon import PALE, ROOM, SOFT, TUBE, WHITE, box, document, glowing, gradient, hatch, rounded, stroke
+from neon import BEAM_LIGHT, PALE, ROOM, TUBE, WHITE, box, document, glowing, gradient, hatch, rounded, stroke
 
 FRAME_TUBE = "M12 10.5 H672 A3.5 3.5 0 0 1 675.5 14 V588 A3.5 3.5 0 0 1 672 591.5 H12 A3.5 3.5 0 0 1 8.5 588 V14 A3.5 3.5 0 0 1 12 10.5 Z"
 HAIRLINE = "#6fa4ff"
@@ -51,7 +51,7 @@ def score_tile(rows):
     body += stroke("M12 7 H108", PALE, 1, 0.25)
     for word, baseline, x, y, width, height in rows:
         body += rounded(x + 0.5, y + 0.5, width - 1, height - 1, 4, 'fill="#05070d" stroke="#223864" stroke-width="1"')
-        path = text_path(word, 10.5, baseline, 1.0, -0.4, snap=False)
+        path = text_path(word, 10.5, baseline, 1.0, -0.4)
         body += stroke(path, TUBE, 3, 0.6, blur=1.6) + stroke(path, "#c3d8ff", 1.35)
     return body, defs
 
@@ -63,8 +63,7 @@ def arcade_scores():
 
 def puzzle_score():
     body, defs = score_tile([("Puzzle", 39.5, 70, 20, 35, 25)])
-    for colour, shift in (("#f2dc3c", 0), ("#ff3a34", 14), ("#3f78ff", 28)):
-        path = f"M{20 + shift} 62 l18 18 l-14 14 M{20 + shift} 62 l18 18"
-        path = f"M{24 + shift} 60 L{42 + shift} 78 L{26 + shift} 94"
-        body += glowing(path, colour, WHITE, 2, 3, 0.6)
+    for place, colour in enumerate(BEAM_LIGHT):
+        x = 29 + 15 * place
+        body += glowing(f"M{x} 60 L{x + 17} 77 L{x} 94", colour, WHITE, 2, 3, 0.6)
     return document(120, 114, body, defs)

@@ -1,6 +1,6 @@
 """Pictures that are one lit word: the verdict on a puzzle and the names of the five groups of puzzles."""
 
-from neon import SOFT, TUBE, WHITE, centred_text, document, glowing, stroke
+from neon import TUBE, WHITE, centred_text, document, glowing, stroke
 
 GROUPS = ("Beginner", "Easy", "Medium", "Hard", "Pro")
 
@@ -17,10 +17,10 @@ def failed():
 
 def group(index):
     """The group's name over five lamps, of which as many are lit as the group is hard."""
-    path = centred_text(GROUPS[index], 60.5, 27, 1.6)
+    path = centred_text(GROUPS[index], 60.5, 25, 1.6)
     body = stroke(path, TUBE, 4.5, 0.7, blur=3) + stroke(path, "#cfe0ff", 2)
     for lamp in range(5):
         x = 30 + lamp * 14
-        way = f"M{x} 37.5 l7 7"
+        way = f"M{x} 39 l6.5 6.5"
         body += glowing(way, "#f2dc3c", WHITE, 2, 2.5, 0.6) if lamp <= index else stroke(way, "#2c4270", 2)
     return document(121, 53, body)

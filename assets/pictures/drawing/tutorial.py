@@ -7,7 +7,7 @@ the playfield where it reaches over that. All places are pixels of the picture; 
 from beams import Pixels
 from buttons import PILL_DEFS, pill
 from lettering import text_path, text_width
-from neon import PALE, SOFT, TUBE, WHITE, centred_text, document, stroke
+from neon import WHITE, centred_text, document, stroke
 from scenery import frame
 
 YELLOW, RED, BLUE = 3, 2, 0
