@@ -1,0 +1,270 @@
+"""A virtual desktop to play the real program on: a display in memory, a window manager, a mouse, and the pixels.
+
+What the game's screens look like and where things stand on them is in layout.py; what a test expects is in the tests.
+Everything started here is ended here, at the latest when the test program ends.
+"""
+import atexit
+import ctypes
+import mmap
+import os
+import pathlib
+import shutil
+import signal
+import struct
+import subprocess
+import tempfile
+import time
+import zlib
+
+ENDING = []  # what to end, newest last
+PAUSE = 0.01  # between two looks at a condition
+
+
+def end_all():
+    while ENDING:
+        ENDING.pop().stop()
+
+
+atexit.register(end_all)
+signal.signal(signal.SIGTERM, lambda *_: os._exit(end_all() or 1))
+
+
+class Missing(Exception):
+    """What was waited for has not come."""
+
+
+def wait_for(condition, seconds=5, what="the condition"):
+    """Calls `condition` until it gives something true, and gives that back."""
+    end = time.monotonic() + seconds
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise Missing(f"after {seconds} s still waiting for {what}")
+        time.sleep(PAUSE)
+
+
+def holds_for(condition, seconds):
+    """Whether `condition` is true all the time for so long."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        if not condition():
+            return False
+        time.sleep(PAUSE)
+    return True
+
+
+def end_with_me():
+    """In a child process: it ends when this one does, even if this one is killed."""
+    ctypes.CDLL(None).prctl(1, signal.SIGKILL)
+
+
+class Pixels:
+    """A block of pixels, 4 bytes each: blue, green, red, 0."""
+
+    def __init__(self, width, height, data):
+        self.width, self.height, self.data = width, height, data
+
+    def __eq__(self, other):
+        return self.data == other.data
+
+    def words(self):
+        """The pixels as numbers 0xRRGGBB, row by row."""
+        return memoryview(self.data).cast("I").tolist()
+
+    def count(self, *colours):
+        words = self.words()
+        return sum(words.count(colour) for colour in colours)
+
+    def different(self, other):
+        """How many pixels are not those of `other`."""
+        return sum(a != b for a, b in zip(self.words(), other.words()))
+
+    def save(self, path):
+        def chunk(kind, data):
+            return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+
+        colours = bytearray(self.width * self.height * 3)
+        for part in range(3):
+            colours[part::3] = self.data[2 - part :: 4]
+        row = self.width * 3
+        lines = b"".join(b"\0" + colours[y * row : (y + 1) * row] for y in range(self.height))
+        header = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
+        path = pathlib.Path(path)
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(
+            b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(lines, 6)) + chunk(b"IEND", b"")
+        )
+
+
+class Screen:
+    """The display's memory, which the X server keeps in a file. Looking at it costs the server nothing."""
+
+    def __init__(self, path):
+        with open(path, "rb") as file:
+            self.memory = mmap.mmap(file.fileno(), 0, prot=mmap.PROT_READ)
+        header = struct.unpack(">25I", self.memory[:100])
+        self.width, self.height, self.stride = header[4], header[5], header[12]
+        self.first = header[0] + header[19] * 12
+
+    def pixels(self, x, y, width, height):
+        if x < 0 or y < 0 or x + width > self.width or y + height > self.height:
+            raise Missing(f"pixels outside the display: {x}, {y}, {width} x {height}")
+        rows = []
+        for row in range(y, y + height):
+            begin = self.first + row * self.stride + x * 4
+            rows.append(self.memory[begin : begin + width * 4])
+        data = bytearray(b"".join(rows))
+        data[3::4] = bytes(width * height)
+        return Pixels(width, height, bytes(data))
+
+    def whole(self):
+        return self.pixels(0, 0, self.width, self.height)
+
+
+class Desktop:
+    """A display of its own, with or without a window manager."""
+
+    def __init__(self, manager=True, size="1280x1024"):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="prismfall-desktop-"))
+        self.processes = []
+        ENDING.append(self)
+        read, write = os.pipe()
+        self.start(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-fbdir", self.folder, "-nocursor"]
+            + ["-nolisten", "tcp", "-noreset"],
+            pass_fds=[write],
+        )
+        os.close(write)
+        with os.fdopen(read) as told:
+            number = told.readline().strip()
+        if not number:
+            raise Missing("the virtual display has not started")
+        self.environment = {
+            name: value
+            for name, value in os.environ.items()
+            if not name.startswith(("SDL_", "XDG_")) and name not in ("DISPLAY", "WAYLAND_DISPLAY")
+        }
+        self.environment.update(DISPLAY=f":{number}", HOME=str(self.folder), SDL_AUDIODRIVER="dummy")
+        self.screen = Screen(self.folder / "Xvfb_screen0")
+        if manager:
+            self.start(["openbox", "--sm-disable"])
+            wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), 10, "openbox")
+
+    def start(self, command, **options):
+        options.setdefault("stdout", subprocess.DEVNULL)
+        options.setdefault("stderr", subprocess.DEVNULL)
+        options.setdefault("env", getattr(self, "environment", None))
+        process = subprocess.Popen(command, preexec_fn=end_with_me, **options)
+        self.processes.append(process)
+        return process
+
+    def stop(self):
+        for process in reversed(self.processes):
+            process.kill()
+            process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+        if self in ENDING:
+            ENDING.remove(self)
+
+    def output(self, *command):
+        done = subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=20)
+        return done.stdout
+
+    def mouse(self, *words):
+        self.output("xdotool", *[str(word) for word in words])
+
+    def windows(self, title):
+        """The visible windows of exactly this title."""
+        found = self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
+        return [Window(self, int(number)) for number in found]
+
+    def window(self, title, seconds=5):
+        return wait_for(lambda: self.windows(title), seconds, f"the window {title!r}")[0]
+
+
+class Window:
+    """A window of the program; places are pixels of its inside."""
+
+    def __init__(self, desktop, number):
+        self.desktop, self.number = desktop, number
+
+    def facts(self):
+        """Its lines of xwininfo by name."""
+        lines = self.desktop.output("xwininfo", "-id", str(self.number)).splitlines()
+        return {name.strip(): value.strip() for name, colon, value in (line.partition(":") for line in lines) if colon}
+
+    def place(self):
+        """Left, top, width and height of the inside on the display."""
+        facts = self.facts()
+        names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        if names[0] not in facts:
+            raise Missing(f"window {self.number} is gone")
+        return tuple(int(facts[name]) for name in names)
+
+    def frame(self):
+        """Widths of the frame: left, right, top, bottom. All 0 without one."""
+        text = self.property("_NET_FRAME_EXTENTS")
+        return tuple(int(number) for number in text.split(",")) if text else (0, 0, 0, 0)
+
+    def property(self, name):
+        text = self.desktop.output("xprop", "-id", str(self.number), name)
+        return text.partition("=")[2].strip() or text.partition("#")[2].strip()
+
+    def is_visible(self):
+        return self.facts().get("Map State") == "IsViewable"
+
+    def move(self, x, y):
+        left, top, _, _ = self.place()
+        self.desktop.mouse("mousemove", left + x, top + y)
+
+    def click(self, x, y, button=1, times=1):
+        left, top, _, _ = self.place()
+        repeat = ["--repeat", times, "--delay", 40] if times > 1 else []
+        self.desktop.mouse("mousemove", left + x, top + y, "click", *repeat, button)
+
+    def key(self, name):
+        self.desktop.mouse("windowfocus", "--sync", self.number, "key", name)
+
+    def pixels(self, x, y, width, height):
+        left, top, _, _ = self.place()
+        return self.desktop.screen.pixels(left + x, top + y, width, height)
+
+    def viewer(self, x, y, width, height):
+        """A routine that looks at one place quickly, for as long as the window is not moved."""
+        left, top, _, _ = self.place()
+        return lambda: self.desktop.screen.pixels(left + x, top + y, width, height)
+
+    def use_close_box(self):
+        """What a window manager does when the close box is clicked, whatever it would hold back itself."""
+        send_client_message(self.desktop.environment["DISPLAY"], self.number, "WM_PROTOCOLS", "WM_DELETE_WINDOW")
+
+
+class ClientMessage(ctypes.Structure):
+    _fields_ = [
+        ("type", ctypes.c_int),
+        ("serial", ctypes.c_ulong),
+        ("send_event", ctypes.c_int),
+        ("display", ctypes.c_void_p),
+        ("window", ctypes.c_ulong),
+        ("message_type", ctypes.c_ulong),
+        ("format", ctypes.c_int),
+        ("data", ctypes.c_long * 5),
+        ("room", ctypes.c_byte * 128),  # an XEvent is larger than this one kind of it
+    ]
+
+
+def send_client_message(display_name, window, kind, what):
+    x = ctypes.CDLL("libX11.so.6")
+    x.XOpenDisplay.restype = ctypes.c_void_p
+    x.XInternAtom.restype = ctypes.c_ulong
+    x.XInternAtom.argtypes = [ctypes.c_void_p, ctypes.c_char_p, ctypes.c_int]
+    x.XSendEvent.argtypes = [ctypes.c_void_p, ctypes.c_ulong, ctypes.c_int, ctypes.c_long, ctypes.c_void_p]
+    x.XCloseDisplay.argtypes = [ctypes.c_void_p]
+    display = x.XOpenDisplay(display_name.encode())
+    message = ClientMessage(type=33, window=window, format=32)
+    message.message_type = x.XInternAtom(display, kind.encode(), 0)
+    message.data[0] = x.XInternAtom(display, what.encode(), 0)
+    x.XSendEvent(display, window, 0, 0, ctypes.byref(message))
+    x.XCloseDisplay(display)
