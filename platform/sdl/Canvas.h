@@ -61,6 +61,7 @@ class Canvas {
     // Nothing outside `clip` is drawn from now on; at first everything may be.
     void SetClip(const PixelBox& box);
     const PixelBox& Clip() const { return clip; }
+    int Width() const { return bounds.right; }
 
     void Fill(const PixelBox& box, std::uint32_t pixel);
     void Draw(const Image& image, int left, int top);

@@ -40,7 +40,8 @@ void DrawPicture(Canvas& canvas, const Element& element, const PixelBox& box, Di
 void DrawLabel(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
     if (element.ground) canvas.Fill(box, PixelOf(*element.ground));
     const int height = display.text.LineHeight(element.font);
-    const int width = element.wraps ? box.right - box.left : 0;
+    // A box may reach beyond the window; lines that break do so where they can still be read.
+    const int width = element.wraps ? std::min(box.right, canvas.Width()) - box.left : 0;
     int top = box.top;
     for (const std::string& line : display.text.Lines(element.text, element.font, width)) {
         display.text.DrawLine(canvas, line, element.font, element.colour, box.left, top);
@@ -48,42 +49,46 @@ void DrawLabel(Canvas& canvas, const Element& element, const PixelBox& box, Disp
     }
 }
 
-void DrawRadioMark(Canvas& canvas, const Element& element, float left, float middle, float size, float line) {
+void DrawRadioMark(Canvas& canvas, const Element& element, int left, int top, int size, int line) {
     const std::uint32_t pixel = PixelOf(element.colour);
     const std::uint32_t ground = PixelOf(element.ground.value_or(kBlack));
-    const float centre = left + size / 2;
-    canvas.Stroke(centre, middle, centre, middle, size, pixel);
-    canvas.Stroke(centre, middle, centre, middle, size - 2 * line, ground);
-    if (element.checked) canvas.Stroke(centre, middle, centre, middle, size - 6 * line, pixel);
+    const auto disc = [&](int width, std::uint32_t colour) {
+        const float x = static_cast<float>(left) + static_cast<float>(size) / 2;
+        const float y = static_cast<float>(top) + static_cast<float>(size) / 2;
+        canvas.Stroke(x, y, x, y, static_cast<float>(width), colour);
+    };
+    disc(size, pixel);
+    disc(size - 2 * line, ground);
+    if (element.checked) disc(size - 6 * line, pixel);
 }
 
-void DrawCheckMark(Canvas& canvas, const Element& element, float left, float middle, float size, float line) {
+void DrawCheckMark(Canvas& canvas, const Element& element, int left, int top, int size, int line) {
     const std::uint32_t pixel = PixelOf(element.colour);
-    const float top = middle - size / 2;
-    DrawOutline(
-        canvas,
-        {static_cast<int>(left), static_cast<int>(top), static_cast<int>(left + size), static_cast<int>(top + size)},
-        pixel, static_cast<int>(line));
+    DrawOutline(canvas, {left, top, left + size, top + size}, pixel, line);
     if (!element.checked) return;
     const auto stroke = [&](float x1, float y1, float x2, float y2) {
-        canvas.Stroke(left + x1 * size, top + y1 * size, left + x2 * size, top + y2 * size, 2 * line, pixel);
+        const auto whole = static_cast<float>(size);
+        const auto x = static_cast<float>(left);
+        const auto y = static_cast<float>(top);
+        canvas.Stroke(x + x1 * whole, y + y1 * whole, x + x2 * whole, y + y2 * whole, static_cast<float>(2 * line),
+                      pixel);
     };
     stroke(0.26F, 0.52F, 0.43F, 0.70F);
     stroke(0.43F, 0.70F, 0.76F, 0.30F);
 }
 
 void DrawMarkedText(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
-    canvas.Fill(box, PixelOf(element.ground.value_or(kBlack)));
-    // Whole and of the same parity as its line, so that the square's edges are sharp and the circle is round.
-    const auto size = static_cast<float>(display.Pixels(kMarkSize));
-    const auto top = static_cast<float>((box.top + box.bottom - static_cast<int>(size)) / 2);
-    const auto left = static_cast<float>(box.left);
-    const auto line = static_cast<float>(LineWidth(display));
+    const int size = display.Pixels(kMarkSize);
+    const int markTop = (box.top + box.bottom - size) / 2;
+    const int textHeight = display.text.LineHeight(element.font);
+    const int textTop = (box.top + box.bottom - textHeight) / 2;
+    // Boxes may overlap: the ground reaches no higher and lower than what stands on it.
+    canvas.Fill({box.left, std::min(markTop, textTop), box.right, std::max(markTop + size, textTop + textHeight)},
+                PixelOf(element.ground.value_or(kBlack)));
     const auto draw = element.kind == ElementKind::RadioButton ? DrawRadioMark : DrawCheckMark;
-    draw(canvas, element, left, top + size / 2, size, line);
-    const int textTop = (box.top + box.bottom - display.text.LineHeight(element.font)) / 2;
+    draw(canvas, element, box.left, markTop, size, LineWidth(display));
     display.text.DrawLine(canvas, element.text, element.font, element.colour,
-                          box.left + static_cast<int>(size) + display.Pixels(kMarkGap), textTop);
+                          box.left + size + display.Pixels(kMarkGap), textTop);
 }
 
 void DrawGroupFrame(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {

@@ -23,6 +23,8 @@ struct Hint {
 
 constexpr Hint kHints[] = {
     {SDL_HINT_APP_NAME, "Prismfall"},
+    // A desktop, and none of the stand-ins that nobody would see. The user's environment goes before this.
+    {SDL_HINT_VIDEODRIVER, "x11,wayland"},
     {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
     {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
     // The click that brings the window to the front is a click of the game as well.
@@ -38,7 +40,7 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
     SDL_SetMainReady();
     for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
-        failure = std::string("No display can be opened: ") + SDL_GetError() + ".";
+        failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
         return nullptr;
     }
     // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.

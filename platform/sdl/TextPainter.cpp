@@ -120,6 +120,8 @@ _TTF_Font* TextPainter::Load(const Font& font, int pixels) {
         Report("no font is installed");
         return nullptr;
     }
+    // The letters' true widths: with whole-pixel ones lines grow by several letters and no longer fit their boxes.
+    TTF_SetFontHinting(opened, TTF_HINTING_LIGHT_SUBPIXEL);
     const bool thicken = font.bold && !file.bold;
     const bool slope = font.italic && !file.italic;
     TTF_SetFontStyle(opened, (thicken ? TTF_STYLE_BOLD : 0) | (slope ? TTF_STYLE_ITALIC : 0));
