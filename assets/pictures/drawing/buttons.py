@@ -56,7 +56,8 @@ PILL_DEFS = (
 
 def pill(left, top, width, height, lit):
     radius = min(height / 2, 12)
-    edge = f'fill="none" stroke="{TUBE}" stroke-width="2.6" stroke-opacity="{0.95 if lit else 0.45}" filter="url(#blur1.4)"'
+    glow = 0.95 if lit else 0.45
+    edge = f'fill="none" stroke="{TUBE}" stroke-width="2.6" stroke-opacity="{glow}" filter="url(#blur1.4)"'
     line = f'fill="url(#pill)" stroke="{"#b9d2ff" if lit else "#4672c8"}" stroke-width="1.2"'
     shine = stroke(f"M{left + radius:.1f} {top + 2.2:.1f} H{left + width - radius:.1f}", PALE, 1, 0.75 if lit else 0.28)
     return rounded(left, top, width, height, radius, edge) + rounded(left, top, width, height, radius, line) + shine
@@ -67,6 +68,6 @@ def button_words(words, middle, baseline, cap, lit):
     weight = 1.0 + cap * 0.055
     path = centred_text(words, middle, baseline, scale)
     if lit:
-        return (stroke(path, "#9cc0ff", weight * 2.6, 0.8, blur=2.2) + stroke(path, SOFT, weight * 1.35, 0.9, blur=0.7) +
-                stroke(path, WHITE, weight))
+        return (stroke(path, "#9cc0ff", weight * 2.6, 0.8, blur=2.2) +
+                stroke(path, SOFT, weight * 1.35, 0.9, blur=0.7) + stroke(path, WHITE, weight))
     return stroke(path, TUBE, weight * 2.2, 0.6, blur=1.8) + stroke(path, "#b8d0ff", weight)

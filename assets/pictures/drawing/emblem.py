@@ -21,7 +21,8 @@ def about_picture():
     """White light comes in from the left and leaves the prism as four beams that bounce to the right."""
     ways = (("M60 18 L68 10 L106 48 L144 10 L182 48", RED), ("M65 26 L81 10 L119 48 L157 10 L187 40", YELLOW),
             ("M69 34 L93 10 L131 48 L169 10 L187 28", GREEN), ("M74 42 L106 10 L144 48 L182 10 L187 15", BLUE))
-    body = stroke("M4 41 L44 31", PALE, 5, 0.6, blur=2.5) + stroke("M4 41 L44 31", PALE, 2.4) + stroke("M4 41 L44 31", WHITE, 1.2)
+    light = "M4 41 L44 31"
+    body = stroke(light, PALE, 5, 0.6, blur=2.5) + stroke(light, PALE, 2.4) + stroke(light, WHITE, 1.2)
     for way, colour in ways:
         body += glowing(way, colour, WHITE, 2.2, 3, 0.5)
     return document(195, 58, body + prism([(54, 7), (78, 49), (30, 49)], 2), EMBLEM_DEFS)

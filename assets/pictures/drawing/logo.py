@@ -12,7 +12,7 @@ CUT_LEFT, CUT_TOP, CUT_WIDTH, CUT_HEIGHT = 498, 1, 84, 87
 
 # Letter, left edge, baseline before the skew, scale, colour. The letters shrink as they rise, and follow the spectrum.
 RISE = -11.5  # degrees
-BASELINE = 184.0
+BASELINE = 181.5
 LETTERS = "PRISMFALL"
 FIRST_LEFT, LAST_LEFT = 27.0, 517.0
 TUBE_WEIGHT = 1.25  # of the scale
@@ -35,8 +35,8 @@ def letter_places():
         x += width + gap + (OPTICAL[i + 1] if i < last else 0)
 
 
-def lit_tube(path, colour, weight):
-    return (stroke(path, colour, weight * 2.2, 0.5, blur=10) + stroke(path, colour, weight * 1.5, 0.8, blur=3) +
+def lit_tube(path, colour, weight, halo=10):
+    return (stroke(path, colour, weight * 2.2, 0.5, blur=halo) + stroke(path, colour, weight * 1.5, 0.8, blur=3) +
             stroke(path, colour, weight) + stroke(path, WHITE, weight * 0.62, 0.45, blur=0.9) +
             stroke(path, WHITE, weight * 0.26, 0.95))
 
@@ -62,10 +62,10 @@ def logo():
 
 
 def last_letter():
-    """The letter alone; its halo fades towards the picture's edges, or the picture would show as a box."""
+    """The letter alone; its halo is narrow and fades towards the edges, or the picture would show as a box."""
     *_, (path, weight, colour) = tubes()
     fading = ('<mask id="fading" maskUnits="userSpaceOnUse" x="0" y="0" width="84" height="87">'
-              '<rect x="5" y="5" width="74" height="77" rx="8" fill="#ffffff" filter="url(#blur2.5)"/></mask>')
-    body = rising(stroke(path, colour, weight * 1.8, 0.6, blur=5) + lit_tube(path, colour, weight))
+              '<rect x="3" y="3" width="78" height="81" rx="6" fill="#ffffff" filter="url(#blur1.5)"/></mask>')
+    body = rising(lit_tube(path, colour, weight, halo=4))
     moved = f'<g mask="url(#fading)"><g transform="translate({-CUT_LEFT} {-CUT_TOP})">\n{body}</g></g>\n'
     return document(CUT_WIDTH, CUT_HEIGHT, fading + moved)

@@ -7,7 +7,9 @@ black in the columns 11 and 672 beside the frame's hairline, so these are black 
 from lettering import text_path
 from neon import BEAM_LIGHT, PALE, ROOM, TUBE, WHITE, box, document, glowing, gradient, hatch, rounded, stroke
 
-FRAME_TUBE = "M12 10.5 H672 A3.5 3.5 0 0 1 675.5 14 V588 A3.5 3.5 0 0 1 672 591.5 H12 A3.5 3.5 0 0 1 8.5 588 V14 A3.5 3.5 0 0 1 12 10.5 Z"
+FRAME_TUBE = ("M12 10.5 H672 A3.5 3.5 0 0 1 675.5 14 V588 A3.5 3.5 0 0 1 672 591.5 H12 A3.5 3.5 0 0 1 8.5 588 V14 "
+              "A3.5 3.5 0 0 1 12 10.5 Z")
+BLACK = "#000000"
 HAIRLINE = "#6fa4ff"
 PANEL_LEFT = 682
 
@@ -21,7 +23,8 @@ def frame():
     """Black field, hairline, black gap and the glowing tube; without the panel and the room around it."""
     tube = (stroke(FRAME_TUBE, TUBE, 9, 0.75, blur=4.5) + stroke(FRAME_TUBE, TUBE, 5) +
             stroke(FRAME_TUBE, "#79a6ff", 2.6) + stroke(FRAME_TUBE, "#e6efff", 1.1))
-    return (tube + box(11, 13, 662, 576, "#000000") + box(12, 14, 660, 574, HAIRLINE) + box(14, 16, 656, 570, "#000000"))
+    gap, hairline, field = box(11, 13, 662, 576, BLACK), box(12, 14, 660, 574, HAIRLINE), box(14, 16, 656, 570, BLACK)
+    return tube + gap + hairline + field
 
 
 def background():
@@ -36,7 +39,8 @@ def dialog_background():
     defs = (gradient("night", [(0, "#111b36", 1), (0.5, "#0a1122", 1), (1, "#070b17", 1)], x2=0.55) +
             gradient("ray", [(0, "#7ea6ff", 0.20), (0.7, "#7ea6ff", 0.03), (1, "#7ea6ff", 0)], x2=1, y2=1) +
             hatch("weave", 6, "#a9c4ff", 0.035))
-    rays = ('<path d="M0 0 H120 L0 120 Z" fill="url(#ray)"/><path d="M190 0 H250 L0 250 V190 Z" fill="#7ea6ff" fill-opacity="0.03"/>'
+    rays = ('<path d="M0 0 H120 L0 120 Z" fill="url(#ray)"/>'
+            '<path d="M190 0 H250 L0 250 V190 Z" fill="#7ea6ff" fill-opacity="0.03"/>'
             '<path d="M330 0 H480 L0 480 V330 Z" fill="#7ea6ff" fill-opacity="0.022"/>\n')
     edge = "M4.5 533 V8.5 A4 4 0 0 1 8.5 4.5 H545"
     light = stroke(edge, TUBE, 5, 0.55, blur=3) + stroke(edge, "#3f6fd8", 1.6) + stroke(edge, "#a9c6ff", 0.7)
@@ -57,12 +61,13 @@ def score_tile(rows):
 
 
 def arcade_scores():
-    body, defs = score_tile([("Score", 39.5, 53, 20, 59, 25), ("Level", 69.5, 53, 50, 59, 24), ("High", 97.5, 53, 78, 59, 25)])
+    body, defs = score_tile([("Score", 39.5, 52, 20, 63, 26), ("Level", 69.5, 52, 50, 63, 25),
+                             ("High", 97.5, 52, 78, 63, 26)])
     return document(120, 114, body, defs)
 
 
 def puzzle_score():
-    body, defs = score_tile([("Puzzle", 39.5, 70, 20, 35, 25)])
+    body, defs = score_tile([("Puzzle", 39.5, 70, 20, 35, 26)])
     for place, colour in enumerate(BEAM_LIGHT):
         x = 29 + 15 * place
         body += glowing(f"M{x} 60 L{x + 17} 77 L{x} 94", colour, WHITE, 2, 3, 0.6)
