@@ -3,6 +3,7 @@
 // and cmdPause that show.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <string>
