@@ -219,9 +219,10 @@ class Window:
         left, top, _, _ = self.place()
         self.desktop.mouse("mousemove", left + x, top + y)
 
-    def click(self, x, y, button=1, times=1):
+    def click(self, x, y, button=1, times=1, delay=40):
+        """Clicks so many times, `delay` milliseconds apart."""
         left, top, _, _ = self.place()
-        repeat = ["--repeat", times, "--delay", 40] if times > 1 else []
+        repeat = ["--repeat", times, "--delay", delay] if times > 1 else []
         self.desktop.mouse("mousemove", left + x, top + y, "click", *repeat, button)
 
     def key(self, name):

@@ -53,7 +53,7 @@ class Game:
     def __init__(self, desktop, program, settings, folder, environment=None, shows_up=True):
         self.desktop = desktop
         self.program = program
-        self.messages = settings.home / "messages" if settings.home.is_dir() else desktop.folder / "messages"
+        self.messages = desktop.folder / f"messages-{len(desktop.processes)}"
         variables = dict(desktop.environment, XDG_CONFIG_HOME=str(settings.home), **(environment or {}))
         with open(self.messages, "wb") as messages:
             self.process = desktop.start([str(program)], cwd=folder, env=variables, stderr=messages)
@@ -158,8 +158,15 @@ class Game:
                 spots.append([(x, y)])
         return [(left + spot[len(spot) // 2][0], top + spot[len(spot) // 2][1]) for spot in spots]
 
+    def open_dialog(self, button, title):
+        self.press(button)
+        return self.desktop.window(title)
+
+    def wait_for_close(self, title):
+        wait_for(lambda: not self.desktop.windows(title), 5, f"the end of {title!r}")
+
     def answer_dialog(self, title, place, seconds=5):
         """Clicks in a dialog and waits until it is gone."""
         dialog = self.desktop.window(title, seconds)
         dialog.click(*place)
-        wait_for(lambda: not self.desktop.windows(title), 5, f"the end of {title!r}")
+        self.wait_for_close(title)

@@ -41,7 +41,7 @@ MUSIC = (180, 76)
 SHOW_SOLUTION = (99, 228)
 RESULT_MENU = (266, 226)
 NEXT_PUZZLE = (358, 227)  # left of where Try Again can stand
-TRY_AGAIN = (440, 227)
+TRY_AGAIN = (499, 227)  # right of where Next Puzzle can stand
 
 # The tutorial's pictures: their box, the place to click in the window, the mouse button.
 TUTORIAL = (
