@@ -11,7 +11,7 @@ namespace prismfall {
 
 // What drawing for one display needs. `scale` is how many pixels of the display a game pixel has.
 struct Display {
-    explicit Display(std::filesystem::path picturesFolder) : pictures(std::move(picturesFolder)) {}
+    explicit Display(PictureStore store) : pictures(std::move(store)) {}
 
     void SetScale(float newScale);
     // A length or a place in game pixels as pixels of the display, rounded half to even.

@@ -17,32 +17,32 @@ struct FreeSurface {
 };
 using SurfacePointer = std::unique_ptr<SDL_Surface, FreeSurface>;
 
-std::uint32_t Premultiplied(std::uint32_t pixel) {
-    const std::uint32_t alpha = pixel >> 24;
-    const auto part = [&](int shift) { return (((pixel >> shift) & 0xFF) * alpha + 127) / 255 << shift; };
-    return alpha << 24 | part(16) | part(8) | part(0);
+// Multiplies the colours by their opacity. Whether every pixel turns out opaque.
+bool Premultiply(std::vector<std::uint32_t>& pixels) {
+    bool opaque = true;
+    for (std::uint32_t& pixel : pixels) {
+        const std::uint32_t alpha = pixel >> 24;
+        if (alpha == 0xFF) continue;
+        opaque = false;
+        pixel = Weakened(pixel | 0xFF000000, alpha);
+    }
+    return opaque;
 }
 
 std::optional<Image> ReadFile(const std::filesystem::path& path) {
     SDL_RWops* file = SDL_RWFromFile(path.c_str(), "rb");
     if (file == nullptr) return std::nullopt;
-    const SurfacePointer read(IMG_LoadPNG_RW(file));
+    SurfacePointer surface(IMG_LoadPNG_RW(file));
     SDL_RWclose(file);
-    if (!read) return std::nullopt;
-    const SurfacePointer surface(SDL_ConvertSurfaceFormat(read.get(), SDL_PIXELFORMAT_ARGB8888, 0));
+    if (surface && SDL_ISPIXELFORMAT_INDEXED(surface->format->format))
+        surface.reset(SDL_ConvertSurfaceFormat(surface.get(), SDL_PIXELFORMAT_ARGB8888, 0));
     if (!surface) return std::nullopt;
-
     Image image(surface->w, surface->h);
-    image.opaque = true;
-    for (int y = 0; y < image.height; ++y) {
-        const auto* bytes = static_cast<const std::uint8_t*>(surface->pixels) + y * surface->pitch;
-        const auto* from = reinterpret_cast<const std::uint32_t*>(bytes);
-        std::uint32_t* to = image.Row(y);
-        for (int x = 0; x < image.width; ++x) {
-            to[x] = Premultiplied(from[x]);
-            if (to[x] >> 24 != 0xFF) image.opaque = false;
-        }
-    }
+    const int rowBytes = image.width * static_cast<int>(sizeof(std::uint32_t));
+    if (SDL_ConvertPixels(image.width, image.height, surface->format->format, surface->pixels, surface->pitch,
+                          SDL_PIXELFORMAT_ARGB8888, image.pixels.data(), rowBytes) != 0)
+        return std::nullopt;
+    image.opaque = Premultiply(image.pixels);
     return image;
 }
 
@@ -50,17 +50,37 @@ std::optional<Image> ReadFile(const std::filesystem::path& path) {
 
 PictureStore::PictureStore(std::filesystem::path picturesFolder) : folder(std::move(picturesFolder)) {}
 
+void PictureStore::ReadAhead(std::span<const std::string_view> names) {
+    readAhead = std::async(std::launch::async, [path = folder, list = std::vector(names.begin(), names.end())] {
+        Images read;
+        for (const std::string_view name : list) {
+            if (std::optional<Image> image = Load(path, 1, name)) read.emplace(name, std::move(image));
+        }
+        return read;
+    });
+}
+
+void PictureStore::TakeReadAhead() {
+    if (!readAhead.valid()) return;
+    Images read = readAhead.get();
+    if (scale == 1) images.merge(read);
+}
+
 void PictureStore::SetScale(float displayScale) {
+    if (displayScale == scale) return;
     scale = displayScale;
     images.clear();
 }
 
-void PictureStore::Add(std::string_view name, Image image) { images.insert_or_assign(std::string(name), image); }
+void PictureStore::Add(std::string_view name, Image image) {
+    images.insert_or_assign(std::string(name), std::move(image));
+}
 
 const Image* PictureStore::Find(std::string_view name) {
+    TakeReadAhead();
     auto found = images.find(name);
     if (found == images.end()) {
-        found = images.emplace(std::string(name), Load(name)).first;
+        found = images.emplace(std::string(name), Load(folder, scale, name)).first;
         if (!found->second && !reported) {
             reported = true;
             std::fprintf(stderr, "prismfall: the picture %s is missing in %s, its name stands in its place.\n",
@@ -70,7 +90,7 @@ const Image* PictureStore::Find(std::string_view name) {
     return found->second ? &*found->second : nullptr;
 }
 
-std::optional<Image> PictureStore::Load(std::string_view name) const {
+std::optional<Image> PictureStore::Load(const std::filesystem::path& folder, float scale, std::string_view name) {
     const std::string file = std::string(name) + ".png";
     float fileScale = scale > 1 ? 2.0F : 1.0F;
     std::optional<Image> image = ReadFile(folder / (scale > 1 ? "2x" : "1x") / file);

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <filesystem>
+#include <future>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,6 +19,9 @@ class PictureStore {
     // `folder` holds 1x/NAME.png, a file pixel to a game pixel, and 2x/NAME.png, twice as large.
     explicit PictureStore(std::filesystem::path folder);
 
+    // Begins to read pictures in the background, in the size of a plain display. What is asked for meanwhile waits; on
+    // a display of another scale they are read anew.
+    void ReadAhead(std::span<const std::string_view> names);
     // How many pixels of the display a game pixel has. What was read before is read anew.
     void SetScale(float displayScale);
     // The picture, or nothing. The pointer holds until the scale changes.
@@ -25,11 +30,15 @@ class PictureStore {
     void Add(std::string_view name, Image image);
 
   private:
-    std::optional<Image> Load(std::string_view name) const;
+    using Images = std::map<std::string, std::optional<Image>, std::less<>>;
+
+    static std::optional<Image> Load(const std::filesystem::path& folder, float scale, std::string_view name);
+    void TakeReadAhead();
 
     std::filesystem::path folder;
     float scale = 1;
-    std::map<std::string, std::optional<Image>, std::less<>> images;
+    Images images;
+    std::future<Images> readAhead;
     bool reported = false;
 };
 

@@ -15,9 +15,11 @@ constexpr std::uint32_t kFrameMilliseconds = 100;  // how long a desktop may tak
 
 }  // namespace
 
-SdlDesktop::SdlDesktop(const std::filesystem::path& pictures, std::function<void()> whenEndAsked,
-                       std::function<void()> whenSoundLost)
-    : endAsked(std::move(whenEndAsked)), soundLost(std::move(whenSoundLost)), facts(AskDesktop()), display(pictures) {
+SdlDesktop::SdlDesktop(PictureStore pictures, std::function<void()> whenEndAsked, std::function<void()> whenSoundLost)
+    : endAsked(std::move(whenEndAsked)),
+      soundLost(std::move(whenSoundLost)),
+      facts(AskDesktop()),
+      display(std::move(pictures)) {
     SDL_AddEventWatch(NoteExposure, this);
 }
 

@@ -22,7 +22,7 @@ class SdlDesktop {
   public:
     // `endAsked` is called when the player or the system wants the program to end, `soundLost` when the sound device
     // has gone.
-    SdlDesktop(const std::filesystem::path& pictures, std::function<void()> endAsked, std::function<void()> soundLost);
+    SdlDesktop(PictureStore pictures, std::function<void()> endAsked, std::function<void()> soundLost);
     SdlDesktop(const SdlDesktop&) = delete;
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();

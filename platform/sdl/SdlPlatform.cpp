@@ -33,12 +33,17 @@ constexpr Hint kHints[] = {
     {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
 };
 
+// The largest pictures of the first screen, read while the display is being opened.
+constexpr std::string_view kEarlyPictures[] = {"Background", "ImagePrismfall"};
+
 }  // namespace
 
 std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pictures, std::string& failure) {
     WatchEndSignals();
     SDL_SetMainReady();
     for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
+    PictureStore early(pictures);
+    early.ReadAhead(kEarlyPictures);
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
         failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
         return nullptr;
@@ -47,12 +52,12 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
     if (const char* driver = SDL_GetCurrentVideoDriver(); driver != nullptr && std::strcmp(driver, "x11") == 0)
         SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     SDL_StopTextInput();
-    return std::unique_ptr<SdlPlatform>(new SdlPlatform(pictures));
+    return std::unique_ptr<SdlPlatform>(new SdlPlatform(std::move(early)));
 }
 
-SdlPlatform::SdlPlatform(const std::filesystem::path& pictures)
+SdlPlatform::SdlPlatform(PictureStore pictures)
     : desktop(
-          pictures, [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
+          std::move(pictures), [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
       settings(SettingsFile::UsersFile()) {}
 
 SdlPlatform::~SdlPlatform() = default;

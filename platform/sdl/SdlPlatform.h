@@ -67,7 +67,7 @@ class SdlPlatform final : public Platform {
     std::string MusicFailureText(int code) override;
 
   private:
-    explicit SdlPlatform(const std::filesystem::path& pictures);
+    explicit SdlPlatform(PictureStore pictures);
 
     void CloseProgram();
 
