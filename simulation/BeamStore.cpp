@@ -7,8 +7,9 @@ namespace prismfall {
 
 namespace {
 
-// Enough for most beams, so that a tick that stops one beam at another allocates nothing.
-constexpr std::size_t kLinksAtFirst = 2;
+// So that a tick that stops one beam at another allocates nothing: more than ever stand against one in play.
+constexpr std::size_t kStoppingAtFirst = 16;
+constexpr std::size_t kLinkedAtFirst = 2;
 
 constexpr std::size_t kFewBeams = 64;
 
@@ -32,8 +33,8 @@ class ToVisit {
 
 CLine& BeamStore::Make() {
     CLine& beam = *beams.emplace_back(std::make_unique<CLine>());
-    beam.LinkedLines.reserve(kLinksAtFirst);
-    beam.StoppingLines.reserve(kLinksAtFirst);
+    beam.LinkedLines.reserve(kLinkedAtFirst);
+    beam.StoppingLines.reserve(kStoppingAtFirst);
     return beam;
 }
 
