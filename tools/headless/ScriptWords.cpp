@@ -1,6 +1,7 @@
 // See ScriptWords.h.
 #include "tools/headless/ScriptWords.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
