@@ -17,16 +17,16 @@ constexpr int kHeadsMeet = 3;            // heads nearer than this in x and y me
 
 // Farther than this from a beam's box no rounding can bring the distance down to kHitDistance, so it is not computed.
 constexpr int kSurelyApart = 3;
+static_assert(kHeadsMeet <= kSurelyApart, "a head that can be met lies no farther than that either");
 
 bool IsOutOfPlay(const CLine& beam, Boolean FastLine) {
     if (!beam.Deleted) return false;
     return FastLine || beam.Thicknes != kStruckThicknes || beam.DeletedByFastLine;
 }
 
-bool IsSurelyApart(const CLine& beam, int x, int y) {
-    const auto [left, right] = std::minmax(beam.XStart, beam.XEnd);
-    const auto [top, bottom] = std::minmax(beam.YStart, beam.YEnd);
-    return x < left - kSurelyApart || x > right + kSurelyApart || y < top - kSurelyApart || y > bottom + kSurelyApart;
+bool IsBeside(std::int16_t from, std::int16_t to, int place) {
+    const auto [low, high] = std::minmax(from, to);
+    return place < low - kSurelyApart || place > high + kSurelyApart;
 }
 
 bool IsHitByDistance(const CLine& beam, std::int16_t X, std::int16_t Y) {
@@ -49,8 +49,8 @@ CLine* FindCollision(const VMain& main, std::int16_t X, std::int16_t Y, std::int
                      Boolean FastLine) {
     if (Y <= main.CollisionLineY + kBlueLine) return nullptr;
     for (CLine* beam : main.Lines) {
-        if (IsOutOfPlay(*beam, FastLine)) continue;
-        if (!IsSurelyApart(*beam, X, Y) && IsHitByDistance(*beam, X, Y)) return beam;
+        if (IsBeside(beam->XStart, beam->XEnd, X) || IsOutOfPlay(*beam, FastLine)) continue;
+        if (!IsBeside(beam->YStart, beam->YEnd, Y) && IsHitByDistance(*beam, X, Y)) return beam;
         if (IsHitByHead(*beam, X, PrevY, Direction)) return beam;
     }
     return nullptr;
