@@ -117,32 +117,35 @@ TEST(FindCollision, TheFirstInLinesWins) {
     EXPECT_EQ(FindCollision(main, 150, 153, 149, kLeftwards, false), &byDistance);
 }
 
-// What a walk without any short cut finds.
-const CLine* FoundByPlainWalk(const VMain& main, std::int16_t x, std::int16_t y) {
+// What a walk to the left without any short cut finds.
+const CLine* FoundByPlainWalk(const VMain& main, std::int16_t x, std::int16_t y, std::int16_t prevY) {
     for (const CLine* beam : main.Lines) {
         float nearestX = 0, nearestY = 0, distance = 0;
         PointToSegmentDistance(x, y, beam->XStart, beam->YStart, beam->XEnd, beam->YEnd, nearestX, nearestY, distance);
-        if (distance <= 1) return beam;
+        const bool headsMeet = std::abs(prevY - beam->YEnd) < 3 && std::abs(x - beam->XEnd) < 3;
+        if (distance <= 1 || (headsMeet && beam->Direction == kRightwards)) return beam;
     }
     return nullptr;
 }
 
 TEST(FindCollision, FindsWhatAPlainWalkFinds) {
     std::mt19937 random(3);
-    std::uniform_int_distribution<int> place(14, 300), length(0, 60), off(-6, 66);
+    std::uniform_int_distribution<int> place(14, 300), length(0, 60), off(-6, 6), along(0, 60);
     TestGame game;
     VMain& main = game.Play(kPuzzleGame);
     int hits = 0;
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 6000; ++i) {
         if (i % 100 == 0) ClearLines(main);
-        const int x = place(random), y = 40 + place(random), size = length(random);
-        game.AddBeam(x, y, i % 2 == 0 ? x + size : x - size, y + size, 0);
-        const auto testX = Saturated(x + off(random)), testY = Saturated(y + off(random));
-        const CLine* expected = FoundByPlainWalk(main, testX, testY);
-        EXPECT_EQ(FindCollision(main, testX, testY, 2000, kLeftwards, false), expected);
+        const int x = place(random), y = 40 + place(random), size = length(random), at = along(random);
+        const int way = i % 2 == 0 ? 1 : -1;
+        game.AddBeam(x, y, x + way * size, y + size, 0);
+        const auto testX = Saturated(x + way * at + off(random)), testY = Saturated(y + at + off(random));
+        const auto prevY = Saturated(testY - 4);
+        const CLine* expected = FoundByPlainWalk(main, testX, testY, prevY);
+        EXPECT_EQ(FindCollision(main, testX, testY, prevY, kLeftwards, false), expected);
         if (expected != nullptr) ++hits;
     }
-    EXPECT_GT(hits, 100);
+    EXPECT_GT(hits, 1000);
 }
 
 TEST(PointToSegmentDistance, GivesTheNearestPoint) {
