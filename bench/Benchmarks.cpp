@@ -1,0 +1,198 @@
+// What the game does most, each beside its floor (BareField). `bench/ratios` runs this and compares.
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <ostream>
+
+#include "bench/BareField.h"
+#include "platform/headless/HeadlessPlatform.h"
+#include "simulation/BeamRemoval.h"
+#include "simulation/CollisionDetection.h"
+#include "simulation/GrowthTick.h"
+#include "simulation/PlayerInput.h"
+#include "simulation/Playfield.h"
+
+namespace prismfall::bench {
+namespace {
+
+constexpr int kTicksAtATime = 100;
+constexpr std::int16_t kFastBeamTop = 70;
+
+// The same beams as a game and as bare arrays.
+struct Field {
+    std::ostream nowhere{nullptr};
+    HeadlessPlatform machine{nowhere};
+    VMain main{machine};
+    BareField bare;
+    Surface surface;
+    std::vector<PixelBox> damage;
+
+    Field() {
+        main.GameMode = kArcadeGame;
+        main.CollisionLineY = kArcadeCollisionLineY;
+    }
+
+    void Add(int tailX, int tailY, int headX, int headY, int color, bool grows) {
+        CLine& beam = main.Beams.Make();
+        beam.XStart = Saturated(tailX);
+        beam.YStart = Saturated(tailY);
+        beam.XEnd = Saturated(headX);
+        beam.YEnd = Saturated(headY);
+        beam.Direction = headX >= tailX ? kRightwards : kLeftwards;
+        beam.Color = color;
+        beam.RunMode = grows ? kGrowing : kStopped;
+        beam.Thicknes = kLiveThicknes;
+        main.Lines.push_back(&beam);
+        bare.Add(tailX, tailY, headX, headY, color, grows);
+    }
+
+    // Puts the heads back to where they were.
+    void Rewind(std::size_t beam, int headX, int headY) {
+        main.Lines[beam]->XEnd = bare.xEnd[beam] = static_cast<std::int16_t>(headX);
+        main.Lines[beam]->YEnd = bare.yEnd[beam] = static_cast<std::int16_t>(headY);
+    }
+
+    // What a frame takes.
+    void TakeDamage() {
+        machine.Painted().TakeDamage(damage);
+        surface.TakeDamage(damage);
+    }
+};
+
+// Thirty that grow among sixty, in lanes of their own, so that none meets another.
+struct BusyField : Field {
+    BusyField() {
+        for (int i = 0; i < 60; ++i) Add(HeadX(i) - 20, 80, HeadX(i), 100, i % 4, i % 2 == 0);
+    }
+    static int HeadX(int beam) { return 40 + 8 * beam; }
+    void RewindAll() {
+        for (int i = 0; i < 60; ++i) Rewind(static_cast<std::size_t>(i), HeadX(i), 100);
+    }
+};
+
+void Tick(benchmark::State& state) {
+    BusyField field;
+    for (auto _ : state) {
+        for (int tick = 0; tick < kTicksAtATime; ++tick) {
+            ExtendLines(field.main);
+            field.TakeDamage();
+        }
+        if (field.main.Lines[58]->YEnd != 100 + kTicksAtATime) state.SkipWithError("a beam was stopped");
+        field.RewindAll();
+    }
+    state.SetItemsProcessed(state.iterations() * kTicksAtATime);
+}
+BENCHMARK(Tick);
+
+void TickFloor(benchmark::State& state) {
+    BusyField field;
+    for (auto _ : state) {
+        for (int tick = 0; tick < kTicksAtATime; ++tick) {
+            field.bare.Tick(field.surface);
+            field.TakeDamage();
+        }
+        field.RewindAll();
+    }
+    state.SetItemsProcessed(state.iterations() * kTicksAtATime);
+}
+BENCHMARK(TickFloor);
+
+// A thousand beams all over the field, and test points that meet none of them: each walk goes to the end.
+struct CrowdedField : Field {
+    struct Point {
+        std::int16_t x, y;
+    };
+    std::array<Point, 64> points{};
+
+    CrowdedField() {
+        for (int i = 0; i < 1000; ++i) {
+            const int x = 60 + i * 97 % 550, y = 70 + i * 61 % 450, length = 5 + i * 13 % 40;
+            Add(x, y, i % 3 == 0 ? x - length : x + length, y + length, i % 4, false);
+        }
+        std::size_t count = 0;
+        for (int i = 0; count < points.size(); ++i) {
+            const auto x = static_cast<std::int16_t>(20 + i * 211 % 640),
+                       y = static_cast<std::int16_t>(70 + i * 173 % 500);
+            if (FindCollision(main, x, y, 1000, kLeftwards, false) == nullptr) points[count++] = {x, y};
+        }
+    }
+};
+
+void FindCollisionIn1000(benchmark::State& state) {
+    const CrowdedField field;
+    for (auto _ : state)
+        for (const auto& [x, y] : field.points)
+            benchmark::DoNotOptimize(FindCollision(field.main, x, y, 1000, kLeftwards, false));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(field.points.size()));
+}
+BENCHMARK(FindCollisionIn1000);
+
+void FindCollisionIn1000Floor(benchmark::State& state) {
+    const CrowdedField field;
+    for (auto _ : state)
+        for (const auto& [x, y] : field.points) benchmark::DoNotOptimize(field.bare.FindNear(x, y, 1000, -1));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(field.points.size()));
+}
+BENCHMARK(FindCollisionIn1000Floor);
+
+// One beam with the whole field before it, among sixty that it passes.
+struct OpenField : Field {
+    OpenField() {
+        for (int i = 0; i < 60; ++i) Add(500 + i % 3, 80 + i, 620 + i % 3, 200 + i, i % 4, false);
+        Add(20, 67, 23, kFastBeamTop, 1, true);
+    }
+    void RewindFast() {
+        Rewind(60, 23, kFastBeamTop);
+        TakeDamage();
+    }
+};
+
+void SpeedUp(benchmark::State& state) {
+    OpenField field;
+    for (auto _ : state) {
+        SpeedUpLine(field.main, *field.main.Lines[60], false);
+        if (field.main.Lines[60]->YEnd != kFloor - 1) state.SkipWithError("the beam was stopped");
+        field.RewindFast();
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(SpeedUp);
+
+void SpeedUpFloor(benchmark::State& state) {
+    OpenField field;
+    for (auto _ : state) {
+        field.bare.RunDown(field.surface, 60);
+        field.RewindFast();
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(SpeedUpFloor);
+
+struct FullField : Field {
+    FullField() {
+        for (int i = 0; i < 60; ++i) Add(30 + 3 * i, 80, 430 + 3 * i, 480, i % 4, false);
+    }
+};
+
+void Redraw(benchmark::State& state) {
+    FullField field;
+    for (auto _ : state) {
+        RedrawLines(field.main);
+        field.TakeDamage();
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(Redraw);
+
+void RedrawFloor(benchmark::State& state) {
+    FullField field;
+    for (auto _ : state) {
+        field.bare.Paint(field.surface);
+        field.TakeDamage();
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(RedrawFloor);
+
+}  // namespace
+}  // namespace prismfall::bench
