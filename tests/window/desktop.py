@@ -147,6 +147,8 @@ class Desktop:
             if not name.startswith(("SDL_", "XDG_")) and name not in ("DISPLAY", "WAYLAND_DISPLAY")
         }
         self.environment.update(DISPLAY=f":{number}", HOME=str(self.folder), SDL_AUDIODRIVER="dummy")
+        # A desktop has a message bus. Without one SDL would search for a program that starts one, at every start.
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.folder}/bus"
         self.screen = Screen(self.folder / "Xvfb_screen0")
         if manager:
             self.start(["openbox", "--sm-disable"])
