@@ -73,7 +73,9 @@ TEST(PuzzleStart, GoesOnToTheNextPuzzleAndStaysAtTheLast) {
     main.Score = 50;
     main.Level = 7;
     main.CurrentPuzzle = 44;
+    main.cmdPause.tag = "Resume";
     StartPuzzleGame(main, true, false);
+    EXPECT_EQ(main.cmdPause.tag, "");
     EXPECT_EQ(main.CurrentPuzzle, 45);
     StartPuzzleGame(main, true, false);
     EXPECT_EQ(main.CurrentPuzzle, 45);

@@ -107,6 +107,19 @@ TEST(Buttons, OfDialogsWorkAlike) {
     }
 }
 
+TEST(Buttons, ThatOpenADialogGoBackUpWhenItHasClosed) {
+    TestGame game;
+    VMain& main = game.QuietStore().Load();
+    for (const std::string_view button : {"CmdOptions", "CmdScores", "CmdAbout"}) {
+        main.window.on.elementMove(main.CommandExit);
+        main.window.on.elementMove(main.window[button]);
+        game.Machine().onDialog = [&](Window&) { EXPECT_TRUE(main.window[button].picture.ends_with("Down")); };
+        game.Click(button);
+        EXPECT_TRUE(main.window[button].picture.ends_with("Up")) << button;
+        EXPECT_EQ(main.CommandExit.picture, "ExitDown") << "and no other";
+    }
+}
+
 TEST(Buttons, SoundBeforeTheirClick) {
     TestGame game;
     VMain& main = game.QuietStore().Load();

@@ -156,6 +156,9 @@ TEST(Layout, HighScores) {
     }
     std::ranges::sort(expected);
     EXPECT_EQ(Described(scores), expected);
+    ClearScores(main);
+    for (const std::string_view name : {"LabelScore0", "LabelScore9", "LabelLevel0", "LabelEndLevel9"})
+        EXPECT_EQ((*main.VHighScore2)[name].text, "0") << "what is shown is cleared as well";
 }
 
 TEST(Layout, PuzzleResult) {
