@@ -2,11 +2,12 @@
 import configparser
 import os
 import pathlib
+import shutil
 import signal
 import tempfile
 
 import layout
-from desktop import holds_for, wait_for
+from desktop import ENDING, holds_for, wait_for
 
 APART = 0.6  # seconds between two clicks that must not become a double click
 
@@ -22,8 +23,12 @@ class Settings:
     def __init__(self, values=None):
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="prismfall-settings-"))
         self.file = self.home / "prismfall" / "settings.ini"
+        ENDING.append(self)
         if values is not None:
             self.write(values)
+
+    def stop(self):
+        shutil.rmtree(self.home, ignore_errors=True)
 
     def write(self, values):
         parser = self.parser()

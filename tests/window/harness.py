@@ -44,7 +44,7 @@ class WindowTest(unittest.TestCase):
 
     def settings(self, values=None):
         settings = game.Settings(values)
-        self.addCleanup(shutil.rmtree, settings.home, ignore_errors=True)
+        self.addCleanup(settings.stop)
         return settings
 
     def start(self, settings=None, folder=ASSETS, program=None, **options):
@@ -68,7 +68,8 @@ class Result(unittest.TextTestResult):
         screen = getattr(getattr(test, "desktop", None), "screen", None)
         if screen is None:
             return
-        path = WindowTest.pictures / f"{test.id()}.png"
+        name = test.id().replace("__main__", pathlib.Path(sys.argv[0]).stem)
+        path = WindowTest.pictures / f"{name}.png"
         screen.whole().save(path)
         self.stream.writeln(f"screen saved in {path}")
 
@@ -80,12 +81,18 @@ class Result(unittest.TextTestResult):
         self.keep_picture(test)
         super().addError(test, error)
 
+    def addSubTest(self, test, subtest, error):
+        if error is not None:
+            self.keep_picture(test)
+        super().addSubTest(test, subtest, error)
+
 
 def give_up():
     print(f"not done after {LONGEST} s", file=sys.stderr)
     faulthandler.dump_traceback()
     for number, thing in enumerate(desktop.ENDING):
-        thing.screen.whole().save(WindowTest.pictures / f"hung-{number}.png")
+        if isinstance(thing, desktop.Desktop):
+            thing.screen.whole().save(WindowTest.pictures / f"hung-{number}.png")
     desktop.end_all()
     os._exit(2)
 
