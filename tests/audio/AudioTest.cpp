@@ -7,7 +7,6 @@
 #include <string>
 
 #include "audio/Music.h"
-#include "audio/SoundEffects.h"
 #include "audio/SoundResources.h"
 #include "tests/support/TestGame.h"
 
@@ -78,35 +77,8 @@ TEST(Music, IsSwitchedAsAWhole) {
                                         Opened(FileOf(9)), Opened(FileOf(12)), ""};
         EXPECT_EQ(game.TakePrinted(), kStarted[mode]) << mode;
         EXPECT_TRUE(main.Music);
-    }
-}
-
-TEST(Music, AFileThatCannotBeOpenedIsToldOnceForEachCall) {
-    TestGame game;
-    VMain& main = game.Load();
-    game.Machine().SetMusicPresent(false);
-    for (int call = 0; call < 2; ++call) {
         PlayMusicFile(main, "x.mp3", 500);
-        EXPECT_EQ(game.TakePrinted(), "music close\nmusic open \"x.mp3\"\nmessagebox cannot open\n");
-    }
-    game.Machine().SetMusicPresent(true);
-    PlayMusicFile(main, "x.mp3", 500);
-    EXPECT_EQ(game.TakePrinted(), "music close\nmusic open \"x.mp3\"\nmusic volume 500\nmusic play\n");
-    SetMusicVolume(main, 0);
-    EXPECT_EQ(game.TakePrinted(), "music volume 0\n");
-}
-
-TEST(Music, TheIntroTimerFiresOnce) {
-    TestGame game;
-    game.Load();
-    game.Machine().Run(999);
-    EXPECT_EQ(game.TakePrinted(), "");
-    game.Machine().Run(3000);
-    EXPECT_EQ(game.TakePrinted(), Opened("Orvane-Aurora_Borealis.mp3"));
-    for (const std::string_view button : {"CommandArcade", "CommandPuzzle"}) {
-        game.Load();
-        game.Click(button);
-        EXPECT_FALSE(game.Machine().Timers().IsOn(Timer::TimerPlayIntro)) << button;
+        EXPECT_EQ(game.TakePrinted(), "music close\nmusic open \"x.mp3\"\nmusic volume 500\nmusic play\n");
     }
 }
 
@@ -147,21 +119,6 @@ TEST(Sounds, AreWaveFilesOfTheirFormatAndLength) {
         EXPECT_GT(values.size(), 16U) << format.id << " is no silence";
     }
     for (const int id : {-1, 0, 1, 101, 109}) EXPECT_TRUE(LoadSoundResource(id).empty()) << id;
-}
-
-TEST(Sounds, AreSilentWhileEffectsAreOff) {
-    TestGame game;
-    VMain& main = game.QuietStore().Load();
-    for (std::int32_t sound = 1; sound <= 7; ++sound) {
-        PlaySound2(main, sound, sound % 2 == 0);
-        EXPECT_EQ(game.TakePrinted(), "sound " + std::to_string(sound) + (sound % 2 == 0 ? " sync\n" : " async\n"));
-    }
-    SetSoundEffects(main, false);
-    PlaySound2(main, 1, true);
-    EXPECT_EQ(game.TakePrinted(), "");
-    SetSoundEffects(main, true);
-    PlaySound2(main, 1, true);
-    EXPECT_EQ(game.TakePrinted(), "sound 1 sync\n");
 }
 
 }  // namespace

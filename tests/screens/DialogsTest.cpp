@@ -59,13 +59,12 @@ TEST(Layout, MainWindow) {
     EXPECT_EQ(game.Machine().OuterSize(main.window).width, 806);
     EXPECT_EQ(game.Machine().OuterSize(main.window).height, 629);
     std::string all;
-    for (const Element* element : main.window.elements)
-        if (!element->name.starts_with("LabelSolved") && element->kind != ElementKind::PressPicture) {
-            std::ostringstream line;
-            line << element->name << ' ' << element->left << ',' << element->top << ' ' << element->width << 'x'
-                 << element->height << "; ";
-            all += line.str();
-        }
+    for (const Element* element : main.window.elements) {
+        if (element->name.starts_with("LabelSolved") || element->kind == ElementKind::PressPicture) continue;
+        Element box = *element;
+        box.text.clear();
+        all += Described(box) + "; ";
+    }
     EXPECT_EQ(all,
               "ImagePrismfall 46,101 586x205; ImageA 544,102 84x87; CommandPuzzle 160,408 133x54; "
               "CommandArcade 400,409 151x58; CommandPrevious 679,27 121x37; CommandNext 693,71 97x33; "
