@@ -1,5 +1,7 @@
 """An Arcade game played with the mouse: spots and trails, a bend, a speed-up, leaving, and a game to its end."""
 
+import time
+
 import harness
 import layout
 from desktop import holds_for, wait_for
@@ -9,6 +11,8 @@ PATIENT = later_run(StartLevel="1")
 BRISK = later_run(StartLevel="3")
 FASTEST = later_run(StartLevel="10")
 FARTHER_THAN_TICKS = 300  # coloured pixels more than all beams together grow in the time of a look
+FLOOR = 586
+END_SOUND = 1.01  # seconds
 ROOM = 80  # pixels to a wall, enough to measure and to bend
 
 
@@ -76,11 +80,14 @@ class Arcade(harness.WindowTest):
         settings = self.settings(FASTEST)
         run = self.start(settings)
         run.press("CommandArcade")
-        run.wait_for_lowest_head(560, 15)
+        run.wait_for_lowest_head(FLOOR - 3, 15)
+        atFloor = time.monotonic()
+        field = run.main.viewer(*layout.BELOW_BLUE_LINE)
+        wait_for(lambda: field().count(layout.GREY) > 0, 5, "the grey sweep")
+        self.assertGreater(time.monotonic() - atFloor, END_SOUND - 0.3, "the sweep did not wait for the sound")
         scores = self.desktop.window(layout.SCORES, 15)
-        field = run.main.pixels(14, 66, 656, 520)
-        self.assertGreater(field.count(layout.GREY), 200, "grey beams")
-        self.assertEqual(field.count(*layout.CORES), 0, "beams that are not grey")
+        wait_for(lambda: field().count(*layout.CORES) == 0, 2, "an end of all colours")
+        self.assertGreater(field().count(layout.GREY), 200, "grey beams")
         self.assertTrue(scores.is_visible())
         run.answer_dialog(layout.SCORES, layout.SCORES_OK)
         run.wait_for_main_menu()

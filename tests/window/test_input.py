@@ -4,7 +4,7 @@ import time
 import harness
 import layout
 from desktop import wait_for
-from game import later_run
+from game import APART, later_run
 
 MENU_BUTTONS = ("CommandPuzzle", "CommandArcade", "CmdOptions", "CmdScores", "CmdAbout", "CommandExit")
 ROOM = 120  # pixels to a wall
@@ -77,7 +77,7 @@ class Minimise(harness.WindowTest):
         run.wait_for_stillness()
         resume = run.face_at_rest("cmdPause")
         self.assertNotEqual(resume, pause)
-        time.sleep(0.6)  # so that the next click is no double click
+        time.sleep(APART)
         run.press("cmdPause")
         run.wait_for_motion()
         run.rest_mouse()
