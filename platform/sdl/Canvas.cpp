@@ -19,6 +19,7 @@ std::uint32_t Mix(std::uint32_t a, std::uint32_t b, std::uint32_t shareOfB) {
 std::vector<Between> Positions(int from, int to) {
     std::vector<Between> positions;
     const float scale = static_cast<float>(to) / static_cast<float>(from);
+    positions.reserve(static_cast<std::size_t>(to));
     for (int i = 0; i < to; ++i) positions.push_back(NeighboursAt(i, scale, from));
     return positions;
 }

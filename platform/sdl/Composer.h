@@ -14,7 +14,7 @@ namespace prismfall {
 class Composer {
   public:
     // `layer` is the painted layer, if the window has one. All of them must outlive the composer.
-    Composer(const Window& window, Surface* layer, Display& display);
+    Composer(const Window& composed, Surface* paintedLayer, Display& target);
 
     // From now on everything counts as changed until it is composed again.
     void ForgetAll() { everything = true; }

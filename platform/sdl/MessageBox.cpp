@@ -43,7 +43,7 @@ int GamePixels(int displayPixels, const Display& display) {
 
 }  // namespace
 
-void MakeMessageBox(Window& box, std::string_view text, Display& display, std::function<void()> dismiss) {
+void MakeMessageBox(Window& box, std::string_view text, Display& display, const std::function<void()>& dismiss) {
     display.pictures.Add(kMarkPicture, StopMark(display.Pixels(kMarkSize)));
     const auto lines =
         static_cast<int>(display.text.Lines(text, kFont, display.Pixels(static_cast<float>(kTextWidth))).size());

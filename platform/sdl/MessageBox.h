@@ -11,6 +11,6 @@
 namespace prismfall {
 
 // Fills an empty window. `dismiss` is called when the player presses OK, Enter or Esc.
-void MakeMessageBox(Window& box, std::string_view text, Display& display, std::function<void()> dismiss);
+void MakeMessageBox(Window& box, std::string_view text, Display& display, const std::function<void()>& dismiss);
 
 }  // namespace prismfall

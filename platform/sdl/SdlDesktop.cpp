@@ -102,7 +102,7 @@ void SdlDesktop::Refresh() {
 }
 
 void SdlDesktop::HideAll() {
-    for (auto shown = windows.rbegin(); shown != windows.rend(); ++shown) shown->real->HideNow();
+    std::for_each(windows.rbegin(), windows.rend(), [](const Shown& shown) { shown.real->HideNow(); });
 }
 
 void SdlDesktop::Handle(const SDL_Event& event) {

@@ -3,6 +3,7 @@
 
 #include <SDL.h>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -21,7 +22,7 @@ struct Hint {
     const char* value;
 };
 
-constexpr Hint kHints[] = {
+constexpr std::array<Hint, 7> kHints = {{
     {SDL_HINT_APP_NAME, "Prismfall"},
     // A desktop, and none of the stand-ins that nobody would see. The user's environment goes before this.
     {SDL_HINT_VIDEODRIVER, "x11,wayland"},
@@ -31,10 +32,10 @@ constexpr Hint kHints[] = {
     {SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1"},
     {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
     {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
-};
+}};
 
 // The largest pictures of the first screen, read while the display is being opened.
-constexpr std::string_view kEarlyPictures[] = {"Background", "ImagePrismfall"};
+constexpr std::array<std::string_view, 2> kEarlyPictures = {"Background", "ImagePrismfall"};
 
 }  // namespace
 

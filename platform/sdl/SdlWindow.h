@@ -32,7 +32,7 @@ class SdlWindow {
     };
 
     // Makes the window and shows it. If the desktop refuses, IsReal is false and the error is SDL_GetError's.
-    SdlWindow(Window& window, Display& display, const Options& options);
+    SdlWindow(Window& data, Display& target, const Options& wanted);
 
     bool IsReal() const { return real != nullptr; }
     SDL_Window* Real() const { return real.get(); }

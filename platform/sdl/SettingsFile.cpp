@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <array>
 
 #include <cerrno>
 #include <cstdlib>
@@ -57,10 +58,10 @@ Content ReadAll(const fs::path& path) {
         return content;
     }
     content.mode = status.st_mode & 07777;
-    char block[4096];
+    std::array<char, 4096> block{};
     ssize_t count = 0;
-    while ((count = ::read(file.Number(), block, sizeof block)) > 0 && content.text.size() <= kLargestFile)
-        content.text.append(block, static_cast<std::size_t>(count));
+    while ((count = ::read(file.Number(), block.data(), block.size())) > 0 && content.text.size() <= kLargestFile)
+        content.text.append(block.data(), static_cast<std::size_t>(count));
     if (count < 0) content.error = errno;
     if (content.text.size() > kLargestFile) content.error = EFBIG;
     return content;

@@ -3,6 +3,7 @@
 #include "platform/sdl/SettingsText.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdio>
 #include <optional>
@@ -32,9 +33,9 @@ std::string Escaped(std::string_view text, std::string_view reserved) {
             result += text[i];
             continue;
         }
-        char code[8];
-        std::snprintf(code, sizeof code, "\\x%02X", byte);
-        result += code;
+        std::array<char, 8> code{};
+        std::snprintf(code.data(), code.size(), "\\x%02X", byte);
+        result += code.data();
     }
     return result;
 }

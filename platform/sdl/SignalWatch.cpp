@@ -4,7 +4,7 @@
 
 #include <SDL.h>
 #include <pthread.h>
-#include <signal.h>
+#include <csignal>
 
 #include <thread>
 

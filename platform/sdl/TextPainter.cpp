@@ -5,6 +5,7 @@
 #include <SDL.h>
 #include <SDL_ttf.h>
 #include <fontconfig/fontconfig.h>
+#include <array>
 
 #include <algorithm>
 #include <cmath>
@@ -21,10 +22,10 @@ struct StandIn {
     const char* used;
 };
 
-constexpr StandIn kStandIns[] = {
+constexpr std::array<StandIn, 2> kStandIns = {{
     {"MS Sans Serif", "Liberation Sans"},
     {"Felix Titling", "Liberation Serif"},
-};
+}};
 
 std::string FamilyFor(std::string_view family) {
     for (const StandIn& standIn : kStandIns)
@@ -194,7 +195,8 @@ void TextPainter::DrawLine(Canvas& canvas, std::string_view line, const Font& fo
     Image image(letters->w, letters->h);
     const std::uint32_t pixel = PixelOf(colour);
     for (int y = 0; y < image.height; ++y) {
-        const auto* from = static_cast<const std::uint8_t*>(letters->pixels) + y * letters->pitch;
+        const auto* from =
+            static_cast<const std::uint8_t*>(letters->pixels) + static_cast<std::ptrdiff_t>(y) * letters->pitch;
         for (int x = 0; x < image.width; ++x)
             image.Row(y)[x] = Weakened(pixel, reinterpret_cast<const std::uint32_t*>(from)[x] >> 24);
     }

@@ -60,7 +60,7 @@ void WindowInput::Release(MouseButton button, float x, float y) {
     if (window.on.elementClick) window.on.elementClick(*element);
 }
 
-void WindowInput::Key(std::int32_t code) {
+void WindowInput::Key(std::int32_t code) const {
     if (code > std::numeric_limits<std::int16_t>::max() || !window.on.keyDown) return;
     window.on.keyDown(static_cast<std::int16_t>(code));
 }

@@ -10,13 +10,13 @@ namespace prismfall {
 
 class WindowInput {
   public:
-    WindowInput(Window& window, int doubleClickMilliseconds);
+    WindowInput(Window& target, int doubleClickMilliseconds);
 
     // Places are game pixels of the window's inner area; `time` is in milliseconds.
     void Move(float x, float y);
     void Press(MouseButton button, float x, float y, std::uint32_t time);
     void Release(MouseButton button, float x, float y);
-    void Key(std::int32_t code);
+    void Key(std::int32_t code) const;
     // Forgets a press that has not been released and one that could become a double click.
     void Forget();
 

@@ -6,6 +6,7 @@
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xresource.h>
+#include <array>
 
 #include <algorithm>
 #include <cmath>
@@ -50,12 +51,12 @@ std::optional<X11Window> OnX11(SDL_Window* window) {
 Atom AtomOf(const X11Window& x, const char* name) { return XInternAtom(x.display, name, False); }
 
 void SetMotifHints(const X11Window& x, bool canMinimise) {
-    const unsigned long hints[5] = {
+    const std::array<unsigned long, 5> hints = {
         kMotifHasFunctions | kMotifHasDecorations, kMotifMove | kMotifClose | (canMinimise ? kMotifMinimise : 0),
         kMotifBorder | kMotifTitle | kMotifMenu | (canMinimise ? kMotifMinimiseBox : 0), 0, 0};
     const Atom name = AtomOf(x, "_MOTIF_WM_HINTS");
-    XChangeProperty(x.display, x.window, name, name, 32, PropModeReplace, reinterpret_cast<const unsigned char*>(hints),
-                    5);
+    XChangeProperty(x.display, x.window, name, name, 32, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(hints.data()), 5);
 }
 
 void SetAtoms(const X11Window& x, const char* property, const char* value, int mode) {
@@ -92,7 +93,7 @@ class DesktopSettings {
     }
 
     std::string Text(std::size_t length) {
-        const std::string text(at < bytes.size() ? bytes.substr(at, length) : std::string_view());
+        std::string text(at < bytes.size() ? bytes.substr(at, length) : std::string_view());
         at += (length + 3) / 4 * 4;
         return text;
     }
