@@ -13,7 +13,8 @@ namespace {
 namespace fs = std::filesystem;
 
 // Where the pictures lie, seen from the folder of the program: installed, and in a checkout.
-constexpr std::array<const char*, 2> kPictureFolders = {"../../share/games/prismfall/pictures", "../../assets/pictures"};
+constexpr std::array<const char*, 2> kPictureFolders = {"../../share/games/prismfall/pictures",
+                                                        "../../assets/pictures"};
 
 fs::path FindPictures() {
     std::error_code ignored;
