@@ -57,8 +57,7 @@ class WindowTest(unittest.TestCase):
     def end_in_menu(self, run):
         """Ends a run by Exit in the main menu, and sees that it was content."""
         run.press("CommandExit")
-        self.assertEqual(run.wait_for_end(), 0)
-        self.assertEqual(run.said(), "")
+        self.assertEqual((run.wait_for_end(), run.said()), (0, ""))
 
 
 class Result(unittest.TextTestResult):
