@@ -81,7 +81,8 @@ TEST_F(SettingsFileTest, ADamagedLineCostsItselfAlone) {
 TEST_F(SettingsFileTest, AnyTextComesBack) {
     const std::uint32_t seed = Seed();
     std::mt19937 random(seed);
-    const std::string letters("ab=[]#;\\\"' \t\n\r\0\x80\xff%", 20);
+    using namespace std::string_literals;
+    const std::string letters = "ab=[]#;\\\"' \t\n\r\0\x80\xff%"s;
     const auto text = [&] {
         std::string result;
         for (auto length = random() % 8; length > 0; --length) result += letters[random() % letters.size()];
