@@ -24,8 +24,6 @@ struct Hint {
 
 constexpr std::array<Hint, 7> kHints = {{
     {SDL_HINT_APP_NAME, "Prismfall"},
-    // A desktop, and none of the stand-ins that nobody would see. The user's environment goes before this.
-    {SDL_HINT_VIDEODRIVER, "x11,wayland"},
     {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
     {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
     // The click that brings the window to the front is a click of the game as well.
@@ -33,6 +31,10 @@ constexpr std::array<Hint, 7> kHints = {{
     {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
     {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
 }};
+
+// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment goes before it.
+// Where there can be no Wayland the library is not asked, since it complains on standard error.
+const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
 
 // The largest pictures of the first screen, read while the display is being opened.
 constexpr std::array<std::string_view, 2> kEarlyPictures = {"Background", "ImagePrismfall"};
@@ -43,6 +45,7 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
     WatchEndSignals();
     SDL_SetMainReady();
     for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
     PictureStore early(pictures);
     early.ReadAhead(kEarlyPictures);
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
