@@ -128,11 +128,13 @@ TEST(LineDeleter, ABeamThatStandsTwiceLosesTwoSteps) {
     StartRemoval(main, twice);
     StartRemoval(main, once);
     main.DyingLines.push_back(&twice);
+    for (int i = 0; i < 100; ++i) main.Beams.Make();  // enough that it pays to free those out of reach
     LineDeleter_Timer(main);
     EXPECT_EQ(twice.Thicknes, 2);
     EXPECT_EQ(once.Thicknes, 3);
     LineDeleter_Timer(main);
     EXPECT_EQ(main.Lines.size(), 2U) << "gone";
+    EXPECT_EQ(main.Beams.Count(), 3U) << "but kept while it stands among the dying";
     EXPECT_EQ(main.DyingLines, (std::vector<CLine*>{&twice, &once}));
     LineDeleter_Timer(main);
     EXPECT_EQ(main.DyingLines, std::vector<CLine*>{&once});

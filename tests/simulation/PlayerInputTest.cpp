@@ -58,6 +58,8 @@ TEST(Form_MouseDown, DoesWhatTheTableSays) {
          "100,100 130,130 right stopped 5", "130,130 130,130 left growing 5", ""},
         {"refused in the entry zone", kArcadeGame, 50, kGrowing, kRight, false, "100,20 130,50 right growing 5", "",
          "sound 3 async\n"},
+        {"guarded above a puzzle's line too", kPuzzleGame, 19, kGrowing, kRight, false,
+         "100,-11 130,19 right growing 5", "", "sound 3 async\n"},
         {"refused below it", kArcadeGame, 130, kGrowing, kRight, false, "100,100 130,130 right growing 5", "",
          "sound 3 async\n"},
         {"speeded in the entry zone", kArcadeGame, 50, kGrowing, kRight, true, "142,62 536,456 right stopped 4 dying",
@@ -233,13 +235,16 @@ TEST(SpeedUpLine, ABeamThatMeetsItsOwnChainThinsItTwice) {
 }
 
 TEST(SpeedUpLine, ErasesInTheEntryZoneAlsoWhenItOnlyLooksAhead) {
-    TestGame game;
-    VMain& main = game.Play(kArcadeGame);
-    CLine& beam = game.AddBeam(100, 20, 120, 40, kBlue);
-    DrawLine(main, 119, 39, 120, 40, kBlue, kRightwards);
-    EXPECT_FALSE(SpeedUpLine(main, beam, true));
-    EXPECT_EQ(game.Machine().Painted().PixelAt(120, 40), 0xFF000000U);
-    EXPECT_EQ(InShort(beam), "100,20 120,40 right growing 5");
+    for (const auto& [mode, head, simulate] : {std::tuple{kArcadeGame, 40, true}, std::tuple{kPuzzleGame, 21, false}}) {
+        TestGame game;
+        VMain& main = game.Play(mode);
+        CLine& beam = game.AddBeam(100, head - 20, 120, head, kBlue);
+        DrawLine(main, 100, head - 20, 120, head, kBlue, kRightwards);
+        const std::string before = InShort(beam);
+        EXPECT_FALSE(SpeedUpLine(main, beam, simulate));
+        EXPECT_EQ(game.Machine().Painted().PixelAt(110, head - 10), 0xFF000000U);
+        EXPECT_EQ(InShort(beam) == before, simulate);
+    }
 }
 
 }  // namespace

@@ -86,10 +86,12 @@ TEST(PlaySolutionStep, FiresOnAGrowingBeamAtTheExactHeight) {
 TEST(PlaySolutionStep, StandsBeamsThatGoWhileItYields) {
     TestGame game;
     VMain& main = game.Play(kSolutionReplay);
-    constexpr std::int16_t kScript[] = {1, 1, 150, -1, 0, 0};
+    constexpr std::int16_t kScript[] = {2, 1, 150, -1, 0, 0, 2, 300, 0, 0, 0};
     main.PuzzleSolutions[0] = kScript;
     game.AddBeam(100, 100, 150, 150, 0).PuzzleLineNr = 1;
-    game.AddBeam(400, 100, 200, 300, 0, kStopped);
+    CLine& struck = game.AddBeam(400, 100, 200, 300, 0, kStopped);
+    struck.PuzzleLineNr = 2;
+    main.Lines[0]->StoppingLines.push_back(&struck);    // so that it would fire its step, if it had not gone
     for (CLine* beam : main.Lines) beam->Thicknes = 1;  // gone with the next step
     game.Machine().SetTimerInterval(Timer::LineDeleter, 1);
     game.Machine().StartTimer(Timer::LineDeleter);
