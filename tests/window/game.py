@@ -17,6 +17,18 @@ def later_run(**general):
     return {"General": {"PlayFirstTime": "False", "Music": "False"} | general}
 
 
+def at_rest(look, what):
+    """What there is to be seen when it has stopped changing."""
+    last = [look()]
+
+    def same():
+        last.append(look())
+        return last[-1] == last[-2]
+
+    wait_for(lambda: holds_for(same, 0.1), 3, f"{what} at rest")
+    return last[-1]
+
+
 class Settings:
     """A folder for settings of the test's own."""
 
@@ -97,15 +109,7 @@ class Game:
     def face_at_rest(self, button):
         """A button's face with the pointer elsewhere, when it has stopped changing."""
         self.rest_mouse()
-        look = self.main.viewer(*layout.BOXES[button])
-        last = [look()]
-
-        def same():
-            last.append(look())
-            return last[-1] == last[-2]
-
-        wait_for(lambda: holds_for(same, 0.1), 3, f"a face of {button} at rest")
-        return last[-1]
+        return at_rest(self.main.viewer(*layout.BOXES[button]), f"a face of {button}")
 
     def in_main_menu(self):
         return self.face("CommandPuzzle").count(0) < 6500  # in a game there is nothing but black
@@ -164,8 +168,11 @@ class Game:
         return [(left + spot[len(spot) // 2][0], top + spot[len(spot) // 2][1]) for spot in spots]
 
     def open_dialog(self, button, title):
+        """Opens a dialog and waits until it is drawn: what it covers changes until then."""
         self.press(button)
-        return self.desktop.window(title)
+        dialog = self.desktop.window(title)
+        at_rest(lambda: dialog.pixels(0, 0, *layout.DIALOG_SIZES[title]), f"the dialog {title!r}")
+        return dialog
 
     def wait_for_close(self, title):
         wait_for(lambda: not self.desktop.windows(title), 5, f"the end of {title!r}")
