@@ -2,6 +2,7 @@
 #include "platform/Surface.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -108,12 +109,16 @@ constexpr int kDamagePiece = 16;               // pixels of a long diagonal that
 
 }  // namespace
 
-Surface::Surface() : pixels(static_cast<std::size_t>(kWidth) * kHeight, kUnpainted) {
-    damage.reserve(kMostDamageBoxes);
+Surface::Surface() { damage.reserve(kMostDamageBoxes); }
+
+const std::uint32_t* Surface::Row(int y) const {
+    static constexpr std::array<std::uint32_t, kWidth> kUnpaintedRow{};
+    return pixels.empty() ? kUnpaintedRow.data() : &pixels[Index(0, y)];
 }
 
 void Surface::Line(int x1, int y1, int x2, int y2, Colour colour, int width) {
     if (width <= 0) return;
+    if (pixels.empty()) pixels.assign(static_cast<std::size_t>(kWidth) * kHeight, kUnpainted);
     const Stroke stroke(x1, y1, x2, y2, width);
     const std::uint32_t pixel = ToPixel(colour);
     const int top = std::max(std::min(y1, y2) - width / 2, 0);
@@ -134,13 +139,13 @@ void Surface::Box(int x1, int y1, int x2, int y2, Colour colour, int width) {
 
 void Surface::Restore(int x1, int y1, int x2, int y2) {
     const PixelBox box = Clipped({x1, y1, x2, y2});
-    if (box.IsEmpty()) return;
+    if (box.IsEmpty() || pixels.empty()) return;
     for (int y = box.top; y < box.bottom; ++y) FillSpan(y, box.left, box.right, kUnpainted);
     AddDamage(box);
 }
 
 void Surface::Clear() {
-    std::fill(pixels.begin(), pixels.end(), kUnpainted);
+    std::vector<std::uint32_t>().swap(pixels);
     damage.assign(1, kWholeSurface);
 }
 

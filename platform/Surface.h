@@ -29,6 +29,7 @@ class Surface {
 
     Surface();
 
+    // A surface on which nothing is painted takes no memory for its pixels.
     // The operations of Platform.h. Any coordinates will do: what lies outside is cut off. A width of 0 or less paints
     // nothing.
     void Line(int x1, int y1, int x2, int y2, Colour colour, int width);
@@ -37,8 +38,8 @@ class Surface {
     void Clear();
 
     // 0xFFRRGGBB, or kUnpainted. kWidth pixels a row, without gaps; x and y must lie on the surface.
-    std::uint32_t PixelAt(int x, int y) const { return pixels[Index(x, y)]; }
-    const std::uint32_t* Row(int y) const { return &pixels[Index(0, y)]; }
+    std::uint32_t PixelAt(int x, int y) const { return Row(y)[x]; }
+    const std::uint32_t* Row(int y) const;
 
     // What has changed since the last call, as boxes on the surface that may overlap; long diagonals come in pieces.
     // The boxes are put into `boxes`, whose former content goes; the caller keeps it, so that nothing is allocated
@@ -53,7 +54,7 @@ class Surface {
     void AddDamage(PixelBox box);
     void AddLineDamage(int x1, int y1, int x2, int y2, int reach);
 
-    std::vector<std::uint32_t> pixels;
+    std::vector<std::uint32_t> pixels;  // empty while nothing is painted
     std::vector<PixelBox> damage;
 };
 

@@ -3,8 +3,9 @@
 #include "platform/sdl/AudioDevice.h"
 
 #include <SDL.h>
-#include <SDL_mixer.h>
 #include <dlfcn.h>
+
+#include "platform/sdl/MixerLibrary.h"
 
 namespace prismfall {
 
@@ -38,11 +39,12 @@ bool AudioDevice::Open() {
     const auto now = std::chrono::steady_clock::now();
     if (failedAt && now - *failedAt < kNextTry) return false;
     SilenceAlsa();
-    open = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 &&
-           Mix_OpenAudioDevice(kRate, MIX_DEFAULT_FORMAT, kChannels, kChunk, nullptr,
-                               SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_CHANNELS_CHANGE) == 0;
+    const MixerLibrary* mixer = Mixer();
+    open = mixer != nullptr && SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 &&
+           mixer->OpenAudioDevice(kRate, MIX_DEFAULT_FORMAT, kChannels, kChunk, nullptr,
+                                  SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_CHANNELS_CHANGE) == 0;
     if (open) {
-        Mix_AllocateChannels(1);
+        mixer->AllocateChannels(1);
         failedAt.reset();
     } else {
         if (SDL_WasInit(SDL_INIT_AUDIO) != 0) SDL_QuitSubSystem(SDL_INIT_AUDIO);
@@ -54,7 +56,7 @@ bool AudioDevice::Open() {
 void AudioDevice::Close() {
     if (!open) return;
     open = false;
-    Mix_CloseAudio();
+    Mixer()->CloseAudio();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 

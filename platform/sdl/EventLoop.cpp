@@ -68,15 +68,14 @@ bool EventLoop::Work() {
 
 void EventLoop::Run() {
     for (;;) {
+        Work();
         desktop.DeliverMinimised();
-        if (!Work()) Rest();
+        Rest();
     }
 }
 
 void EventLoop::RunWhile(const std::function<bool()>& goesOn) {
-    while (goesOn()) {
-        if (!Work()) Rest();
-    }
+    for (Work(); goesOn(); Work()) Rest();
 }
 
 void EventLoop::Yield() {

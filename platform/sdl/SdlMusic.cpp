@@ -3,10 +3,11 @@
 #include "platform/sdl/SdlMusic.h"
 
 #include <SDL.h>
-#include <SDL_mixer.h>
 
 #include <algorithm>
 #include <cmath>
+
+#include "platform/sdl/MixerLibrary.h"
 
 namespace prismfall {
 
@@ -33,21 +34,21 @@ std::string SdlMusic::Open(const std::string& file) {
     if (std::string failure = ReadingFailure(file); !failure.empty()) return failure;
     path = file;
     if (!device.Open() || Load()) return {};
-    const std::string failure = Mix_GetError();
+    const std::string failure = SDL_GetError();
     path.clear();
     return failure.empty() ? "Couldn't play " + file : failure;
 }
 
 bool SdlMusic::Load() {
-    if (music == nullptr) music = Mix_LoadMUS(path.c_str());
+    if (music == nullptr) music = Mixer()->LoadMUS(path.c_str());
     if (music != nullptr) SetVolume(volume);
     return music != nullptr;
 }
 
 void SdlMusic::Unload() {
     if (music == nullptr) return;
-    Mix_HaltMusic();
-    Mix_FreeMusic(music);
+    Mixer()->HaltMusic();
+    Mixer()->FreeMusic(music);
     music = nullptr;
 }
 
@@ -61,7 +62,7 @@ void SdlMusic::Close() {
 void SdlMusic::SetVolume(int newVolume) {
     volume = std::clamp(newVolume, 0, kFullVolume);
     if (music == nullptr) return;
-    Mix_VolumeMusic(static_cast<int>(std::lround(static_cast<double>(volume) * MIX_MAX_VOLUME / kFullVolume)));
+    Mixer()->VolumeMusic(static_cast<int>(std::lround(static_cast<double>(volume) * MIX_MAX_VOLUME / kFullVolume)));
 }
 
 void SdlMusic::PlayFrom(double seconds, State newState) {
@@ -70,17 +71,17 @@ void SdlMusic::PlayFrom(double seconds, State newState) {
     place = seconds;
     if (!device.Open() || !Load()) return;
     // A fade of no length is the one call that starts at a place without letting the track's beginning be heard.
-    Mix_FadeInMusicPos(music, newState == State::Looping ? kEndless : kOnce, 0, seconds);
+    Mixer()->FadeInMusicPos(music, newState == State::Looping ? kEndless : kOnce, 0, seconds);
 }
 
 void SdlMusic::RememberPlace() {
-    if (music != nullptr) place = std::max(0.0, Mix_GetMusicPosition(music));
+    if (music != nullptr) place = std::max(0.0, Mixer()->GetMusicPosition(music));
 }
 
 void SdlMusic::PlayLooping() { PlayFrom(0, State::Looping); }
 
 void SdlMusic::NoticeEnd() {
-    if (state == State::PlayingOnce && music != nullptr && Mix_PlayingMusic() == 0) state = State::Over;
+    if (state == State::PlayingOnce && music != nullptr && Mixer()->PlayingMusic() == 0) state = State::Over;
 }
 
 void SdlMusic::Resume() {
@@ -94,17 +95,17 @@ void SdlMusic::Pause() {
     NoticeEnd();
     if (state != State::Looping && state != State::PlayingOnce) return;
     RememberPlace();
-    if (music != nullptr) Mix_PauseMusic();
+    if (music != nullptr) Mixer()->PauseMusic();
     state = State::Paused;
 }
 
 void SdlMusic::Stop() {
-    if (music != nullptr) Mix_HaltMusic();
+    if (music != nullptr) Mixer()->HaltMusic();
     state = State::Stopped;
     place = 0;
 }
 
-bool SdlMusic::IsSounding() const { return music != nullptr && Mix_PlayingMusic() != 0 && state != State::Paused; }
+bool SdlMusic::IsSounding() const { return music != nullptr && Mixer()->PlayingMusic() != 0 && state != State::Paused; }
 
 void SdlMusic::Release() {
     NoticeEnd();

@@ -10,6 +10,7 @@
 
 #include "platform/sdl/MessageBox.h"
 #include "platform/sdl/SignalWatch.h"
+#include "platform/sdl/X11Hints.h"
 
 namespace prismfall {
 
@@ -22,12 +23,14 @@ struct Hint {
     const char* value;
 };
 
-constexpr std::array<Hint, 7> kHints = {{
+constexpr std::array<Hint, 8> kHints = {{
     {SDL_HINT_APP_NAME, "Prismfall"},
     {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
     {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
     // The click that brings the window to the front is a click of the game as well.
     {SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1"},
+    // The desktop holds the pointer from a press to its release anyway; asking for it takes four more answers a click.
+    {SDL_HINT_MOUSE_AUTO_CAPTURE, "0"},
     {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
     {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
 }};
@@ -55,6 +58,7 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
     // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
     if (const char* driver = SDL_GetCurrentVideoDriver(); driver != nullptr && std::strcmp(driver, "x11") == 0)
         SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    BearLateWakeUps();
     SDL_StopTextInput();
     return std::unique_ptr<SdlPlatform>(new SdlPlatform(std::move(early)));
 }

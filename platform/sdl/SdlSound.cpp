@@ -2,13 +2,16 @@
 // has to be kept.
 #include "platform/sdl/SdlSound.h"
 
-#include <SDL_mixer.h>
+#include <SDL.h>
+
+#include "platform/sdl/MixerLibrary.h"
 
 namespace prismfall {
 
 namespace {
 
 constexpr int kChannel = 0;
+constexpr int kToTheEnd = -1;
 
 }  // namespace
 
@@ -16,16 +19,16 @@ void SdlSound::Play(std::span<const std::byte> wave) {
     Release();
     if (!device.Open()) return;
     SDL_RWops* bytes = SDL_RWFromConstMem(wave.data(), static_cast<int>(wave.size()));
-    chunk = bytes != nullptr ? Mix_LoadWAV_RW(bytes, 1) : nullptr;
-    if (chunk != nullptr) Mix_PlayChannel(kChannel, chunk, 0);
+    chunk = bytes != nullptr ? Mixer()->LoadWAV_RW(bytes, 1) : nullptr;
+    if (chunk != nullptr) Mixer()->PlayChannelTimed(kChannel, chunk, 0, kToTheEnd);
 }
 
-bool SdlSound::IsSounding() const { return chunk != nullptr && Mix_Playing(kChannel) != 0; }
+bool SdlSound::IsSounding() const { return chunk != nullptr && Mixer()->Playing(kChannel) != 0; }
 
 void SdlSound::Release() {
     if (chunk == nullptr) return;
-    Mix_HaltChannel(kChannel);
-    Mix_FreeChunk(chunk);
+    Mixer()->HaltChannel(kChannel);
+    Mixer()->FreeChunk(chunk);
     chunk = nullptr;
 }
 

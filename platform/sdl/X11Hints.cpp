@@ -120,6 +120,14 @@ class DesktopSettings {
 
 int IgnoreError(Display*, XErrorEvent*) { return 0; }
 
+XErrorHandler otherErrors = nullptr;
+
+int IgnoreLateWakeUp(Display* display, XErrorEvent* error) {
+    constexpr unsigned char kSendEvent = 25;  // the request's number in the X protocol
+    if (error->error_code == BadWindow && error->request_code == kSendEvent) return 0;
+    return otherErrors(display, error);
+}
+
 // The block that the desktop's settings daemon publishes, if there is one. The daemon may go at any moment, so errors
 // of the window server are ignored here.
 std::string ReadSettingsBlock(Display* display) {
@@ -162,6 +170,8 @@ float ScaleOf(float dotsPerInch) {
 }
 
 }  // namespace
+
+void BearLateWakeUps() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp); }
 
 DesktopFacts AskDesktop() {
     DesktopFacts facts;

@@ -14,6 +14,11 @@ struct DesktopFacts {
 // To be asked once, before the first window.
 DesktopFacts AskDesktop();
 
+// SDL wakes its own waiting by an event that it sends to one of the windows on a second connection. The server may read
+// it after a dialog that was that window has gone, and answers with an error that would end the program. To be called
+// once.
+void BearLateWakeUps();
+
 // For a window that is not shown yet. A main window can be closed, moved and minimised; a dialog, which belongs to
 // `owner` and keeps the input from it, cannot be minimised.
 void SetMainFrame(SDL_Window* window);
