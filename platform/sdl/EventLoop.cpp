@@ -69,7 +69,7 @@ bool EventLoop::Work() {
 void EventLoop::Run() {
     for (;;) {
         Work();
-        desktop.DeliverMinimised();
+        if (desktop.DeliverMinimised()) desktop.Refresh();
         Rest();
     }
 }

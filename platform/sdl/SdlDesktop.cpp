@@ -156,13 +156,14 @@ void SdlDesktop::HandleCloseBox(Shown& shown) {
     shown.closeBoxUsed = true;
 }
 
-void SdlDesktop::DeliverMinimised() {
-    if (windows.empty()) return;
+bool SdlDesktop::DeliverMinimised() {
+    if (windows.empty()) return false;
     const bool minimised = windows.front().real->IsMinimised();
-    if (minimised == minimisedAsTold) return;
+    if (minimised == minimisedAsTold) return false;
     minimisedAsTold = minimised;
     const Window& window = windows.front().real->Data();
     if (window.on.resize) window.on.resize(minimised);
+    return true;
 }
 
 void SdlDesktop::AwaitFrame() {

@@ -40,8 +40,8 @@ class SdlDesktop {
     // Takes the windows off the display at once, dialogs first.
     void HideAll();
     void Handle(const SDL_Event& event);
-    // Tells the main window whether it is minimised, if that has changed since it was told last.
-    void DeliverMinimised();
+    // Tells the main window whether it is minimised, if that has changed since it was told last. Whether it has.
+    bool DeliverMinimised();
 
     Extent OuterSize(const Window& window);
     Place Position(const Window& window);
