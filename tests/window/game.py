@@ -7,7 +7,7 @@ import signal
 import tempfile
 
 import layout
-from desktop import ENDING, holds_for, wait_for
+from desktop import Missing, ENDING, holds_for, wait_for
 
 APART = 0.6  # seconds between two clicks that must not become a double click
 
@@ -76,8 +76,14 @@ class Game:
             self.process = desktop.start([str(program)], cwd=folder, env=variables, stderr=messages)
         self.main = None
         if shows_up:
-            self.main = desktop.window(layout.MAIN, 10)
+            self.main = self.wait_for_main_window()
             wait_for(lambda: self.main.pixels(*layout.BOXES["CommandExit"]).count(0) < 1000, 5, "the first picture")
+
+    def wait_for_main_window(self):
+        try:
+            return self.desktop.window(layout.MAIN, 10)
+        except Missing as missing:
+            raise Missing(f"{missing}; exit status {self.process.poll()}, said {self.said()!r}") from None
 
     def said(self):
         return self.messages.read_text()
