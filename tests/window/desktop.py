@@ -162,6 +162,14 @@ class Desktop:
         self.processes.append(process)
         return process
 
+    def settle(self):
+        """Gives the window manager time to forget windows that have gone. It could take a new one for an old one, since
+        the display gives their numbers out again, and never show it."""
+        end = time.monotonic() + 1
+        while "0x" in self.output("xprop", "-root", "_NET_CLIENT_LIST") and time.monotonic() < end:
+            time.sleep(PAUSE)
+        time.sleep(0.2)
+
     def stop(self):
         for process in reversed(self.processes):
             process.kill()

@@ -72,6 +72,7 @@ class Game:
         self.program = program
         self.messages = desktop.folder / f"messages-{len(desktop.processes)}"
         variables = dict(desktop.environment, XDG_CONFIG_HOME=str(settings.home), **(environment or {}))
+        desktop.settle()
         with open(self.messages, "wb") as messages:
             self.process = desktop.start([str(program)], cwd=folder, env=variables, stderr=messages)
         self.main = None
