@@ -1,4 +1,4 @@
-"""The logo: the name in tubes that run through the spectrum and rise to the right, its last letter gone dim.
+"""The logo: the name in tubes that run through all colours and rise to the right, its last letter gone dim.
 
 The dim letter and the lit one that flickers over it come from the same drawing, so they fit to the pixel.
 """
@@ -10,7 +10,7 @@ WIDTH, HEIGHT = 586, 205
 # Where the flickering letter's picture lies in the logo, and its size.
 CUT_LEFT, CUT_TOP, CUT_WIDTH, CUT_HEIGHT = 498, 1, 84, 87
 
-# Letter, left edge, baseline before the skew, scale, colour. The letters shrink as they rise, and follow the spectrum.
+# Letter, left edge, baseline before the skew, scale, colour. The letters shrink as they rise, and follow the rainbow.
 RISE = -11.5  # degrees
 BASELINE = 181.5
 LETTERS = "PRISMFALL"
