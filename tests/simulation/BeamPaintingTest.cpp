@@ -35,19 +35,6 @@ TEST(DrawLine, InStepsPaintsWhatItPaintsWhole) {
     }
 }
 
-TEST(DrawLine, EdgesLieOnTheUpperAndTheLowerSide) {
-    for (const int sideways : {-1, 1}) {
-        TestGame game;
-        DrawLine(game.Play(kPuzzleGame), 300, 100, 300 + sideways * 50, 150, 1,
-                 sideways > 0 ? kRightwards : kLeftwards);
-        const Surface& surface = game.Machine().Painted();
-        const int x = 300 + sideways * 20;
-        EXPECT_EQ(surface.PixelAt(x, 120), 0xFF008000U);
-        EXPECT_EQ(surface.PixelAt(x, 118), 0xFF00FF00U);
-        EXPECT_EQ(surface.PixelAt(x, 122), 0xFF000400U);
-    }
-}
-
 // Whether a pixel may look like this when no beam is left. Column 672 is black in the background picture. Heads that
 // have gone below 583 have cut into the ground, and the tail of a beam that comes back from the right wall exactly at
 // the entry limit is set to x = 671, beyond what is repaired.

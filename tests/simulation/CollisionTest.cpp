@@ -107,16 +107,6 @@ TEST(FindCollision, PassesOverBeamsThatAreOutOfPlay) {
     }
 }
 
-TEST(FindCollision, TheFirstInLinesWins) {
-    TestGame game;
-    VMain& main = game.Play(kPuzzleGame);
-    CLine& byHeads = game.AddBeam(100, 100, 150, 150, 0);
-    CLine& byDistance = game.AddBeam(100, 103, 200, 203, 1);
-    EXPECT_EQ(FindCollision(main, 150, 153, 149, kLeftwards, false), &byHeads);
-    std::swap(main.Lines[0], main.Lines[1]);
-    EXPECT_EQ(FindCollision(main, 150, 153, 149, kLeftwards, false), &byDistance);
-}
-
 // What a walk to the left without any short cut finds.
 const CLine* FoundByPlainWalk(const VMain& main, std::int16_t x, std::int16_t y, std::int16_t prevY) {
     for (const CLine* beam : main.Lines) {
@@ -152,16 +142,14 @@ TEST(PointToSegmentDistance, GivesTheNearestPoint) {
     struct Case {
         float x, y, x1, y1, x2, y2, nearestX, nearestY, distance;
     };
-    constexpr Case kCases[] = {
-        {3, 4, 0, 0, 0, 0, 0, 0, 5},
-        {5, 5, 0, 0, 10, 10, 5, 5, 0},
-        {0, 10, 0, 0, 10, 10, 5, 5, 7.0710678F},
-        {-3, -4, 0, 0, 10, 10, 0, 0, 5},
-        {13, 14, 0, 0, 10, 10, 10, 10, 5},
-        {10, 10, 0, 0, 10, 10, 10, 10, 0},
-        {4, 7, 0, 10, 10, 0, 3.5F, 6.5F, 0.70710678F},
-        {12, 3, 0, 0, 10, 0, 10, 0, 3.6055513F},
-    };
+    constexpr Case kCases[] = {{3, 4, 0, 0, 0, 0, 0, 0, 5},
+                               {5, 5, 0, 0, 10, 10, 5, 5, 0},
+                               {0, 10, 0, 0, 10, 10, 5, 5, 7.0710678F},
+                               {-3, -4, 0, 0, 10, 10, 0, 0, 5},
+                               {13, 14, 0, 0, 10, 10, 10, 10, 5},
+                               {10, 10, 0, 0, 10, 10, 10, 10, 0},
+                               {4, 7, 0, 10, 10, 0, 3.5F, 6.5F, 0.70710678F},
+                               {12, 3, 0, 0, 10, 0, 10, 0, 3.6055513F}};
     for (const Case& c : kCases) {
         float nearestX = 0, nearestY = 0, distance = 0;
         PointToSegmentDistance(c.x, c.y, c.x1, c.y1, c.x2, c.y2, nearestX, nearestY, distance);

@@ -99,18 +99,5 @@ TEST(Memory, AGameOfTenHoursStaysSmall) {
     RecordProperty("most_beams", std::to_string(mostBeams));
 }
 
-TEST(Memory, LookAheadsLeaveNothing) {
-    TestGame game;
-    VMain& main = game.Play(kArcadeGame);
-    main.SoundEffects = false;
-    const CLine& beam = game.AddBeam(100, 70, 130, 100, 0);
-    const auto lookAhead = [&] { Form_MouseDown(main, MouseButton::Right, beam.XEnd, beam.YEnd); };
-    lookAhead();
-    const std::size_t before = heap::liveBytes;
-    for (int i = 0; i < 1000; ++i) lookAhead();
-    EXPECT_EQ(heap::liveBytes, before);
-    EXPECT_EQ(beam.RunMode, kGrowing) << "it was refused";
-}
-
 }  // namespace
 }  // namespace prismfall
