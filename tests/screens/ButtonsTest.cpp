@@ -12,122 +12,86 @@ namespace prismfall {
 namespace {
 
 struct Face {
-    std::string_view button, tag, up, down;
+    std::string_view button, tag;
+    std::string face;  // the pictures are called FACEUp and FACEDown
 };
 
-constexpr Face kMainFaces[] = {{"CommandPuzzle", "", "PuzzleUp", "PuzzleDown"},
-                               {"CommandArcade", "", "ArcadeUp", "ArcadeDown"},
-                               {"CommandPrevious", "", "PreviousUp", "PreviousDown"},
-                               {"CommandNext", "", "NextUp", "NextDown"},
-                               {"CmdStart", "", "StartUp", "StartDown"},
-                               {"CmdStart", "Restart", "RestartUp", "RestartDown"},
-                               {"CmdStart", "Takeover", "TakeoverUp", "TakeoverDown"},
-                               {"cmdPause", "", "PauseUp", "PauseDown"},
-                               {"cmdPause", "Resume", "ResumeUp", "ResumeDown"},
-                               {"CmdOptions", "", "OptionsUp", "OptionsDown"},
-                               {"CmdScores", "", "ScoresUp", "ScoresDown"},
-                               {"CmdAbout", "", "AboutUp", "AboutDown"},
-                               {"CommandExit", "", "ExitUp", "ExitDown"}};
+const Face kMainFaces[] = {
+    {"CommandPuzzle", "", "Puzzle"},      {"CommandArcade", "", "Arcade"}, {"CommandPrevious", "", "Previous"},
+    {"CommandNext", "", "Next"},          {"CmdStart", "", "Start"},       {"CmdStart", "Restart", "Restart"},
+    {"CmdStart", "Takeover", "Takeover"}, {"cmdPause", "", "Pause"},       {"cmdPause", "Resume", "Resume"},
+    {"CmdOptions", "", "Options"},        {"CmdScores", "", "Scores"},     {"CmdAbout", "", "About"},
+    {"CommandExit", "", "Exit"}};
 
-TEST(Buttons, ShowTheDownFaceUnderThePointer) {
+TEST(Buttons, AloneHaveADownFaceAndASound) {
     TestGame game;
     VMain& main = game.QuietStore().Load();
     for (const Face& face : kMainFaces) {
         Element& button = main.window[face.button];
         button.tag = face.tag;
         ResetButtons(main);
-        EXPECT_EQ(button.picture, face.up);
+        EXPECT_EQ(button.picture, face.face + "Up");
         main.window.on.elementMove(button);
-        EXPECT_EQ(button.picture, face.down);
+        EXPECT_EQ(button.picture, face.face + "Down");
     }
     main.window.on.mouseMove(5, 5);
     for (const Face& face : kMainFaces) EXPECT_TRUE(main.window[face.button].picture.ends_with("Up")) << face.button;
     main.window.on.elementMove(main.ImagePrismfall);
-    EXPECT_EQ(main.ImagePrismfall.picture, "ImagePrismfall") << "not a button";
-}
-
-TEST(Buttons, AreResetInAGameOnlyRightOfThePlayfield) {
-    for (int mode = 0; mode <= 4; ++mode) {
-        TestGame game;
-        VMain& main = game.QuietStore().Load();
-        main.GameMode = mode;
-        const auto resets = [&](float x) {
-            main.window.on.elementMove(main.CmdAbout);
-            main.window.on.mouseMove(x, 300);
-            return main.CmdAbout.picture == "AboutUp";
-        };
-        EXPECT_EQ(resets(0), mode == 0);
-        EXPECT_EQ(resets(670), mode == 0);
-        EXPECT_TRUE(resets(670.25F));
-        EXPECT_TRUE(resets(671));
+    EXPECT_EQ(main.ImagePrismfall.picture, "ImagePrismfall");
+    for (Element* other : {&main.ImagePrismfall, &main.VScore}) {
+        main.window.on.elementDown(*other, MouseButton::Left, 1, 1);
+        EXPECT_EQ(game.TakePrinted(), "") << "pictures and labels are no buttons";
     }
+    main.window.on.elementDown(main.CmdAbout, MouseButton::Right, 1, 1);
+    EXPECT_EQ(game.TakePrinted(), "sound 7 sync\n") << "any mouse button sounds";
 }
 
 TEST(Buttons, OfDialogsWorkAlike) {
     struct Case {
-        std::string_view opener;
-        std::string_view button, up, down;
+        std::string_view opener;  // empty for the dialog after a puzzle
+        std::string_view button;
+        std::string face;
     };
-    for (const Case& row : {Case{"CmdScores", "Command1", "ClearScoresUp", "ClearScoresDown"},
-                            Case{"CmdScores", "Command2", "OKScoresUp", "OKScoresDown"},
-                            Case{"CmdScores", "Command3", "ClearPuzzleProgressUp", "ClearPuzzleProgressDown"},
-                            Case{"CmdAbout", "Command1", "OKAboutUp", "OKAboutDown"},
-                            Case{"CmdOptions", "Command1", "OKOptionsUp", "OKOptionsDown"},
-                            Case{"", "Command1", "MenuResultUp", "MenuResultDown"},
-                            Case{"", "CommandNext", "NextPuzzleUp", "NextPuzzleDown"},
-                            Case{"", "CommandTryAgain", "TryAgainUp", "TryAgainDown"},
-                            Case{"", "CommandSolution", "ShowSolutionUp", "ShowSolutionDown"}}) {
+    const Case kCases[] = {{"CmdScores", "Command1", "ClearScores"},
+                           {"CmdScores", "Command2", "OKScores"},
+                           {"CmdScores", "Command3", "ClearPuzzleProgress"},
+                           {"CmdAbout", "Command1", "OKAbout"},
+                           {"CmdOptions", "Command1", "OKOptions"},
+                           {"", "Command1", "MenuResult"},
+                           {"", "CommandNext", "NextPuzzle"},
+                           {"", "CommandTryAgain", "TryAgain"},
+                           {"", "CommandSolution", "ShowSolution"}};
+    for (const Case& row : kCases) {
         TestGame game;
         VMain& main = game.QuietStore().Load();
         int dialogs = 0;
         game.Machine().onDialog = [&](Window& dialog) {
             ++dialogs;
             Element& button = dialog[row.button];
-            EXPECT_EQ(button.picture, row.up);
+            EXPECT_EQ(button.picture, row.face + "Up");
             dialog.on.elementMove(button);
-            EXPECT_EQ(button.picture, row.down);
+            EXPECT_EQ(button.picture, row.face + "Down");
             dialog.on.mouseMove(0, 0);
-            EXPECT_EQ(button.picture, row.up);
+            EXPECT_EQ(button.picture, row.face + "Up");
             dialog.on.elementMove(button);
             dialog.on.activate();
-            EXPECT_EQ(button.picture, row.up);
+            EXPECT_EQ(button.picture, row.face + "Up");
             EXPECT_FALSE(dialog.on.keyDown) << "dialogs do not listen to the keyboard";
             game.TakePrinted();
             dialog.on.elementDown(button, MouseButton::Right, 1, 1);
-            EXPECT_EQ(game.TakePrinted(), "sound 7 sync\n") << "any mouse button sounds";
+            EXPECT_EQ(game.TakePrinted(), "sound 7 sync\n");
         };
-        if (!row.opener.empty()) {
-            game.Click(row.opener);
-        } else {
+        if (row.opener.empty()) {
             main.GameMode = kPuzzleGame;
             game.AddBeam(100, 500, 185, 585, 1);
             game.Machine().Fire(Timer::LineExtender);
+        } else {
+            main.window.on.elementMove(main.window[row.opener]);
+            game.Click(row.opener);
+            EXPECT_TRUE(main.window[row.opener].picture.ends_with("Up")) << row.opener << " goes back up";
         }
         EXPECT_EQ(dialogs, 1);
     }
-}
-
-TEST(Buttons, ThatOpenADialogGoBackUpWhenItHasClosed) {
-    TestGame game;
-    VMain& main = game.QuietStore().Load();
-    for (const std::string_view button : {"CmdOptions", "CmdScores", "CmdAbout"}) {
-        main.window.on.elementMove(main.CommandExit);
-        main.window.on.elementMove(main.window[button]);
-        game.Machine().onDialog = [&](Window&) { EXPECT_TRUE(main.window[button].picture.ends_with("Down")); };
-        game.Click(button);
-        EXPECT_TRUE(main.window[button].picture.ends_with("Up")) << button;
-        EXPECT_EQ(main.CommandExit.picture, "ExitDown") << "and no other";
-    }
-}
-
-TEST(Buttons, AloneSoundAtAPress) {
-    TestGame game;
-    VMain& main = game.QuietStore().Load();
-    main.window.on.elementDown(main.CmdAbout, MouseButton::Right, 1, 1);
-    EXPECT_EQ(game.TakePrinted(), "sound 7 sync\n");
-    main.window.on.elementDown(main.ImagePrismfall, MouseButton::Left, 1, 1);
-    main.window.on.elementDown(main.VScore, MouseButton::Left, 1, 1);
-    EXPECT_EQ(game.TakePrinted(), "") << "pictures and labels are no buttons";
 }
 
 }  // namespace

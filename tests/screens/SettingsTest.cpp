@@ -1,12 +1,13 @@
-// What is kept from run to run: the reading and writing of the store, and the score table.
+// What is kept from run to run: the reading and writing of the store.
 #include <gtest/gtest.h>
 
 #include <random>
+#include <sstream>
 #include <string>
 
-#include "screens/HighScores.h"
 #include "screens/SettingsStore.h"
 #include "tests/support/TestGame.h"
+#include "tools/headless/StateDump.h"
 
 namespace prismfall {
 namespace {
@@ -71,13 +72,10 @@ TEST(Settings, AnyStateComesBackFromAFullStore) {
         }
         for (std::size_t puzzle = 0; puzzle < kPuzzleCount; ++puzzle) old.SolvedPuzzles[puzzle] = random() % 2 == 0;
         const auto everything = [](const VMain& main) {
-            std::string text = std::to_string(main.PlayFirstTime) + std::to_string(main.Music) +
-                               std::to_string(main.SoundEffects) + std::to_string(main.StartLevel);
-            for (std::size_t row = 1; row <= kScoreRows; ++row)
-                text += ' ' + std::to_string(main.RowScore[row]) + ' ' + std::to_string(main.RowLevel[row]) + ' ' +
-                        std::to_string(main.RowEndLevel[row]);
-            for (const Boolean solved : main.SolvedPuzzles) text += solved ? '1' : '0';
-            return text;
+            std::ostringstream text;
+            PrintSettings(text, main, 0);
+            for (const Boolean solved : main.SolvedPuzzles) text << solved;
+            return text.str();
         };
         const std::string before = everything(old);
         SaveSettings(old);
@@ -86,34 +84,6 @@ TEST(Settings, AnyStateComesBackFromAFullStore) {
         EXPECT_EQ(everything(fresh), before);
         EXPECT_EQ(fresh.HighScore, fresh.RowScore[1]);
         EXPECT_EQ(fresh.VHighScore.text, std::to_string(fresh.RowScore[1]));
-    }
-}
-
-TEST(Scores, EnterBelowEqualOnesAndPushTheLastOut) {
-    struct Case {
-        int score;
-        std::size_t row;  // 0: does not enter
-    };
-    for (const Case& game : {Case{0, 0}, Case{-5, 0}, Case{10, 0}, Case{9, 0}, Case{11, 10}, Case{20, 10}, Case{21, 9},
-                             Case{55, 6}, Case{60, 6}, Case{99, 2}, Case{100, 2}, Case{101, 1}, Case{32767, 1}}) {
-        TestGame test;
-        VMain& main = test.QuietStore().Load();
-        for (std::size_t row = 1; row <= kScoreRows; ++row) {
-            main.RowScore[row] = static_cast<std::int16_t>(110 - 10 * row);
-            main.RowLevel[row] = static_cast<std::int16_t>(row);
-            main.RowEndLevel[row] = static_cast<std::int16_t>(20 + row);
-        }
-        main.Score = static_cast<std::int16_t>(game.score);
-        main.GameStartLevel = 77;
-        main.Level = 88;
-        SaveScore(main);
-        for (std::size_t row = 1; row <= kScoreRows; ++row) {
-            const bool isNew = row == game.row;
-            const std::size_t old = game.row != 0 && row > game.row ? row - 1 : row;
-            EXPECT_EQ(main.RowScore[row], isNew ? game.score : static_cast<int>(110 - 10 * old)) << game.score;
-            EXPECT_EQ(main.RowLevel[row], isNew ? 77 : static_cast<int>(old)) << game.score;
-            EXPECT_EQ(main.RowEndLevel[row], isNew ? 88 : static_cast<int>(20 + old)) << game.score;
-        }
     }
 }
 
