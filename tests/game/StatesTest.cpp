@@ -1,10 +1,8 @@
-// The state machine: what stands in each state, and where each event leads from it. A state looks like
-// "MODE running|still TIMERS BUTTONS", with C, E and D for the game's timers that run, S and P for the buttons CmdStart
-// and cmdPause that show.
+// The state machine where the stories leave it out: what stands behind a dialog, and where its answers lead. A state
+// looks like "MODE running|still TIMERS BUTTONS", with C, E and D for the game's timers that run, S and P for the
+// buttons CmdStart and cmdPause that show.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -35,12 +33,6 @@ Act Click(std::string_view button) {
     return [button](TestGame& game) { game.Click(button); };
 }
 
-void Escape(TestGame& game) { game.Main().window.on.keyDown(kEscapeKey); }
-void OtherKey(TestGame& game) { game.Main().window.on.keyDown(13); }
-void Minimise(TestGame& game) { game.Main().window.on.resize(true); }
-void Restore(TestGame& game) { game.Main().window.on.resize(false); }
-void PressPreview(TestGame& game) { game.Main().window.on.mouseDown(MouseButton::Left, 600, 500); }  // puzzle 9
-
 // One beam that has come down to the floor, and one tick.
 void Lose(TestGame& game) {
     game.Main().Lines.clear();
@@ -56,28 +48,11 @@ void Solve(TestGame& game) {
     game.Machine().Run(2000);
 }
 
-Act AnsweringAll(const Act& event, const char* answer) {
-    return [event, answer](TestGame& game) {
-        game.Machine().QueueAnswer(answer);
-        event(game);
-    };
-}
-
-struct State {
-    std::string_view name;
-    void (*enter)(TestGame& game);  // from the main menu
-    std::string_view looks;
-};
-
 void StartArcade(TestGame& game) { game.Click("CommandArcade"); }
 
-void Wait(TestGame& game) {
+void StartPuzzle(TestGame& game) {
     game.Main().CurrentPuzzle = 2;
     StartPuzzleGame(game.Main(), false, false);
-}
-
-void StartPuzzle(TestGame& game) {
-    Wait(game);
     game.Click("CmdStart");
 }
 
@@ -93,114 +68,43 @@ void Tutorial(TestGame& game) {
     game.Machine().Run(75);
 }
 
-constexpr std::array<State, 11> kStates = {{
-    {"main menu", [](TestGame&) {}, "0 still  "},
-    {"puzzle menu", [](TestGame& game) { game.Click("CommandPuzzle"); }, "1 still  "},
-    {"Arcade", StartArcade, "3 running CED P"},
-    {"Arcade paused", [](TestGame& game) { StartArcade(game), game.Click("cmdPause"); }, "3 still  P"},
-    {"waiting", Wait, "2 still  S"},
-    {"puzzle", StartPuzzle, "2 running ED SP"},
-    {"puzzle paused", [](TestGame& game) { StartPuzzle(game), game.Click("cmdPause"); }, "2 still  SP"},
-    {"tutorial", Tutorial, "2 running D SP"},
-    {"replay", StartReplay, "4 running ED S"},
-    {"taken over", [](TestGame& game) { StartReplay(game), game.Click("CmdStart"); }, "2 running ED S"},
-    {"taken over, still", [](TestGame& game) { StartReplay(game), game.Click("CmdStart"), Minimise(game); },
-     "2 still  S"},
-}};
-
-const State& StateOf(std::string_view name) { return *std::ranges::find(kStates, name, &State::name); }
-
-TEST(States, StandAsTold) {
-    for (const State& state : kStates) {
-        TestGame game;
-        game.QuietStore().Load();
-        state.enter(game);
-        EXPECT_EQ(Looks(game), state.looks) << state.name;
-    }
+void TakeOver(TestGame& game) {
+    StartReplay(game);
+    game.Click("CmdStart");
 }
 
-TEST(States, EventsLeadOn) {
-    struct Transition {
-        std::string_view from;
-        std::string_view event;
-        Act act;
-        std::string_view to;
-    };
-    const Transition kTransitions[] = {
-        {"main menu", "other key", OtherKey, "main menu"},
-        {"main menu", "Arcade", Click("CommandArcade"), "Arcade"},
-        {"main menu", "Puzzle", Click("CommandPuzzle"), "puzzle menu"},
-        {"puzzle menu", "preview", PressPreview, "waiting"},
-        {"puzzle menu", "exit", Click("CommandExit"), "main menu"},
-        {"puzzle menu", "Esc", Escape, "main menu"},
-        {"Arcade", "pause", Click("cmdPause"), "Arcade paused"},
-        {"Arcade", "minimise", Minimise, "Arcade paused"},
-        {"Arcade", "exit", Click("CommandExit"), "main menu"},
-        {"Arcade", "Esc", Escape, "main menu"},
-        {"Arcade", "floor", Lose, "main menu"},
-        {"Arcade", "About", Click("CmdAbout"), "Arcade"},
-        {"Arcade paused", "resume", Click("cmdPause"), "Arcade"},
-        {"Arcade paused", "restore", Restore, "Arcade paused"},
-        {"Arcade paused", "About", Click("CmdAbout"), "Arcade paused"},
-        {"waiting", "start", Click("CmdStart"), "puzzle"},
-        {"waiting", "Esc", Escape, "puzzle menu"},
-        {"waiting", "minimise", Minimise, "waiting"},
-        {"puzzle", "restart", Click("CmdStart"), "waiting"},
-        {"puzzle", "pause", Click("cmdPause"), "puzzle paused"},
-        {"puzzle", "minimise", Minimise, "puzzle paused"},
-        {"puzzle", "exit", Click("CommandExit"), "puzzle menu"},
-        {"puzzle", "scores", Click("CmdScores"), "puzzle"},
-        {"puzzle", "solved, next", AnsweringAll(Solve, "CommandNext"), "waiting"},
-        {"puzzle", "solved, menu", AnsweringAll(Solve, "Command1"), "puzzle menu"},
-        {"puzzle", "solved, closed", Solve, "puzzle paused"},
-        {"puzzle", "lost, again", AnsweringAll(Lose, "CommandTryAgain"), "waiting"},
-        {"puzzle", "lost, solution", AnsweringAll(Lose, "CommandSolution"), "replay"},
-        {"puzzle", "lost, menu", AnsweringAll(Lose, "Command1"), "puzzle menu"},
-        {"puzzle paused", "resume", Click("cmdPause"), "puzzle"},
-        {"puzzle paused", "restart", Click("CmdStart"), "waiting"},
-        {"puzzle paused", "restore", Restore, "puzzle paused"},
-        {"tutorial", "pause", Click("cmdPause"), "tutorial"},
-        {"tutorial", "options", Click("CmdOptions"), "tutorial"},
-        {"tutorial", "restart", Click("CmdStart"), "waiting"},
-        {"tutorial", "Esc", Escape, "puzzle menu"},
-        {"replay", "take over", Click("CmdStart"), "taken over"},
-        {"replay", "Esc", Escape, "puzzle menu"},
-        {"replay", "About", Click("CmdAbout"), "replay"},
-        {"replay", "minimise and restore", [](TestGame& game) { Minimise(game), Restore(game); }, "replay"},
-        {"replay", "solved, menu", AnsweringAll(Solve, "Command1"), "puzzle menu"},
-        {"replay", "lost, solution", AnsweringAll(Lose, "CommandSolution"), "replay"},
-        {"taken over", "restart", Click("CmdStart"), "waiting"},
-        {"taken over", "minimise", Minimise, "taken over, still"},
-        {"taken over, still", "restore", Restore, "taken over, still"},
-        {"taken over, still", "restart", Click("CmdStart"), "waiting"},
-    };
-    for (const Transition& transition : kTransitions) {
-        TestGame game;
-        game.QuietStore().Load();
-        StateOf(transition.from).enter(game);
-        transition.act(game);
-        EXPECT_EQ(Looks(game), StateOf(transition.to).looks) << transition.from << ", " << transition.event;
-    }
-}
-
-TEST(States, NothingRunsBehindTheDialogOfAnEnd) {
+TEST(States, DialogsLeadOnAndNothingRunsBehindThem) {
     struct Case {
-        std::string_view from;
-        Act end;
-        std::string_view looks;
+        const char* name;
+        Act start, event;
+        const char* answer;  // empty for the close box
+        const char* behind;
+        const char* after;
     };
-    const Case kCases[] = {{"Arcade", Lose, "3 still  P"},    {"puzzle", Lose, "2 still  SP"},
-                           {"replay", Lose, "4 still  S"},    {"puzzle", Solve, "2 running  SP"},
-                           {"replay", Solve, "4 running  S"}, {"taken over", Solve, "2 running  S"}};
-    for (const Case& ending : kCases) {
+    const Case kCases[] = {
+        {"Arcade lost", StartArcade, Lose, "", "3 still  P", "0 still  "},
+        {"puzzle lost, closed", StartPuzzle, Lose, "", "2 still  SP", "2 still  SP"},
+        {"puzzle lost, menu", StartPuzzle, Lose, "Command1", "2 still  SP", "1 still  "},
+        {"puzzle solved, closed", StartPuzzle, Solve, "", "2 running  SP", "2 still  SP"},
+        {"puzzle solved, next", StartPuzzle, Solve, "CommandNext", "2 running  SP", "2 still  S"},
+        {"puzzle, scores", StartPuzzle, Click("CmdScores"), "", "2 still  SP", "2 running ED SP"},
+        {"tutorial, options", Tutorial, Click("CmdOptions"), "", "2 running D SP", "2 running D SP"},
+        {"replay lost, solution", StartReplay, Lose, "CommandSolution", "4 still  S", "4 running ED S"},
+        {"replay solved, menu", StartReplay, Solve, "Command1", "4 running  S", "1 still  "},
+        {"replay, About", StartReplay, Click("CmdAbout"), "", "4 still  S", "4 running ED S"},
+        {"taken over, solved, menu", TakeOver, Solve, "Command1", "2 running  S", "1 still  "},
+        {"taken over, restarted", TakeOver, Click("CmdStart"), "", "no dialog", "2 still  S"}};
+    for (const Case& c : kCases) {
+        SCOPED_TRACE(c.name);
         TestGame game;
         game.QuietStore().Load();
-        StateOf(ending.from).enter(game);
-        std::string looks = "no dialog";
-        game.Machine().onDialog = [&](Window&) { looks = Looks(game); };
-        ending.end(game);
-        EXPECT_EQ(looks, ending.looks) << ending.from;
-        EXPECT_FALSE(game.Main().GameRunning) << ending.from;
+        c.start(game);
+        std::string behind = "no dialog";
+        game.Machine().onDialog = [&](Window&) { behind = Looks(game); };
+        if (*c.answer != 0) game.Machine().QueueAnswer(c.answer);
+        c.event(game);
+        EXPECT_EQ(behind, c.behind);
+        EXPECT_EQ(Looks(game), c.after);
     }
 }
 
