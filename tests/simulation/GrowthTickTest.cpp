@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "simulation/BeamRemoval.h"
 #include "simulation/Playfield.h"
-#include "simulation/RemovalTick.h"
 #include "tests/support/TestGame.h"
 
 namespace prismfall {

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "simulation/BeamRemoval.h"
 #include "simulation/GrowthTick.h"
 #include "simulation/Playfield.h"
 #include "tests/support/TestGame.h"
