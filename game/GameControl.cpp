@@ -12,6 +12,7 @@
 #include "screens/SettingsStore.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
+#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {
@@ -21,15 +22,6 @@ namespace {
 void Face(Element& button, std::string_view picture, std::string_view tag) {
     button.picture = picture;
     button.tag = tag;
-}
-
-void StopGameTimers(VMain& main) {
-    for (const Timer timer : {Timer::LineCreator, Timer::LineExtender, Timer::LineDeleter})
-        main.platform.StopTimer(timer);
-}
-
-void StartBeamTimers(VMain& main) {
-    for (const Timer timer : {Timer::LineExtender, Timer::LineDeleter}) main.platform.StartTimer(timer);
 }
 
 // --- Starting.
@@ -122,8 +114,6 @@ void LeavePuzzleMenu(VMain& main) {
     ShowScoreboard(main, false);
 }
 
-bool IsPuzzle(const VMain& main) { return main.GameMode == kPuzzleGame || main.GameMode == kSolutionReplay; }
-
 // Leaves a game for its menu, or the puzzle menu for the main menu.
 void LeaveScreen(VMain& main) {
     if (IsPuzzle(main)) return LeavePuzzle(main);
@@ -146,8 +136,8 @@ void HandleEscape(VMain& main) {
 void CommandArcade_Click(VMain& main) {
     main.platform.StopTimer(Timer::TimerPlayIntro);
     ShowArcadeScreen(main);
-    for (const Timer timer : {Timer::LineCreator, Timer::LineExtender, Timer::LineDeleter})
-        main.platform.StartTimer(timer);
+    main.platform.StartTimer(Timer::LineCreator);
+    StartBeamTimers(main);
     main.GameRunning = true;
     RedrawLines(main);
     StartScore(main);

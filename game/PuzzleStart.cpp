@@ -8,6 +8,7 @@
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/CollisionDetection.h"
+#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {
@@ -46,16 +47,14 @@ void ShowButtons(VMain& main, std::string_view startFace, std::string_view start
 }
 
 void WaitForPlayer(VMain& main) {
-    main.platform.StopTimer(Timer::LineExtender);
-    main.platform.StopTimer(Timer::LineDeleter);
+    StopBeamTimers(main);
     main.GameRunning = false;
     ShowButtons(main, "StartUp", "");
     main.PuzzleWaiting = true;
 }
 
 void RunAtOnce(VMain& main) {
-    main.platform.StartTimer(Timer::LineExtender);
-    main.platform.StartTimer(Timer::LineDeleter);
+    StartBeamTimers(main);
     main.GameRunning = true;
     ShowButtons(main, "TakeoverUp", "Takeover");
 }

@@ -76,10 +76,7 @@ CLine* FindGrowingBeam(const VMain& main, std::int16_t number) {
 }
 
 void BendForPlayer(VMain& main) {
-    CLine* beam = FindBeam(main, kBentBeam);
-    if (beam == nullptr) return;
-    beam->RunMode = kStopped;
-    CreateLine(main, beam, false, kSpawnHeight);
+    if (CLine* beam = FindBeam(main, kBentBeam)) SplitLine(main, *beam);
 }
 
 void StartForPlayer(VMain& main) {

@@ -12,6 +12,7 @@
 #include "screens/MainMenu.h"
 #include "screens/SettingsStore.h"
 #include "simulation/BeamSpawning.h"
+#include "simulation/GameModes.h"
 #include "simulation/GrowthTick.h"
 #include "simulation/PlayerInput.h"
 #include "simulation/RemovalTick.h"
@@ -68,11 +69,6 @@ void Connect(VMain& main) {
     main.platform.SetTickHandler([&main](Timer timer) { TickTimer(main, timer); });
 }
 
-void StopGame(VMain& main) {
-    for (const Timer timer : {Timer::LineCreator, Timer::LineExtender, Timer::LineDeleter})
-        main.platform.StopTimer(timer);
-}
-
 void ShowStartNumbers(VMain& main) {
     ShowNumber(main.VScore, 0);
     main.Level = 1;
@@ -89,7 +85,7 @@ void TakeHighScore(VMain& main) {
 void Form_Load(VMain& main) {
     for (const TimerRow& row : kTimers) main.platform.SetTimerInterval(row.timer, row.interval);
     main.platform.SetOuterSize(main.window, kOuterSize);
-    StopGame(main);
+    StopGameTimers(main);
     ShowStartNumbers(main);
     ReadStartSettings(main);
     TakeHighScore(main);

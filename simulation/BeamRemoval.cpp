@@ -50,6 +50,11 @@ void DeleteLine(VMain& main, CLine& oLine, std::int16_t Thickness, Boolean ByFas
     }
 }
 
+void StartRemoval(VMain& main, CLine& oLine, Boolean ByFastLine) {
+    DeleteLine(main, oLine, NextThickness(oLine), ByFastLine);
+    main.DyingLines.push_back(&oLine);
+}
+
 std::int16_t NextThickness(const CLine& beam) { return Saturated(static_cast<std::int64_t>(beam.Thicknes) - 1); }
 
 void RedrawLines(VMain& main) {

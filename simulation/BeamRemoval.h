@@ -10,9 +10,11 @@ namespace prismfall {
 
 // One step of removal for a beam and, through the links, for all of its chain in the same colour: each becomes dying
 // and stands still, is painted out and painted again `Thickness` wide, without edges. Only `oLine` itself keeps
-// `ByFastLine`. This is also how a level rise reaches the timers. A caller that starts a removal then appends `oLine`
-// to DyingLines.
+// `ByFastLine`. This is also how a level rise reaches the timers.
 void DeleteLine(VMain& main, CLine& oLine, std::int16_t Thickness, Boolean ByFastLine);
+
+// Takes the first step for a beam that has been struck, and enters it in DyingLines for the next ones.
+void StartRemoval(VMain& main, CLine& oLine, Boolean ByFastLine);
 
 // The step of removal after the one that the beam stands in.
 std::int16_t NextThickness(const CLine& beam);

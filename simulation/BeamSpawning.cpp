@@ -6,6 +6,7 @@
 #include <cmath>
 #include <optional>
 
+#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {
@@ -60,12 +61,12 @@ std::int32_t RandomColour(VMain& main) {
 void ContinueChain(const VMain& main, CLine& beam, CLine& oLine) {
     beam.XStart = oLine.XEnd;
     beam.YStart = oLine.YEnd;
-    beam.Direction = oLine.Direction == kLeftwards ? kRightwards : kLeftwards;
+    beam.Direction = TurnedRound(oLine.Direction);
     beam.Color = oLine.Color;
     beam.DoubleSpeed = oLine.DoubleSpeed;
     beam.LinkedLines.push_back(&oLine);
     oLine.LinkedLines.push_back(&beam);
-    if (main.GameMode == kPuzzleGame || main.GameMode == kSolutionReplay) beam.PuzzleLineNr = oLine.PuzzleLineNr;
+    if (IsPuzzle(main)) beam.PuzzleLineNr = oLine.PuzzleLineNr;
 }
 
 void StartInColumn(VMain& main, CLine& beam, std::int16_t x, std::int16_t y) {
@@ -100,6 +101,11 @@ CLine* CreateLine(VMain& main, CLine* oLine, Boolean Simulate, std::int16_t Star
     MakeLive(beam);
     if (!Simulate) main.Lines.push_back(&beam);
     return &beam;
+}
+
+CLine& SplitLine(VMain& main, CLine& oLine) {
+    oLine.RunMode = kStopped;
+    return *CreateLine(main, &oLine, false, kSpawnHeight);
 }
 
 void SetLevelSpeed(VMain& main) {

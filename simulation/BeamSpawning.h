@@ -15,6 +15,9 @@ namespace prismfall {
 // With `Simulate` the beam stands in no list and lives until the look-ahead ends.
 CLine* CreateLine(VMain& main, CLine* oLine, Boolean Simulate, std::int16_t StartY);
 
+// Stops a beam where it is and goes on with the next segment of its chain: a bend.
+CLine& SplitLine(VMain& main, CLine& oLine);
+
 // Sets the intervals of LineCreator and LineExtender by Level: 2500 and 75 ms at level 1, a fifth less at each level
 // above, never less than 1 ms.
 void SetLevelSpeed(VMain& main);

@@ -14,6 +14,10 @@ namespace prismfall {
 constexpr std::int32_t kLeftwards = 1;
 constexpr std::int32_t kRightwards = 2;
 
+constexpr std::int32_t TurnedRound(std::int32_t direction) {
+    return direction == kLeftwards ? kRightwards : kLeftwards;
+}
+
 constexpr std::int32_t kStopped = 0;  // RunMode
 constexpr std::int32_t kGrowing = 1;
 constexpr std::int32_t kWaiting = 2;  // a puzzle's beam that the player has to start

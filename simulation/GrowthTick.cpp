@@ -10,6 +10,7 @@
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/CollisionDetection.h"
+#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
 #include "simulation/Scoring.h"
 #include "simulation/SolutionReplay.h"
@@ -33,8 +34,7 @@ void ShowEnd(VMain& main) {
 
 void EndGame(VMain& main) {
     main.GameEnding = true;
-    for (const Timer timer : {Timer::LineCreator, Timer::LineExtender, Timer::LineDeleter})
-        main.platform.StopTimer(timer);
+    StopGameTimers(main);
     SaveScore(main);
     StopMusic(main);
     main.platform.Yield();
@@ -85,8 +85,7 @@ bool MovesInThisTick(const VMain& main, const CLine& beam, int y) {
 void Bounce(VMain& main, CLine& beam, const Step& step) {
     beam.XEnd = step.x;
     beam.YEnd = step.y;
-    beam.RunMode = kStopped;
-    CreateLine(main, &beam, false, kSpawnHeight);
+    SplitLine(main, beam);
 }
 
 void CountHit(VMain& main, std::int16_t& hits, const CLine& beam) {
@@ -97,14 +96,8 @@ void CountHit(VMain& main, std::int16_t& hits, const CLine& beam) {
     main.MultiDirection = beam.Direction;
 }
 
-void StartRemoval(VMain& main, CLine& beam) {
-    DeleteLine(main, beam, NextThickness(beam), false);
-    main.DyingLines.push_back(&beam);
-}
-
 void SoundOfHit(VMain& main) {
-    const bool isPuzzle = main.GameMode == kPuzzleGame || main.GameMode == kSolutionReplay;
-    if (isPuzzle && AllLinesDeleted(main)) return PlaySound2(main, kSoundPuzzleCleared, true);
+    if (IsPuzzle(main) && AllLinesDeleted(main)) return PlaySound2(main, kSoundPuzzleCleared, true);
     PlaySound2(main, kSoundDestroyed, false);
 }
 
@@ -112,8 +105,8 @@ void Strike(VMain& main, std::int16_t& hits, CLine& beam, CLine& hit) {
     beam.RunMode = kStopped;
     hit.StoppingLines.push_back(&beam);
     if (hit.Color != beam.Color || beam.Thicknes <= 0) return PlaySound2(main, kSoundStopped, false);
-    StartRemoval(main, beam);
-    if (!hit.Deleted) StartRemoval(main, hit);
+    StartRemoval(main, beam, false);
+    if (!hit.Deleted) StartRemoval(main, hit, false);
     CountHit(main, hits, beam);
     SoundOfHit(main);
 }

@@ -9,6 +9,7 @@
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/CollisionDetection.h"
+#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
 #include "simulation/Scoring.h"
 
@@ -46,8 +47,7 @@ void LeftPress(VMain& main, CLine& beam) {
         beam.RunMode = kGrowing;
         return;
     }
-    beam.RunMode = kStopped;
-    CreateLine(main, &beam, false, kSpawnHeight);
+    SplitLine(main, beam);
 }
 
 void RightPress(VMain& main, CLine& beam) {
@@ -102,12 +102,9 @@ std::int16_t Strike(VMain& main, CLine& ln, CLine& hit) {
         PlaySound2(main, kSoundStopped, false);
         return 0;
     }
-    DeleteLine(main, ln, NextThickness(ln), false);
-    main.DyingLines.push_back(&ln);
-    DeleteLine(main, hit, NextThickness(hit), true);
-    main.DyingLines.push_back(&hit);
-    const bool isPuzzle = main.GameMode == kPuzzleGame || main.GameMode == kSolutionReplay;
-    PlaySound2(main, AllLinesDeleted(main) && isPuzzle ? kSoundPuzzleCleared : kSoundDestroyed, false);
+    StartRemoval(main, ln, false);
+    StartRemoval(main, hit, true);
+    PlaySound2(main, AllLinesDeleted(main) && IsPuzzle(main) ? kSoundPuzzleCleared : kSoundDestroyed, false);
     return 1;
 }
 
@@ -168,7 +165,7 @@ void BendLine(VMain& main, CLine& oLine) {
     EraseLine(main, oLine);
     oLine.XStart = oLine.XEnd;
     oLine.YStart = oLine.YEnd;
-    oLine.Direction = oLine.Direction == kLeftwards ? kRightwards : kLeftwards;
+    oLine.Direction = TurnedRound(oLine.Direction);
 }
 
 bool SpeedUpLine(VMain& main, CLine& oLine, Boolean Simulate) {

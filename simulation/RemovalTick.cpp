@@ -3,6 +3,7 @@
 
 #include "game/PuzzleResult.h"
 #include "simulation/BeamRemoval.h"
+#include "simulation/GameModes.h"
 
 namespace prismfall {
 
@@ -27,8 +28,7 @@ bool RemoveGoneLines(VMain& main) {
 }
 
 void EndSolvedPuzzle(VMain& main) {
-    for (const Timer timer : {Timer::LineCreator, Timer::LineExtender, Timer::LineDeleter})
-        main.platform.StopTimer(timer);
+    StopGameTimers(main);
     if (main.GameMode == kPuzzleGame) main.SolvedPuzzles[static_cast<std::size_t>(main.CurrentPuzzle) - 1] = true;
     main.TutorialActive = false;
     ShowPuzzleResult(main, true);
@@ -40,8 +40,7 @@ void EndSolvedPuzzle(VMain& main) {
 void LineDeleter_Timer(VMain& main) {
     ThinDyingLines(main);
     if (!RemoveGoneLines(main)) return;
-    const bool isPuzzle = main.GameMode == kPuzzleGame || main.GameMode == kSolutionReplay;
-    if (main.Lines.empty() && isPuzzle) return EndSolvedPuzzle(main);
+    if (main.Lines.empty() && IsPuzzle(main)) return EndSolvedPuzzle(main);
     RedrawLines(main);
     main.Beams.KeepReachable(main.Lines, main.DyingLines);
 }

@@ -28,11 +28,6 @@ std::optional<ScriptStep> StepFor(CatalogueEntry script, const CLine& beam) {
     return found;
 }
 
-CLine& Bend(VMain& main, CLine& beam) {
-    beam.RunMode = kStopped;
-    return *CreateLine(main, &beam, false, kSpawnHeight);
-}
-
 void SoundIfCleared(VMain& main) {
     if (!AllLinesDeleted(main) || main.GameMode != kSolutionReplay) return;
     main.platform.Yield();
@@ -41,15 +36,15 @@ void SoundIfCleared(VMain& main) {
 
 void ActOnTrigger(VMain& main, const ScriptStep& step, CLine& beam) {
     if (!step.speedUp) {
-        Bend(main, beam);
+        SplitLine(main, beam);
         return;
     }
-    SpeedUpLine(main, step.bendFirst ? Bend(main, beam) : beam, false);
+    SpeedUpLine(main, step.bendFirst ? SplitLine(main, beam) : beam, false);
     SoundIfCleared(main);
 }
 
 void ActOnOther(VMain& main, const ScriptStep& step, CLine& other) {
-    CLine& moving = step.bendFirst ? Bend(main, other) : other;
+    CLine& moving = step.bendFirst ? SplitLine(main, other) : other;
     moving.RunMode = kGrowing;
     if (step.speedUp) SpeedUpLine(main, moving, false);
 }

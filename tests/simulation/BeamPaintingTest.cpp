@@ -78,8 +78,7 @@ class Life {
     void Die() {
         VMain& main = game.Main();
         CLine& struck = *main.Lines[static_cast<std::size_t>(Number(1, static_cast<int>(main.Lines.size()) - 1))];
-        DeleteLine(main, struck, NextThickness(struck), false);
-        main.DyingLines.push_back(&struck);
+        StartRemoval(main, struck, false);
         while (main.Lines.size() > 1) LineDeleter_Timer(main);
     }
 

@@ -21,11 +21,6 @@ void Link(CLine& a, CLine& b) {
     b.LinkedLines.push_back(&a);
 }
 
-void StartRemoval(VMain& main, CLine& beam) {
-    DeleteLine(main, beam, NextThickness(beam), false);
-    main.DyingLines.push_back(&beam);
-}
-
 TEST(DeleteLine, GoesThroughTheChainInOneColour) {
     TestGame game;
     VMain& main = game.Play(kArcadeGame);
@@ -101,7 +96,7 @@ TEST(LineDeleter, ThinsTheWholeChainAndTakesItOut) {
     CLine& stopped = game.AddBeam(300, 100, 350, 150, kGreen, kStopped);
     Link(struck, linked);
     linked.StoppingLines.push_back(&stopped);
-    StartRemoval(main, struck);
+    StartRemoval(main, struck, false);
     for (const float thicknes : {3.0F, 2.0F, 1.0F}) {
         game.Machine().SetPainting(true);
         LineDeleter_Timer(main);
@@ -123,8 +118,8 @@ TEST(LineDeleter, ABeamThatStandsTwiceLosesTwoSteps) {
     game.AddBeam(400, 400, 410, 410, kBlue, kStopped);
     CLine& twice = game.AddBeam(100, 100, 150, 150, kBlue);
     CLine& once = game.AddBeam(300, 100, 350, 150, kBlue);
-    StartRemoval(main, twice);
-    StartRemoval(main, once);
+    StartRemoval(main, twice, false);
+    StartRemoval(main, once, false);
     main.DyingLines.push_back(&twice);
     for (int i = 0; i < 100; ++i) main.Beams.Make();  // enough that it pays to free those out of reach
     LineDeleter_Timer(main);
@@ -150,7 +145,7 @@ TEST(LineDeleter, RestartsBeamsWhateverTheirState) {
     CLine* leftEarlier = &game.AddBeam(600, 100, 650, 150, kGreen, kStopped);
     main.Lines.pop_back();
     gone.StoppingLines = {&dying, &waiting, leftEarlier};
-    StartRemoval(main, dying);
+    StartRemoval(main, dying, false);
     gone.Thicknes = 0;
     LineDeleter_Timer(main);
     EXPECT_EQ(InShort(main), "300,100 350,150 right growing 3 dying\n500,100 550,150 right growing 5\n");
@@ -163,7 +158,7 @@ TEST(LineDeleter, OnlyARemovalSolvesAPuzzle) {
     VMain& main = game.Play(kPuzzleGame);
     LineDeleter_Timer(main);
     EXPECT_TRUE(main.GameRunning) << "empty, and nothing has gone";
-    StartRemoval(main, game.AddBeam(100, 100, 150, 150, kBlue));
+    StartRemoval(main, game.AddBeam(100, 100, 150, 150, kBlue), false);
     for (int tick = 0; tick < 4; ++tick) LineDeleter_Timer(main);
     EXPECT_FALSE(main.GameRunning);
 }

@@ -37,10 +37,7 @@ class EndlessGame {
   private:
     int Number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); }
 
-    void Destroy(CLine& beam) {
-        DeleteLine(*main, beam, NextThickness(beam), false);
-        main->DyingLines.push_back(&beam);
-    }
+    void Destroy(CLine& beam) { StartRemoval(*main, beam, false); }
 
     // Also the oldest, before the playfield is blocked and no beam comes any more.
     void ClearTheWay() {
