@@ -1,11 +1,10 @@
-// Opening and closing through SDL_mixer. The audio subsystem goes with the device, so that the next opening finds the
-// sound server that is there then.
+// Opening and closing. The audio subsystem goes with the device, so that the next opening finds the sound server that
+// is there then.
 #include "platform/sdl/AudioDevice.h"
 
-#include <SDL.h>
 #include <dlfcn.h>
 
-#include "platform/sdl/MixerLibrary.h"
+#include <cstring>
 
 namespace prismfall {
 
@@ -15,7 +14,7 @@ using namespace std::chrono_literals;
 
 constexpr int kRate = 44100;
 constexpr int kChannels = 2;
-constexpr int kChunk = 1024;  // frames; 23 ms
+constexpr int kChunk = 2048;  // frames; 46 ms
 constexpr auto kNextTry = 5s;
 
 void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
@@ -35,29 +34,39 @@ void SilenceAlsa() {
 }  // namespace
 
 bool AudioDevice::Open() {
-    if (open) return true;
+    if (IsOpen()) return true;
     const auto now = std::chrono::steady_clock::now();
     if (failedAt && now - *failedAt < kNextTry) return false;
     SilenceAlsa();
-    const MixerLibrary* mixer = Mixer();
-    open = mixer != nullptr && SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 &&
-           mixer->OpenAudioDevice(kRate, MIX_DEFAULT_FORMAT, kChannels, kChunk, nullptr,
-                                  SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_CHANNELS_CHANGE) == 0;
-    if (open) {
-        mixer->AllocateChannels(1);
-        failedAt.reset();
-    } else {
-        if (SDL_WasInit(SDL_INIT_AUDIO) != 0) SDL_QuitSubSystem(SDL_INIT_AUDIO);
-        failedAt = now;
+    SDL_AudioSpec wanted{};
+    wanted.freq = kRate;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = kChannels;
+    wanted.samples = kChunk;
+    wanted.callback = Callback;
+    wanted.userdata = this;
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
+        id = SDL_OpenAudioDevice(nullptr, 0, &wanted, &form,
+                                 SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_CHANNELS_CHANGE);
+        if (!IsOpen()) SDL_QuitSubSystem(SDL_INIT_AUDIO);
     }
-    return open;
+    if (IsOpen()) SDL_PauseAudioDevice(id, 0);
+    failedAt = IsOpen() ? std::nullopt : std::optional(now);
+    return IsOpen();
 }
 
 void AudioDevice::Close() {
-    if (!open) return;
-    open = false;
-    Mixer()->CloseAudio();
+    if (!IsOpen()) return;
+    SDL_CloseAudioDevice(id);
+    id = 0;
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+void AudioDevice::Callback(void* self, std::uint8_t* samples, int bytes) {
+    const auto& device = *static_cast<const AudioDevice*>(self);
+    const std::span space(samples, static_cast<std::size_t>(bytes));
+    std::memset(space.data(), device.form.silence, space.size());
+    device.fill(space);
 }
 
 }  // namespace prismfall

@@ -1,22 +1,48 @@
 // The sound device: opened when there is something to play, closed when nothing has played for a while, so that a
-// silent game is woken by nothing. Used on the audio thread alone.
+// silent game is woken by nothing. What is heard is up to who fills it. Used on the audio thread alone.
 #pragma once
 
+#include <SDL.h>
+
 #include <chrono>
+#include <cstdint>
+#include <functional>
 #include <optional>
+#include <span>
 
 namespace prismfall {
 
 class AudioDevice {
   public:
+    // Adds what is to be heard next to silence, in the form of `Form`. Called on a thread of SDL's, with the device
+    // locked.
+    using Fill = std::function<void(std::span<std::uint8_t> samples)>;
+
+    explicit AudioDevice(Fill fillWith) : fill(std::move(fillWith)) {}
+    AudioDevice(const AudioDevice&) = delete;
+    AudioDevice& operator=(const AudioDevice&) = delete;
+    ~AudioDevice() { Close(); }
+
     // Opens the device if it is closed. Without a usable one the answer is false, and for a few seconds it is not asked
     // for again.
     bool Open();
     void Close();
-    bool IsOpen() const { return open; }
+    bool IsOpen() const { return id != 0; }
+
+    // How samples have to come. Opening settles it.
+    const SDL_AudioSpec& Form() const { return form; }
+
+    // Keeps `Fill` from being called; the device must be neither opened nor closed meanwhile. Named as std::lock_guard
+    // wants it.
+    void lock() const { SDL_LockAudioDevice(id); }
+    void unlock() const { SDL_UnlockAudioDevice(id); }
 
   private:
-    bool open = false;
+    static void Callback(void* self, std::uint8_t* samples, int bytes);
+
+    Fill fill;
+    SDL_AudioDeviceID id = 0;
+    SDL_AudioSpec form{};
     std::optional<std::chrono::steady_clock::time_point> failedAt;
 };
 

@@ -1,21 +1,18 @@
-// Reading pictures with SDL_image. On a larger display the double-size file serves if there is one.
+// Reading pictures with libpng. On a larger display the double-size file serves if there is one.
 #include "platform/sdl/PictureStore.h"
 
-#include <SDL.h>
-#include <SDL_image.h>
+#include <png.h>
 
+#include <bit>
 #include <cmath>
 #include <cstdio>
-#include <memory>
 
 namespace prismfall {
 
 namespace {
 
-struct FreeSurface {
-    void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
-};
-using SurfacePointer = std::unique_ptr<SDL_Surface, FreeSurface>;
+// The bytes of a pixel 0xAARRGGBB in memory.
+constexpr png_uint_32 kPixelFormat = std::endian::native == std::endian::little ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
 
 // Multiplies the colours by their opacity. Whether every pixel turns out opaque.
 bool Premultiply(std::vector<std::uint32_t>& pixels) {
@@ -29,19 +26,14 @@ bool Premultiply(std::vector<std::uint32_t>& pixels) {
     return opaque;
 }
 
+// Whatever kind of PNG the file is: libpng brings it to the form of our pixels.
 std::optional<Image> ReadFile(const std::filesystem::path& path) {
-    SDL_RWops* file = SDL_RWFromFile(path.c_str(), "rb");
-    if (file == nullptr) return std::nullopt;
-    SurfacePointer surface(IMG_LoadPNG_RW(file));
-    SDL_RWclose(file);
-    if (surface && SDL_ISPIXELFORMAT_INDEXED(surface->format->format))
-        surface.reset(SDL_ConvertSurfaceFormat(surface.get(), SDL_PIXELFORMAT_ARGB8888, 0));
-    if (!surface) return std::nullopt;
-    Image image(surface->w, surface->h);
-    const int rowBytes = image.width * static_cast<int>(sizeof(std::uint32_t));
-    if (SDL_ConvertPixels(image.width, image.height, surface->format->format, surface->pixels, surface->pitch,
-                          SDL_PIXELFORMAT_ARGB8888, image.pixels.data(), rowBytes) != 0)
-        return std::nullopt;
+    png_image file{};
+    file.version = PNG_IMAGE_VERSION;
+    if (png_image_begin_read_from_file(&file, path.c_str()) == 0) return std::nullopt;
+    file.format = kPixelFormat;
+    Image image(static_cast<int>(file.width), static_cast<int>(file.height));
+    if (png_image_finish_read(&file, nullptr, image.pixels.data(), 0, nullptr) == 0) return std::nullopt;
     image.opaque = Premultiply(image.pixels);
     return image;
 }

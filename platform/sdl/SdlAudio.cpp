@@ -30,6 +30,14 @@ bool HasTag(std::span<const std::byte> bytes, std::size_t at, std::string_view t
 
 }  // namespace
 
+SdlAudio::SdlAudio()
+    : device([this](std::span<std::uint8_t> samples) {
+          music.MixInto(samples);
+          sound.MixInto(samples);
+      }),
+      music(device),
+      sound(device) {}
+
 void SdlAudio::PlayWave(std::span<const std::byte> wave) {
     used = true;
     thread.Post([this, wave] {
@@ -65,7 +73,6 @@ void SdlAudio::DeviceLost() {
     thread.Post([this] {
         if (!device.IsOpen()) return;
         sound.Release();
-        music.Release();
         device.Close();
         music.TakeUp();
         CloseWhenSilent();
@@ -78,7 +85,6 @@ void SdlAudio::CloseWhenSilent() {
     thread.RunLater(kSilenceBeforeClosing, [this] {
         if (music.IsSounding() || sound.IsSounding()) return CloseWhenSilent();
         sound.Release();
-        music.Release();
         device.Close();
     });
 }

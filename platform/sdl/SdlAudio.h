@@ -17,7 +17,7 @@ namespace prismfall {
 
 class SdlAudio {
   public:
-    SdlAudio() : music(device), sound(device) {}
+    SdlAudio();
     SdlAudio(const SdlAudio&) = delete;
     SdlAudio& operator=(const SdlAudio&) = delete;
     ~SdlAudio() { Finish(); }

@@ -1,120 +1,123 @@
-// Music by SDL_mixer, which cannot change a playing track from looping to playing once: that takes a new start at the
-// same place.
+// Music: SDL's thread asks for the next samples and gets them decoded on the spot, a few frames of the file at a time.
 #include "platform/sdl/SdlMusic.h"
-
-#include <SDL.h>
 
 #include <algorithm>
 #include <cmath>
-
-#include "platform/sdl/MixerLibrary.h"
+#include <mutex>
 
 namespace prismfall {
 
 namespace {
 
 constexpr int kFullVolume = 1000;
-constexpr int kEndless = -1;
-constexpr int kOnce = 1;
-
-// The reason why a file cannot be read, or nothing.
-std::string ReadingFailure(const std::string& path) {
-    SDL_RWops* file = SDL_RWFromFile(path.c_str(), "rb");
-    if (file == nullptr) return SDL_GetError();
-    char byte = 0;
-    const bool readable = SDL_RWread(file, &byte, 1, 1) == 1;
-    SDL_RWclose(file);
-    return readable ? std::string() : "Couldn't read " + path;
-}
+constexpr int kDecodedAhead =
+    12;  // times what is asked for; a block of frames at a time costs half of what single ones do
 
 }  // namespace
 
-std::string SdlMusic::Open(const std::string& file) {
+std::string SdlMusic::Open(const std::string& path) {
     Close();
-    if (std::string failure = ReadingFailure(file); !failure.empty()) return failure;
-    path = file;
-    if (!device.Open() || Load()) return {};
-    const std::string failure = SDL_GetError();
-    path.clear();
-    return failure.empty() ? "Couldn't play " + file : failure;
-}
-
-bool SdlMusic::Load() {
-    if (music == nullptr) music = Mixer()->LoadMUS(path.c_str());
-    if (music != nullptr) SetVolume(volume);
-    return music != nullptr;
-}
-
-void SdlMusic::Unload() {
-    if (music == nullptr) return;
-    Mixer()->HaltMusic();
-    Mixer()->FreeMusic(music);
-    music = nullptr;
+    return file.Open(path);
 }
 
 void SdlMusic::Close() {
-    Unload();
-    path.clear();
+    const std::lock_guard lock(device);
+    file.Close();
+    stream.reset();
     state = State::Stopped;
-    place = 0;
 }
 
 void SdlMusic::SetVolume(int newVolume) {
-    volume = std::clamp(newVolume, 0, kFullVolume);
-    if (music == nullptr) return;
-    Mixer()->VolumeMusic(static_cast<int>(std::lround(static_cast<double>(volume) * MIX_MAX_VOLUME / kFullVolume)));
+    const double share = static_cast<double>(std::clamp(newVolume, 0, kFullVolume)) / kFullVolume;
+    const std::lock_guard lock(device);
+    volume = static_cast<int>(std::lround(share * SDL_MIX_MAXVOLUME));
 }
 
-void SdlMusic::PlayFrom(double seconds, State newState) {
-    if (path.empty()) return;
+void SdlMusic::Play(State newState) {
+    if (!file.IsOpen()) return;
+    const bool hasDevice = device.Open();
+    const std::lock_guard lock(device);
     state = newState;
-    place = seconds;
-    if (!device.Open() || !Load()) return;
-    // A fade of no length is the one call that starts at a place without letting the track's beginning be heard.
-    Mixer()->FadeInMusicPos(music, newState == State::Looping ? kEndless : kOnce, 0, seconds);
+    if (hasDevice) FitStream();
 }
 
-void SdlMusic::RememberPlace() {
-    if (music != nullptr) place = std::max(0.0, Mixer()->GetMusicPosition(music));
+// A stream that fits is kept, for it may hold samples that have not been heard yet.
+void SdlMusic::FitStream() {
+    const SDL_AudioSpec& form = device.Form();
+    if (stream && streamForm.format == form.format && streamForm.channels == form.channels &&
+        streamForm.freq == form.freq)
+        return;
+    streamForm = form;
+    stream.reset(SDL_NewAudioStream(AUDIO_S16SYS, static_cast<std::uint8_t>(file.Channels()), file.Rate(), form.format,
+                                    form.channels, form.freq));
 }
 
-void SdlMusic::PlayLooping() { PlayFrom(0, State::Looping); }
-
-void SdlMusic::NoticeEnd() {
-    if (state == State::PlayingOnce && music != nullptr && Mixer()->PlayingMusic() == 0) state = State::Over;
+void SdlMusic::PlayLooping() {
+    Stop();
+    Play(State::Looping);
 }
 
 void SdlMusic::Resume() {
-    NoticeEnd();
-    if (state == State::PlayingOnce || state == State::Over) return;
-    if (state == State::Looping) RememberPlace();
-    PlayFrom(place, State::PlayingOnce);
+    if (!PlaysOnce()) Play(State::PlayingOnce);
+}
+
+// Or has done so.
+bool SdlMusic::PlaysOnce() {
+    const std::lock_guard lock(device);
+    return state == State::PlayingOnce || state == State::Over;
 }
 
 void SdlMusic::Pause() {
-    NoticeEnd();
-    if (state != State::Looping && state != State::PlayingOnce) return;
-    RememberPlace();
-    if (music != nullptr) Mixer()->PauseMusic();
-    state = State::Paused;
+    const std::lock_guard lock(device);
+    if (IsPlaying()) state = State::Paused;
 }
 
 void SdlMusic::Stop() {
-    if (music != nullptr) Mixer()->HaltMusic();
+    const std::lock_guard lock(device);
     state = State::Stopped;
-    place = 0;
+    if (file.IsOpen()) file.Rewind();
+    if (stream) SDL_AudioStreamClear(stream.get());
 }
 
-bool SdlMusic::IsSounding() const { return music != nullptr && Mixer()->PlayingMusic() != 0 && state != State::Paused; }
+bool SdlMusic::IsLooping() {
+    const std::lock_guard lock(device);
+    return state == State::Looping;
+}
 
-void SdlMusic::Release() {
-    NoticeEnd();
-    if (IsSounding()) RememberPlace();
-    Unload();
+bool SdlMusic::IsSounding() {
+    const std::lock_guard lock(device);
+    return IsPlaying() && device.IsOpen();
 }
 
 void SdlMusic::TakeUp() {
-    if (state == State::Looping || state == State::PlayingOnce) PlayFrom(place, state);
+    if (IsPlaying()) Play(state);
+}
+
+void SdlMusic::MixInto(std::span<std::uint8_t> samples) {
+    if (!stream || !IsPlaying()) return;
+    const int wanted = static_cast<int>(samples.size());
+    if (SDL_AudioStreamAvailable(stream.get()) < wanted) DecodeAhead(wanted);
+    next.resize(samples.size());
+    const int got = std::max(0, SDL_AudioStreamGet(stream.get(), next.data(), wanted));
+    SDL_MixAudioFormat(samples.data(), next.data(), streamForm.format, static_cast<std::uint32_t>(got), volume);
+    if (got < wanted) state = State::Over;
+}
+
+// Beyond the track's end only as far as is wanted: by then it may have been told to play no second time.
+void SdlMusic::DecodeAhead(int wanted) {
+    bool rewound = false;
+    while (SDL_AudioStreamAvailable(stream.get()) < wanted * kDecodedAhead) {
+        const std::span<const std::byte> block = file.Read();
+        if (!block.empty()) {
+            SDL_AudioStreamPut(stream.get(), block.data(), static_cast<int>(block.size()));
+            rewound = false;
+            continue;
+        }
+        if (state == State::PlayingOnce || rewound) SDL_AudioStreamFlush(stream.get());
+        if (state == State::PlayingOnce || rewound || SDL_AudioStreamAvailable(stream.get()) >= wanted) return;
+        file.Rewind();
+        rewound = true;
+    }
 }
 
 }  // namespace prismfall

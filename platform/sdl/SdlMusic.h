@@ -1,12 +1,17 @@
-// The music player: one file at a time, looping or to its end once. Used on the audio thread alone. It remembers what
-// it is to play, so that the device may go away meanwhile and come back.
+// The music player: one file at a time, looping or to its end once. Everything but `MixInto` is used on the audio
+// thread alone. It goes on from its place whatever becomes of the device meanwhile.
 #pragma once
 
+#include <SDL.h>
+
+#include <cstdint>
+#include <memory>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "platform/sdl/AudioDevice.h"
-
-struct _Mix_Music;
+#include "platform/sdl/MusicFile.h"
 
 namespace prismfall {
 
@@ -14,9 +19,8 @@ class SdlMusic {
   public:
     explicit SdlMusic(AudioDevice& soundDevice) : device(soundDevice) {}
 
-    // Nothing if the file can be played, else the reason in the player's words. Without a device every file that can
-    // be read will do.
-    std::string Open(const std::string& file);
+    // Nothing if the file can be played, else the reason in the player's words.
+    std::string Open(const std::string& path);
     void Close();
     void SetVolume(int newVolume);
     void PlayLooping();
@@ -24,27 +28,34 @@ class SdlMusic {
     void Pause();
     void Stop();
 
-    bool IsSounding() const;
-    bool IsLooping() const { return state == State::Looping; }
-    // Lets the device go and take it up again; what was playing plays on at its place if there is a device then.
-    void Release();
+    bool IsSounding();
+    bool IsLooping();
+    // Plays on after the device has gone, on the one that is there now, if one is.
     void TakeUp();
+
+    // Adds what is to be heard next, in the device's form. To be called with the device locked.
+    void MixInto(std::span<std::uint8_t> samples);
 
   private:
     enum class State { Stopped, Looping, PlayingOnce, Paused, Over };  // Over: played to its end once
+    struct FreeStream {
+        void operator()(SDL_AudioStream* done) const { SDL_FreeAudioStream(done); }
+    };
 
-    bool Load();
-    void Unload();
-    void PlayFrom(double seconds, State newState);
-    void RememberPlace();
-    void NoticeEnd();
+    bool IsPlaying() const { return state == State::Looping || state == State::PlayingOnce; }
+    bool PlaysOnce();
+    void Play(State newState);
+    void FitStream();
+    void DecodeAhead(int wanted);
 
     AudioDevice& device;
-    _Mix_Music* music = nullptr;
-    std::string path;  // empty: no file is open
+    // Locked by the device, as SDL's thread uses them too:
+    MusicFile file;
+    std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's form to the device's; none without a device
+    SDL_AudioSpec streamForm{};                           // the device's, as the stream knows it
+    std::vector<std::uint8_t> next;
     State state = State::Stopped;
-    double place = 0;  // seconds
-    int volume = 1000;
+    int volume = SDL_MIX_MAXVOLUME;
 };
 
 }  // namespace prismfall

@@ -1,12 +1,13 @@
-// The sound effects' one voice: a new sound cuts off the old. Used on the audio thread alone.
+// The sound effects' one voice: a new sound cuts off the old. Everything but `MixInto` is used on the audio thread
+// alone.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
+#include <vector>
 
 #include "platform/sdl/AudioDevice.h"
-
-struct Mix_Chunk;
 
 namespace prismfall {
 
@@ -14,14 +15,18 @@ class SdlSound {
   public:
     explicit SdlSound(AudioDevice& soundDevice) : device(soundDevice) {}
 
-    // Plays a complete WAVE file, whose bytes must stay as long as it sounds.
+    // Plays a complete WAVE file; bytes that are none are silence.
     void Play(std::span<const std::byte> wave);
-    bool IsSounding() const;
+    bool IsSounding();
     void Release();
+
+    // Adds what is to be heard next, in the device's form. To be called with the device locked.
+    void MixInto(std::span<std::uint8_t> samples);
 
   private:
     AudioDevice& device;
-    Mix_Chunk* chunk = nullptr;
+    std::vector<std::uint8_t> sound;  // in the device's form; locked by the device, as `place` is
+    std::size_t place = 0;
 };
 
 }  // namespace prismfall

@@ -1,0 +1,39 @@
+// An MP3 file that is being decoded, block by block, without the silence that encoders put around a track. Knows
+// nothing of devices and of time.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
+
+struct mpg123_handle_struct;
+
+namespace prismfall {
+
+class MusicFile {
+  public:
+    // Nothing if the file can be played, else the reason in the player's words. A file that was open is closed.
+    std::string Open(const std::string& path);
+    void Close() { decoder.reset(); }
+    bool IsOpen() const { return decoder != nullptr; }
+
+    // The track's next samples, 16-bit, the channels side by side; they stay until the next call. Nothing at its end,
+    // and from where the file cannot be read any more.
+    std::span<const std::byte> Read();
+    void Rewind();
+
+    int Rate() const { return rate; }  // samples a second
+    int Channels() const { return channels; }
+
+  private:
+    struct Free {
+        void operator()(mpg123_handle_struct* done) const;
+    };
+
+    std::unique_ptr<mpg123_handle_struct, Free> decoder;
+    int rate = 0;
+    int channels = 0;
+};
+
+}  // namespace prismfall
