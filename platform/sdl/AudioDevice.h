@@ -34,8 +34,12 @@ class AudioDevice {
 
     // Keeps `Fill` from being called; the device must be neither opened nor closed meanwhile. Named as std::lock_guard
     // wants it.
-    void lock() const { SDL_LockAudioDevice(id); }
-    void unlock() const { SDL_UnlockAudioDevice(id); }
+    void lock() const {
+        if (IsOpen()) SDL_LockAudioDevice(id);
+    }
+    void unlock() const {
+        if (IsOpen()) SDL_UnlockAudioDevice(id);
+    }
 
   private:
     static void Callback(void* self, std::uint8_t* samples, int bytes);

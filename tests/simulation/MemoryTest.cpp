@@ -1,18 +1,23 @@
-// What the game asks of the heap: nothing in a tick that makes no beam, and no growth in a game that lasts for hours.
+// What the game asks of the heap: nothing in a tick that makes no beam, no growth in a game that lasts for hours,
+// nothing left by any game. PRISMFALL_TEST_HOURS, if it is set, says how long is played for the last of these.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 
 #include "game/GameControl.h"
+#include "game/PuzzleTables.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/PlayerInput.h"
 #include "simulation/Playfield.h"
 #include "tests/simulation/CountedHeap.h"
-#include "tests/support/TestGame.h"
+#include "tests/support/RandomPlayer.h"
 
 namespace prismfall {
 namespace {
+
+constexpr std::int64_t kHour = 3'600'000;      // milliseconds
+constexpr std::size_t kRoomOfLists = 100'000;  // bytes; they keep what their longest game took
 
 // Plays an Arcade game at the speed of level 1 that never ends: it clicks at random, and destroys what comes low.
 class EndlessGame {
@@ -80,7 +85,7 @@ TEST(Memory, ATickThatMakesNoBeamAllocatesNothing) {
 }
 
 TEST(Memory, AGameOfTenHoursStaysSmall) {
-    constexpr int kTicks = 10 * 3600 * 1000 / 75;
+    constexpr int kTicks = 10 * kHour / 75;
     const std::size_t before = heap::liveBytes;
     EndlessGame endless;
     std::size_t most = 0, mostBeams = 0;
@@ -94,6 +99,37 @@ TEST(Memory, AGameOfTenHoursStaysSmall) {
     EXPECT_LT(mostBeams, 1000U);
     RecordProperty("most_bytes", std::to_string(most));
     RecordProperty("most_beams", std::to_string(mostBeams));
+}
+
+// All puzzles, each played for a while and then watched, and Arcade for the rest of the hour.
+void PlayAnHour(RandomPlayer& player) {
+    const std::int64_t end = player.Spent() + kHour;
+    const auto playUntil = [&](std::int64_t moment) {
+        while (player.Main().GameRunning && player.Spent() < moment) player.PlayATick();
+        if (player.Main().GameRunning) player.Leave();
+    };
+    for (const bool isSolution : {false, true}) {
+        for (std::int16_t puzzle = isSolution ? 1 : 2; puzzle <= kPuzzleCount; ++puzzle) {
+            player.StartPuzzle(puzzle, isSolution);
+            playUntil(player.Spent() + 20'000);
+        }
+    }
+    while (player.Spent() < end) {
+        player.StartArcade();
+        playUntil(end);
+    }
+}
+
+TEST(Memory, HoursOfPlayLeaveNothingBehind) {
+    const long hours = FromEnvironment("PRISMFALL_TEST_HOURS", 4);
+    RandomPlayer player(3);
+    PlayAnHour(player);
+    const std::size_t afterAnHour = heap::liveBytes;
+    for (int hour = 2; hour <= hours; ++hour) {
+        PlayAnHour(player);
+        EXPECT_LT(heap::liveBytes, afterAnHour + kRoomOfLists) << "hour " << hour;
+    }
+    EXPECT_GT(player.Games(), hours * 100);
 }
 
 }  // namespace

@@ -3,24 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <random>
 #include <set>
 
-#include "game/GameControl.h"
-#include "game/PuzzleStart.h"
-#include "simulation/BeamRemoval.h"
-#include "simulation/PlayerInput.h"
+#include "game/PuzzleTables.h"
 #include "simulation/Playfield.h"
-#include "tests/support/TestGame.h"
+#include "tests/support/RandomPlayer.h"
 
 namespace prismfall {
 namespace {
-
-long FromEnvironment(const char* name, long fallback) {
-    const char* text = std::getenv(name);
-    return text == nullptr ? fallback : std::atol(text);
-}
 
 bool Holds(const std::vector<CLine*>& beams, const CLine* beam) {
     return std::ranges::find(beams, beam) != beams.end();
@@ -52,66 +42,19 @@ std::string WrongWith(const VMain& main) {
     return {};
 }
 
-class RandomPlayer {
-  public:
-    explicit RandomPlayer(std::uint32_t seed) : random(seed) {
-        main = &game.QuietStore().Load();
-        main->SoundEffects = false;
-    }
-
-    // Starts a game if none is in play, clicks now and then, and lets about one growth tick pass.
-    void PlayATick() {
-        if (main->GameRunning && Number(1, 1000) == 1) CommandExit_Click(*main);  // a puzzle can come to a standstill
-        if (!main->GameRunning) StartGame();
-        if (Chance(12)) Press();
-        game.Machine().Run(game.Machine().Timers().Interval(Timer::LineExtender));
-        game.TakePrinted();
-    }
-
-    const VMain& Main() const { return *main; }
-    int Games() const { return games; }
-
-  private:
-    int Number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); }
-    bool Chance(int percent) { return Number(0, 99) < percent; }
-
-    void StartGame() {
-        ++games;
-        main->StartLevel = static_cast<std::int16_t>(Number(1, 12));
-        if (Chance(50)) return CommandArcade_Click(*main);
-        main->CurrentPuzzle = static_cast<std::int16_t>(Number(2, kPuzzleCount));  // without the tutorial
-        const bool isReplay = Chance(20);
-        StartPuzzleGame(*main, false, isReplay);
-        if (!isReplay || Chance(50)) CmdStart_Click(*main);  // starts it, or takes it over
-    }
-
-    // A bend of a beam that stands on a wall leads out of the field, so that is left out.
-    void Press() {
-        int x = Number(0, 700), y = Number(0, 600);
-        if (!main->Lines.empty() && Chance(90)) {
-            const CLine& beam =
-                *main->Lines[static_cast<std::size_t>(Number(0, static_cast<int>(main->Lines.size()) - 1))];
-            x = beam.XEnd + Number(-9, 9);
-            y = beam.YEnd + Number(-9, 9);
-        }
-        const CLine* hit = FindNearestLine(*main, Saturated(x), Saturated(y));
-        const bool isOnWall = hit != nullptr && (hit->XEnd < kLeftWall || hit->XEnd >= kRightWall);
-        const MouseButton button = Chance(70) && !isOnWall ? MouseButton::Left : MouseButton::Right;
-        Form_MouseDown(*main, button, static_cast<float>(x), static_cast<float>(y));
-        if (!isOnWall && Chance(8)) Form_DblClick(*main);
-    }
-
-    TestGame game;
-    VMain* main;
-    std::mt19937 random;
-    int games = 0;
-};
+void StartAnyGame(RandomPlayer& player) {
+    if (player.Chance(50)) return player.StartArcade();
+    player.StartPuzzle(static_cast<std::int16_t>(player.Number(2, kPuzzleCount)), player.Chance(20));
+}
 
 TEST(RandomPlay, KeepsWhatMustHold) {
     const auto seed = static_cast<std::uint32_t>(FromEnvironment("PRISMFALL_TEST_SEED", 1));
     const long ticks = FromEnvironment("PRISMFALL_TEST_TICKS", 100'000);
     RandomPlayer player(seed);
     for (long tick = 0; tick < ticks; ++tick) {
+        if (player.Main().GameRunning && player.Number(1, 1000) == 1)
+            player.Leave();  // a puzzle can come to a standstill
+        if (!player.Main().GameRunning) StartAnyGame(player);
         player.PlayATick();
         ASSERT_EQ(WrongWith(player.Main()), "") << "PRISMFALL_TEST_SEED=" << seed << ", tick " << tick;
     }
