@@ -50,8 +50,8 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
     for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
     SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
     // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
-    // until the first picture stands.
-    setenv("XCOMPOSEFILE", "/dev/null", 0);
+    // until the first picture stands. Wayland's keyboards would complain of the empty table.
+    if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
     PictureStore early(pictures);
     early.ReadAhead(kEarlyPictures);
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
@@ -69,7 +69,12 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
 SdlPlatform::SdlPlatform(PictureStore pictures)
     : desktop(
           std::move(pictures), [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
-      settings(SettingsFile::UsersFile()) {}
+      settings(SettingsFile::UsersFile()) {
+    WhenDisplayIsLost([this] {
+        AskToUnload();
+        std::_Exit(EXIT_SUCCESS);
+    });
+}
 
 SdlPlatform::~SdlPlatform() = default;
 
@@ -78,9 +83,13 @@ void SdlPlatform::Run(Window& mainWindow) {
     loop.Run();
 }
 
-void SdlPlatform::CloseProgram() {
+void SdlPlatform::AskToUnload() {
     if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
     if (main != nullptr && main->on.unload) main->on.unload();
+}
+
+void SdlPlatform::CloseProgram() {
+    AskToUnload();
     EndProgram();
 }
 

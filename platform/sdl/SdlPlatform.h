@@ -69,6 +69,7 @@ class SdlPlatform final : public Platform {
   private:
     explicit SdlPlatform(PictureStore pictures);
 
+    void AskToUnload();
     void CloseProgram();
 
     SdlDesktop desktop;

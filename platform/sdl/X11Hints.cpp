@@ -9,6 +9,7 @@
 #include <array>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -17,6 +18,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <thread>
+#include <utility>
 
 namespace prismfall {
 
@@ -128,6 +131,16 @@ int IgnoreLateWakeUp(Display* display, XErrorEvent* error) {
     return otherErrors(display, error);
 }
 
+std::function<void()> endWithoutDisplay;
+std::thread::id endingThread;
+
+// SDL wakes its loop from other threads by a connection of their own. One that finds it broken waits for the end.
+int MeetDisplayLoss(Display*) {
+    while (std::this_thread::get_id() != endingThread) std::this_thread::sleep_for(std::chrono::hours(1));
+    endWithoutDisplay();
+    return 0;
+}
+
 // The block that the desktop's settings daemon publishes, if there is one. The daemon may go at any moment, so errors
 // of the window server are ignored here.
 std::string ReadSettingsBlock(Display* display) {
@@ -172,6 +185,12 @@ float ScaleOf(float dotsPerInch) {
 }  // namespace
 
 void BearLateWakeUps() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp); }
+
+void WhenDisplayIsLost(std::function<void()> end) {
+    endWithoutDisplay = std::move(end);
+    endingThread = std::this_thread::get_id();
+    XSetIOErrorHandler(MeetDisplayLoss);
+}
 
 DesktopFacts AskDesktop() {
     DesktopFacts facts;

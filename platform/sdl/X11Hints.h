@@ -2,6 +2,8 @@
 // happens and the usual values come back.
 #pragma once
 
+#include <functional>
+
 struct SDL_Window;
 
 namespace prismfall {
@@ -18,6 +20,11 @@ DesktopFacts AskDesktop();
 // it after a dialog that was that window has gone, and answers with an error that would end the program. To be called
 // once.
 void BearLateWakeUps();
+
+// The window server can go before the game does: at the end of a desktop session, or by a fault of its own. `end` is
+// then called on the thread that calls this now, within whatever that was doing; it must not touch any window nor come
+// back. To be called once.
+void WhenDisplayIsLost(std::function<void()> end);
 
 // For a window that is not shown yet. A main window can be closed, moved and minimised; a dialog, which belongs to
 // `owner` and keeps the input from it, cannot be minimised.

@@ -33,14 +33,18 @@ class WindowTest(unittest.TestCase):
 
     def install(self, pictures=ASSETS / "pictures"):
         """The program in a folder where it finds its pictures, wherever it was built. Without `pictures` it finds none."""
-        root = pathlib.Path(tempfile.mkdtemp(prefix="prismfall-installed-"))
-        self.addCleanup(shutil.rmtree, root, ignore_errors=True)
+        root = self.folder()
         (root / "build/test").mkdir(parents=True)
         (root / "assets").mkdir()
         shutil.copy(self.program, root / "build/test/prismfall")
         if pictures:
             (root / "assets/pictures").symlink_to(pictures)
         return root / "build/test/prismfall"
+
+    def folder(self):
+        folder = tempfile.TemporaryDirectory(prefix="prismfall-test-")
+        self.addCleanup(folder.cleanup)
+        return pathlib.Path(folder.name)
 
     def settings(self, values=None):
         settings = game.Settings(values)

@@ -1,6 +1,8 @@
 """What outlasts a run, and what does not: options, scores, and every way in which the program can end."""
 import signal
 
+import desktop
+import game
 import harness
 import layout
 from desktop import wait_for
@@ -102,6 +104,18 @@ class Ends(harness.WindowTest):
                 self.assertEqual(end(run), 0)
                 self.assertEqual(sum(len(values) for values in settings.read().values()), ALL_VALUES)
                 self.assertEqual(run.said(), "")
+
+    def test_the_end_of_the_display_saves(self):
+        settings = self.settings(later_run())
+        display = desktop.Desktop()
+        self.addCleanup(display.stop)
+        run = game.Game(display, self.install(), settings, harness.ASSETS)
+        run.press("CommandArcade")
+        run.wait_for_motion()
+        display.processes[0].terminate()
+        self.assertEqual(run.wait_for_end(), 0)
+        self.assertEqual(sum(len(values) for values in settings.read().values()), ALL_VALUES)
+        self.assertEqual(run.said(), "")
 
     def test_a_killed_game_leaves_the_settings_alone(self):
         settings = self.settings(later_run(StartLevel="5"))

@@ -1,8 +1,10 @@
-"""Machines on which something is missing: a window manager, a display, a sound device, files, room for the settings."""
+"""Machines on which something is missing: a window manager, a display, a sound device, files, room for the settings, or
+time."""
 import os
 import pathlib
+import signal
 import subprocess
-import tempfile
+import time
 
 import harness
 import layout
@@ -29,11 +31,6 @@ class PlainDisplay(harness.WindowTest):
 
 
 class Machine(harness.WindowTest):
-    def empty_folder(self):
-        folder = tempfile.TemporaryDirectory(prefix="prismfall-empty-")
-        self.addCleanup(folder.cleanup)
-        return pathlib.Path(folder.name)
-
     def check_sentence(self, text):
         """One line, a whole sentence."""
         self.assertEqual(len(text.splitlines()), 1, text)
@@ -60,7 +57,7 @@ class Machine(harness.WindowTest):
         self.end_in_menu(run)
 
     def test_no_music(self):
-        run = self.start(self.settings(later_run(Music="True")), folder=self.empty_folder())
+        run = self.start(self.settings(later_run(Music="True")), folder=self.folder())
         box = run.desktop.window(layout.ERROR, 5)
         self.assertIn(hex(run.main.number), box.property("WM_TRANSIENT_FOR"))
         _, _, width, height = box.place()
@@ -80,6 +77,28 @@ class Machine(harness.WindowTest):
         run.press("CommandExit")
         self.assertEqual(run.wait_for_end(), 0)
         self.check_sentence(run.said())
+
+    def test_no_fonts(self):
+        fonts = self.folder() / "fonts.conf"
+        fonts.write_text("<fontconfig><dir>/nowhere</dir></fontconfig>")
+        run = self.start(environment={"FONTCONFIG_FILE": str(fonts)})
+        self.play(run)
+        run.open_dialog("CmdScores", layout.SCORES).use_close_box()
+        run.wait_for_close(layout.SCORES)
+        run.press("CommandExit")
+        self.assertEqual(run.wait_for_end(), 0)
+        self.check_sentence(run.said())
+
+    def test_settings_of_a_later_version(self):
+        later = {"Gravity": "0.5", "StartLevel": "31", "CurrentPuzzle": "99"}
+        settings = self.settings(later_run(**later) | {"Planets": {"Saturn": "8 rings"}})
+        run = self.start(settings)
+        self.play(run)
+        run.press("CommandPuzzle")
+        wait_for(lambda: not run.in_main_menu(), 3, "the puzzle menu")
+        self.assertEqual((run.kill(signal.SIGTERM), run.said()), (0, ""))
+        kept = settings.read()
+        self.assertEqual((kept["General"]["Gravity"], kept["Planets"]), ("0.5", {"Saturn": "8 rings"}))
 
     def test_no_folder_for_settings(self):
         settings = self.settings()
@@ -121,6 +140,43 @@ class Machine(harness.WindowTest):
         self.assertEqual(settings.file.read_bytes(), before)
         self.assertEqual(os.listdir(settings.file.parent), [settings.file.name])
         self.check_sentence(run.said())
+
+
+class Time(harness.WindowTest):
+    def moves(self, run, seconds=1):
+        """At how many places the lowest head is seen within some seconds."""
+        places = set()
+        holds_for(lambda: places.add(run.lowest_head()) or True, seconds)
+        return len(places)
+
+    def play(self, **options):
+        run = self.start(self.settings(later_run(StartLevel="1")), **options)
+        run.press("CommandArcade")
+        run.wait_for_lowest_head(80)
+        return run
+
+    def test_what_a_sleeping_machine_misses_is_not_made_up_for(self):
+        run = self.play()
+        run.process.send_signal(signal.SIGSTOP)
+        _, before = run.lowest_head()
+        time.sleep(4)
+        run.process.send_signal(signal.SIGCONT)
+        self.assertGreater(self.moves(run), 3)
+        _, after = run.lowest_head()
+        self.assertLess(after - before, 100, "the way of one second, not of five")
+
+    def test_the_clock_may_jump(self):
+        libraries = sorted(pathlib.Path("/usr/lib").glob("*/faketime/libfaketime.so.1"))
+        if not libraries:
+            self.skipTest("the package faketime is missing")
+        clock = self.folder() / "clock"
+        clock.write_text("+0")
+        faked = {"LD_PRELOAD": str(libraries[0]), "FAKETIME_TIMESTAMP_FILE": str(clock), "FAKETIME_NO_CACHE": "1"}
+        run = self.play(environment=faked | {"FAKETIME_DONT_FAKE_MONOTONIC": "1"})
+        for jump in ("+1d", "-10y"):
+            clock.write_text(jump)
+            self.assertGreater(self.moves(run), 3, jump)
+        self.assertEqual(run.kill(signal.SIGTERM), 0)
 
 
 if __name__ == "__main__":
