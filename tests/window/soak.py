@@ -79,7 +79,7 @@ class Player:
         self.actions += ACTIONS_AT_ONCE
         self.desktop.mouse(*words)
         if self.random.random() < 0.02:
-            desktop.Window(self.desktop, int(number)).use_close_box()
+            self.desktop.output("wmctrl", "-i", "-c", number)
 
     def settings(self):
         if self.random.random() < 0.2:
