@@ -1,4 +1,4 @@
-// Music: SDL's thread asks for the next samples and gets them decoded on the spot, a few frames of the file at a time.
+// Music: SDL's thread asks for the next samples and gets them decoded on the spot, half a second at a time.
 #include "platform/sdl/SdlMusic.h"
 
 #include <algorithm>
@@ -10,8 +10,7 @@ namespace prismfall {
 namespace {
 
 constexpr int kFullVolume = 1000;
-constexpr int kDecodedAhead =
-    12;  // times what is asked for; a block of frames at a time costs half of what single ones do
+constexpr int kDecodedAhead = 12;  // times what is asked for; many frames at once cost half of what single ones do
 
 }  // namespace
 
@@ -109,12 +108,13 @@ void SdlMusic::DecodeAhead(int wanted) {
     while (SDL_AudioStreamAvailable(stream.get()) < wanted * kDecodedAhead) {
         const std::span<const std::byte> block = file.Read();
         if (!block.empty()) {
-            SDL_AudioStreamPut(stream.get(), block.data(), static_cast<int>(block.size()));
+            if (SDL_AudioStreamPut(stream.get(), block.data(), static_cast<int>(block.size())) != 0) return;
             rewound = false;
             continue;
         }
-        if (state == State::PlayingOnce || rewound) SDL_AudioStreamFlush(stream.get());
-        if (state == State::PlayingOnce || rewound || SDL_AudioStreamAvailable(stream.get()) >= wanted) return;
+        const bool isOver = state == State::PlayingOnce || rewound;
+        if (isOver) SDL_AudioStreamFlush(stream.get());
+        if (isOver || SDL_AudioStreamAvailable(stream.get()) >= wanted) return;
         file.Rewind();
         rewound = true;
     }
