@@ -121,7 +121,7 @@ void PlayAnHour(RandomPlayer& player) {
 }
 
 TEST(Memory, HoursOfPlayLeaveNothingBehind) {
-    const long hours = FromEnvironment("PRISMFALL_TEST_HOURS", 4);
+    const long hours = FromEnvironment("PRISMFALL_TEST_HOURS", 2);
     RandomPlayer player(3);
     PlayAnHour(player);
     const std::size_t afterAnHour = heap::liveBytes;
