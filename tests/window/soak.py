@@ -74,7 +74,7 @@ class Player:
         if not windows:
             return self.restore()
         number, title = self.random.choice(windows[-2:])
-        self.windows_seen.add(title)
+        self.windows_seen.add(title or "a window that has just gone")
         words = [word for _ in range(ACTIONS_AT_ONCE) for word in self.words_for(number, title)]
         self.actions += ACTIONS_AT_ONCE
         self.desktop.mouse(*words)
@@ -82,25 +82,36 @@ class Player:
             self.desktop.output("wmctrl", "-i", "-c", number)
 
     def settings(self):
-        if self.random.random() < 0.2:
-            return game.Settings()
-        return game.Settings(
-            game.later_run(
-                Music=self.random.choice(("True", "False")),
-                StartLevel=str(self.random.randint(1, 12)),
-                CurrentPuzzle=str(self.random.randint(1, 45)),
-                MaxPuzzle=str(self.random.randint(1, 45)),
-            )
+        values = game.later_run(
+            Music=self.random.choice(("True", "False")), StartLevel=str(self.random.randint(1, 12))
         )
+        solved = {f"Puzzle{puzzle}": str(self.random.random() < 0.5) for puzzle in range(1, 46)}
+        return game.Settings(values | {"SolvedPuzzles": solved})
+
+    def lose_a_puzzle(self, run):
+        """Without a plan a puzzle seldom comes to its end. So it is started, and its beams are run to the ground."""
+        run.press("CommandPuzzle")
+        time.sleep(0.3)
+        run.main.click(*layout.cell(self.random.randint(2, 9)))
+        time.sleep(0.3)
+        run.press("CmdStart")
+        end = time.monotonic() + 20
+        while run.is_running() and not self.desktop.windows(layout.RESULT) and time.monotonic() < end:
+            left, top, width, height = layout.PLAYFIELD
+            spot = left + self.random.randrange(width), top + self.random.randrange(height)
+            run.main.click(*spot, button=3, times=5)
 
     def play(self, end):
         """One run of the program. Gives what is wrong with it, or nothing."""
-        settings = self.settings()
+        is_first = self.random.random() < 0.2
+        settings = game.Settings() if is_first else self.settings()
         leaks = {"LSAN_OPTIONS": f"suppressions={HERE / 'leaks.txt'}:print_suppressions=0"}
         run = game.Game(self.desktop, self.program, settings, ASSETS, environment=leaks, shows_up=False)
         self.runs += 1
         stop = min(end, time.monotonic() + LONGEST_RUN)
-        run.wait_for_main_window()
+        run.main = run.wait_for_main_window()
+        if not is_first and self.random.random() < 0.5:
+            self.lose_a_puzzle(run)
         while run.is_running() and time.monotonic() < stop:
             self.act()
         if run.is_running():
