@@ -50,9 +50,12 @@ bool AudioDevice::Open() {
                                  SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_CHANNELS_CHANGE);
         if (!IsOpen()) SDL_QuitSubSystem(SDL_INIT_AUDIO);
     }
-    if (IsOpen()) SDL_PauseAudioDevice(id, 0);
-    failedAt = IsOpen() ? std::nullopt : std::optional(now);
-    return IsOpen();
+    if (!IsOpen()) {
+        failedAt = now;
+        return false;
+    }
+    SDL_PauseAudioDevice(id, 0);
+    return true;
 }
 
 void AudioDevice::Close() {

@@ -51,7 +51,7 @@ class SdlMusic {
     AudioDevice& device;
     // Locked by the device, as SDL's thread uses them too:
     MusicFile file;
-    std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's form to the device's; none without a device
+    std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's form to the device's; none before its first
     SDL_AudioSpec streamForm{};                           // the device's, as the stream knows it
     std::vector<std::uint8_t> next;
     State state = State::Stopped;

@@ -71,7 +71,7 @@ SdlPlatform::SdlPlatform(PictureStore pictures)
           std::move(pictures), [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
       settings(SettingsFile::UsersFile()) {
     WhenDisplayIsLost([this] {
-        AskToUnload();
+        if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
         std::_Exit(EXIT_SUCCESS);
     });
 }
@@ -83,13 +83,9 @@ void SdlPlatform::Run(Window& mainWindow) {
     loop.Run();
 }
 
-void SdlPlatform::AskToUnload() {
+void SdlPlatform::CloseProgram() {
     if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
     if (main != nullptr && main->on.unload) main->on.unload();
-}
-
-void SdlPlatform::CloseProgram() {
-    AskToUnload();
     EndProgram();
 }
 

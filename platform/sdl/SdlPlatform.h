@@ -69,7 +69,6 @@ class SdlPlatform final : public Platform {
   private:
     explicit SdlPlatform(PictureStore pictures);
 
-    void AskToUnload();
     void CloseProgram();
 
     SdlDesktop desktop;

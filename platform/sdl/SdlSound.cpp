@@ -32,7 +32,7 @@ std::vector<std::uint8_t> Converted(std::span<const std::byte> wave, const SDL_A
     conversion.buf = sound.data();
     conversion.len = static_cast<int>(bytes);
     if (SDL_ConvertAudio(&conversion) != 0) return {};
-    sound.resize(static_cast<std::size_t>(conversion.needed != 0 ? conversion.len_cvt : conversion.len));
+    sound.resize(static_cast<std::size_t>(conversion.len_cvt));
     return sound;
 }
 
