@@ -4,9 +4,9 @@
 #include <iostream>
 #include <string>
 
-#include "platform/sdl/SdlPlatform.h"
-#include "screens/MainWindow.h"
-#include "simulation/VMain.h"
+#include "backends/sdl/SdlPlatform.h"
+#include "game/MainWindow.h"
+#include "state/VMain.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

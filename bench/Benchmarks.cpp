@@ -4,12 +4,12 @@
 #include <array>
 #include <ostream>
 
+#include "backends/headless/HeadlessPlatform.h"
 #include "bench/BareField.h"
-#include "platform/headless/HeadlessPlatform.h"
+#include "game/GrowthTick.h"
+#include "game/PlayerInput.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/CollisionDetection.h"
-#include "simulation/GrowthTick.h"
-#include "simulation/PlayerInput.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall::bench {

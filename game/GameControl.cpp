@@ -12,8 +12,8 @@
 #include "screens/SettingsStore.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
-#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
+#include "state/GameModes.h"
 
 namespace prismfall {
 

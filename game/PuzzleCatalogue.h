@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

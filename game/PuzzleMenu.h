@@ -2,7 +2,7 @@
 // the page. The click on a preview is with the other clicks on the playfield (simulation/PlayerInput).
 #pragma once
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

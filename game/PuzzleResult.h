@@ -2,7 +2,7 @@
 // solved one, is with the two ticks.
 #pragma once
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

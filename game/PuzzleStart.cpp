@@ -8,8 +8,8 @@
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/CollisionDetection.h"
-#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
+#include "state/GameModes.h"
 
 namespace prismfall {
 

@@ -1,7 +1,7 @@
 // Turns a row of the catalogue into a game in progress: to be played, or to be watched being solved.
 #pragma once
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

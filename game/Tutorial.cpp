@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "game/PlayerInput.h"
 #include "simulation/BeamSpawning.h"
-#include "simulation/PlayerInput.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {

@@ -1,7 +1,7 @@
 // The dialog VAbout: the game's manual and credits on one fixed page.
 #pragma once
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

@@ -2,7 +2,7 @@
 // logo. It touches neither the music nor the game's timers nor the beams: whoever leaves a game has stopped those.
 #pragma once
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

@@ -2,7 +2,7 @@
 // written as a whole when the program ends; in between all of it lives in the state alone.
 #pragma once
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

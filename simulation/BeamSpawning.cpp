@@ -6,8 +6,8 @@
 #include <cmath>
 #include <optional>
 
-#include "simulation/GameModes.h"
 #include "simulation/Playfield.h"
+#include "state/GameModes.h"
 
 namespace prismfall {
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "simulation/VMain.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

@@ -6,9 +6,9 @@
 #include <ostream>
 #include <string_view>
 
-#include "platform/headless/HeadlessPlatform.h"
-#include "platform/sdl/SettingsText.h"
-#include "screens/MainWindow.h"
+#include "backends/headless/HeadlessPlatform.h"
+#include "backends/sdl/settings/SettingsText.h"
+#include "game/MainWindow.h"
 #include "screens/SettingsStore.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "game/GrowthTick.h"
 #include "game/PuzzleStart.h"
-#include "simulation/GrowthTick.h"
 #include "tests/support/TestGame.h"
 
 namespace prismfall {

@@ -4,11 +4,11 @@
 
 #include <random>
 
+#include "game/GrowthTick.h"
+#include "game/PlayerInput.h"
+#include "game/RemovalTick.h"
 #include "simulation/BeamRemoval.h"
-#include "simulation/GrowthTick.h"
-#include "simulation/PlayerInput.h"
 #include "simulation/Playfield.h"
-#include "simulation/RemovalTick.h"
 #include "tests/support/TestGame.h"
 
 namespace prismfall {

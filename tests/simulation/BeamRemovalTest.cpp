@@ -6,8 +6,8 @@
 #include <random>
 #include <set>
 
+#include "game/RemovalTick.h"
 #include "simulation/Playfield.h"
-#include "simulation/RemovalTick.h"
 #include "tests/support/TestGame.h"
 
 namespace prismfall {

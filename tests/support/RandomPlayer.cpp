@@ -4,8 +4,8 @@
 #include <cstdlib>
 
 #include "game/GameControl.h"
+#include "game/PlayerInput.h"
 #include "game/PuzzleStart.h"
-#include "simulation/PlayerInput.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {

@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "screens/MainWindow.h"
+#include "game/MainWindow.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {

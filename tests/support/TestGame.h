@@ -7,8 +7,8 @@
 #include <sstream>
 #include <string>
 
-#include "platform/headless/HeadlessPlatform.h"
-#include "simulation/VMain.h"
+#include "backends/headless/HeadlessPlatform.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/headless/PrintFormat.h"
+#include "backends/headless/PrintFormat.h"
 #include "tools/headless/HeadlessDriver.h"
 #include "tools/headless/ScriptWords.h"
 

@@ -8,11 +8,11 @@
 #include <string>
 
 #include "game/GameControl.h"
+#include "game/MainWindow.h"
+#include "game/PlayerInput.h"
 #include "game/PuzzleStart.h"
 #include "game/Tutorial.h"
-#include "screens/MainWindow.h"
 #include "simulation/BeamRemoval.h"
-#include "simulation/PlayerInput.h"
 #include "tools/headless/StateDump.h"
 #include "tools/headless/TimerNames.h"
 

@@ -7,8 +7,8 @@
 #include <ostream>
 #include <string_view>
 
-#include "platform/headless/HeadlessPlatform.h"
-#include "simulation/VMain.h"
+#include "backends/headless/HeadlessPlatform.h"
+#include "state/VMain.h"
 #include "tools/headless/ScriptWords.h"
 
 namespace prismfall {

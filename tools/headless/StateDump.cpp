@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/headless/PrintFormat.h"
+#include "backends/headless/PrintFormat.h"
 #include "tools/headless/TimerNames.h"
 
 namespace prismfall {

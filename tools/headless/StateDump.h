@@ -3,8 +3,8 @@
 
 #include <ostream>
 
-#include "platform/headless/HeadlessPlatform.h"
-#include "simulation/VMain.h"
+#include "backends/headless/HeadlessPlatform.h"
+#include "state/VMain.h"
 
 namespace prismfall {
 

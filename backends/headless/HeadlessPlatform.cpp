@@ -1,0 +1,199 @@
+// See HeadlessPlatform.h.
+#include "backends/headless/HeadlessPlatform.h"
+
+#include <filesystem>
+
+#include "backends/headless/PrintFormat.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr int kFirstSoundResource = 101;  // a sound's number is what its resource id stands above it
+constexpr int kCannotOpen = 1;
+
+// A nominal frame, so that the places of dialogs are the same everywhere.
+constexpr int kFrameWidth = 4;
+constexpr int kFrameHeight = 27;
+
+// A press and a click of the left button.
+void Answer(Window& dialog, const std::string& name) {
+    Element* element = dialog.Find(name);
+    if (element == nullptr || !IsShown(*element) || !element->enabled || !HasClick(*element)) return;
+    if (dialog.on.elementDown) dialog.on.elementDown(*element, MouseButton::Left, 0, 0);
+    if (dialog.on.elementClick) dialog.on.elementClick(*element);
+}
+
+}  // namespace
+
+void HeadlessPlatform::Run(std::int64_t milliseconds) {
+    const std::int64_t end = timers.Now() + milliseconds;
+    FireDue(end);
+    timers.MoveTo(end);
+}
+
+void HeadlessPlatform::Fire(Timer timer) {
+    const VirtualTimers::Running running(timers, timer);
+    tick(timer);
+}
+
+void HeadlessPlatform::PutSetting(const std::string& section, const std::string& key, const std::string& text) {
+    store[{section, key}] = text;
+}
+
+void HeadlessPlatform::BeginRun() {
+    timers.StopAll();
+    surface.Clear();
+    places.clear();
+    hasEnded = false;
+}
+
+void HeadlessPlatform::FireDue(std::int64_t until) {
+    while (!hasEnded) {
+        const std::optional<Timer> timer = timers.NextDue(until);
+        if (!timer) return;
+        timers.TakeDue(*timer);
+        Fire(*timer);
+    }
+}
+
+// --- Surface.
+
+void HeadlessPlatform::PrintStroke(const char* operation, int x1, int y1, int x2, int y2, Colour colour, int width) {
+    if (!isPaintPrinted) return;
+    out << operation << ' ' << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2 << ' ' << ColourName(colour) << ' ' << width
+        << '\n';
+}
+
+void HeadlessPlatform::SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) {
+    PrintStroke("line", x1, y1, x2, y2, colour, width);
+    surface.Line(x1, y1, x2, y2, colour, width);
+}
+
+void HeadlessPlatform::SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) {
+    PrintStroke("box", x1, y1, x2, y2, colour, width);
+    surface.Box(x1, y1, x2, y2, colour, width);
+}
+
+void HeadlessPlatform::SurfaceRestore(int x1, int y1, int x2, int y2) {
+    if (isPaintPrinted) out << "restore " << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2 << '\n';
+    surface.Restore(x1, y1, x2, y2);
+}
+
+void HeadlessPlatform::SurfaceClear() {
+    if (isPaintPrinted) out << "clear\n";
+    surface.Clear();
+}
+
+// --- Windows.
+
+void HeadlessPlatform::Show(Window& window) {
+    window.visible = true;
+    if (window.on.activate) window.on.activate();
+}
+
+void HeadlessPlatform::Hide(Window& window) { window.visible = false; }
+
+bool HeadlessPlatform::ShowModally(Window& dialog) {
+    out << "dialog " << DialogTitle(dialog) << '\n';
+    dialog.visible = true;
+    if (dialog.on.activate) dialog.on.activate();
+    while (dialog.visible && !queuedAnswers.empty()) {
+        const std::string name = std::move(queuedAnswers.front());
+        queuedAnswers.pop_front();
+        Answer(dialog, name);
+    }
+    const bool wasHidden = !dialog.visible;
+    dialog.visible = false;
+    return wasHidden;
+}
+
+Extent HeadlessPlatform::OuterSize(const Window& window) {
+    return {window.innerWidth + kFrameWidth, window.innerHeight + kFrameHeight};
+}
+
+Extent HeadlessPlatform::InnerSize(const Window& window) { return {window.innerWidth, window.innerHeight}; }
+
+Place HeadlessPlatform::Position(const Window& window) {
+    const auto place = places.find(&window);
+    return place == places.end() ? Place{} : place->second;
+}
+
+void HeadlessPlatform::SetOuterSize(Window& window, Extent size) {
+    window.innerWidth = size.width - kFrameWidth;
+    window.innerHeight = size.height - kFrameHeight;
+}
+
+void HeadlessPlatform::SetPosition(Window& window, Place place) { places[&window] = place; }
+
+void HeadlessPlatform::ShowMessageBox(std::string_view text) { out << "messagebox " << text << '\n'; }
+
+void HeadlessPlatform::EndProgram() {
+    out << "end\n";
+    hasEnded = true;
+}
+
+// --- Timers, time and chance.
+
+void HeadlessPlatform::SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
+
+void HeadlessPlatform::StartTimer(Timer timer) { timers.Start(timer); }
+
+void HeadlessPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
+
+void HeadlessPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
+
+void HeadlessPlatform::Yield() {
+    timers.MoveTo(timers.Now() + 1);
+    FireDue(timers.Now());
+}
+
+double HeadlessPlatform::Random() {
+    if (!queuedRandoms.empty()) {
+        const double number = queuedRandoms.front();
+        queuedRandoms.pop_front();
+        return number;
+    }
+    constexpr std::uint32_t kRange = 1U << 31U;
+    generator = (generator * 1103515245U + 12345U) % kRange;
+    return static_cast<double>(generator) / kRange;
+}
+
+// --- Settings.
+
+std::string HeadlessPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
+                                          std::string_view fallback) {
+    const auto value = store.find({std::string(section), std::string(key)});
+    return value == store.end() ? std::string(fallback) : value->second;
+}
+
+void HeadlessPlatform::WriteSettings(std::string_view, std::span<const SettingValue> values) {
+    for (const SettingValue& value : values) PutSetting(value.section, value.key, value.text);
+}
+
+// --- Sound and music.
+
+void HeadlessPlatform::PlayWave(Wave wave, bool wait) {
+    out << "sound " << wave.id - kFirstSoundResource << (wait ? " sync" : " async") << '\n';
+}
+
+void HeadlessPlatform::MusicClose() { out << "music close\n"; }
+
+int HeadlessPlatform::MusicOpen(const std::string& path) {
+    out << "music open \"" << std::filesystem::path(path).filename().string() << "\"\n";
+    return isMusicPresent ? 0 : kCannotOpen;
+}
+
+void HeadlessPlatform::MusicSetVolume(int volume) { out << "music volume " << volume << '\n'; }
+
+void HeadlessPlatform::MusicPlayLooping() { out << "music play\n"; }
+
+void HeadlessPlatform::MusicResume() { out << "music resume\n"; }
+
+void HeadlessPlatform::MusicPause() { out << "music pause\n"; }
+
+void HeadlessPlatform::MusicStop() { out << "music stop\n"; }
+
+std::string HeadlessPlatform::MusicFailureText(int) { return "cannot open"; }
+
+}  // namespace prismfall

@@ -1,0 +1,104 @@
+// A machine that exists in memory alone: a virtual clock, a settings store that outlives the program, queued random
+// numbers and clicks, and a line of text for everything that the game does to the outside. It runs the whole game
+// without a window, the same way on every machine.
+#pragma once
+
+#include <array>
+#include <deque>
+#include <map>
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "backends/headless/VirtualTimers.h"
+#include "platform/Platform.h"
+#include "platform/Surface.h"
+
+namespace prismfall {
+
+class HeadlessPlatform : public Platform {
+  public:
+    // What happens is written to `events`, which must outlive the platform.
+    explicit HeadlessPlatform(std::ostream& events) : out(events) {}
+
+    // --- For whoever drives it.
+
+    // Lets time pass until `milliseconds` from now; handlers that yield may carry the clock further.
+    void Run(std::int64_t milliseconds);
+    // Calls a timer's handler now, as a running handler, and leaves its due time alone.
+    void Fire(Timer timer);
+    void QueueRandom(double number) { queuedRandoms.push_back(number); }
+    void QueueAnswer(std::string element) { queuedAnswers.push_back(std::move(element)); }
+    void SetMusicPresent(bool isPresent) { isMusicPresent = isPresent; }
+    void SetPainting(bool isPrinted) { isPaintPrinted = isPrinted; }
+    void PutSetting(const std::string& section, const std::string& key, const std::string& text);
+    // Forgets what belongs to one run of the program: timers and surface. Clock, generator, queues and store go on.
+    void BeginRun();
+    bool HasEnded() const { return hasEnded; }
+
+    const VirtualTimers& Timers() const { return timers; }
+    const std::map<std::pair<std::string, std::string>, std::string>& Store() const { return store; }
+    Surface& Painted() { return surface; }
+
+    // --- Platform.
+
+    void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
+    void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override;
+    void SurfaceRestore(int x1, int y1, int x2, int y2) override;
+    void SurfaceClear() override;
+
+    void Show(Window& window) override;
+    void Hide(Window& window) override;
+    bool ShowModally(Window& dialog) override;
+    Extent OuterSize(const Window& window) override;
+    Extent InnerSize(const Window& window) override;
+    Place Position(const Window& window) override;
+    void SetOuterSize(Window& window, Extent size) override;
+    void SetPosition(Window& window, Place place) override;
+    void ShowMessageBox(std::string_view text) override;
+    void EndProgram() override;
+
+    void SetTickHandler(std::function<void(Timer)> handler) override;
+    void StartTimer(Timer timer) override;
+    void StopTimer(Timer timer) override;
+    void SetTimerInterval(Timer timer, int milliseconds) override;
+
+    void Yield() override;
+    std::int64_t Clock() override { return timers.Now(); }
+    double Random() override;
+    void SeedRandomFromClock() override {}
+
+    std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
+                            std::string_view fallback) override;
+    void WriteSettings(std::string_view application, std::span<const SettingValue> values) override;
+
+    void PlayWave(Wave wave, bool wait) override;
+
+    void MusicClose() override;
+    int MusicOpen(const std::string& path) override;
+    void MusicSetVolume(int volume) override;
+    void MusicPlayLooping() override;
+    void MusicResume() override;
+    void MusicPause() override;
+    void MusicStop() override;
+    std::string MusicFailureText(int code) override;
+
+  private:
+    void PrintStroke(const char* operation, int x1, int y1, int x2, int y2, Colour colour, int width);
+    void FireDue(std::int64_t until);
+
+    std::ostream& out;
+    Surface surface;
+    VirtualTimers timers;
+    std::function<void(Timer)> tick;
+    std::deque<double> queuedRandoms;
+    std::deque<std::string> queuedAnswers;
+    std::uint32_t generator = 1;
+    std::map<std::pair<std::string, std::string>, std::string> store;
+    std::map<const Window*, Place> places;
+    bool isMusicPresent = true;
+    bool isPaintPrinted = false;
+    bool hasEnded = false;
+};
+
+}  // namespace prismfall

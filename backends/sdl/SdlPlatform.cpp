@@ -1,0 +1,239 @@
+// Starting SDL, the life of windows, and the way of every other call to the class that knows how.
+#include "backends/sdl/SdlPlatform.h"
+
+#include <SDL.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "backends/sdl/desktop/MessageBox.h"
+#include "backends/sdl/desktop/SignalWatch.h"
+#include "backends/sdl/desktop/X11Hints.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr Extent kNominalFrame{4, 27};  // both sides together
+
+struct Hint {
+    const char* name;
+    const char* value;
+};
+
+constexpr std::array<Hint, 8> kHints = {{
+    {SDL_HINT_APP_NAME, "Prismfall"},
+    {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
+    {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
+    // The click that brings the window to the front is a click of the game as well.
+    {SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1"},
+    // The desktop holds the pointer from a press to its release anyway; asking for it takes four more answers a click.
+    {SDL_HINT_MOUSE_AUTO_CAPTURE, "0"},
+    {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
+    {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
+}};
+
+// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment goes before it.
+// Where there can be no Wayland the library is not asked, since it complains on standard error.
+const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
+
+// The largest pictures of the first screen, read while the display is being opened.
+constexpr std::array<std::string_view, 2> kEarlyPictures = {"Background", "ImagePrismfall"};
+
+}  // namespace
+
+std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pictures, std::string& failure) {
+    WatchEndSignals();
+    SDL_SetMainReady();
+    for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
+    // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
+    // until the first picture stands. Wayland's keyboards would complain of the empty table.
+    if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
+    PictureStore early(pictures);
+    early.ReadAhead(kEarlyPictures);
+    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+        failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
+        return nullptr;
+    }
+    // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
+    if (const char* driver = SDL_GetCurrentVideoDriver(); driver != nullptr && std::strcmp(driver, "x11") == 0)
+        SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    BearLateWakeUps();
+    SDL_StopTextInput();
+    return std::unique_ptr<SdlPlatform>(new SdlPlatform(std::move(early)));
+}
+
+SdlPlatform::SdlPlatform(PictureStore pictures)
+    : desktop(
+          std::move(pictures), [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
+      settings(SettingsFile::UsersFile()) {
+    WhenDisplayIsLost([this] {
+        if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
+        std::_Exit(EXIT_SUCCESS);
+    });
+}
+
+SdlPlatform::~SdlPlatform() = default;
+
+void SdlPlatform::Run(Window& mainWindow) {
+    if (!mainWindow.visible) Show(mainWindow);
+    loop.Run();
+}
+
+void SdlPlatform::CloseProgram() {
+    if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
+    if (main != nullptr && main->on.unload) main->on.unload();
+    EndProgram();
+}
+
+// Handlers may stand below this call, on data that the program's end must not touch: the process ends here, without
+// going back through them.
+void SdlPlatform::EndProgram() {
+    desktop.HideAll();
+    if (!audio.Finish()) std::_Exit(EXIT_SUCCESS);
+    SDL_Quit();
+    std::exit(EXIT_SUCCESS);
+}
+
+void SdlPlatform::SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) {
+    desktop.Layer().Line(x1, y1, x2, y2, colour, width);
+}
+
+void SdlPlatform::SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) {
+    desktop.Layer().Box(x1, y1, x2, y2, colour, width);
+}
+
+void SdlPlatform::SurfaceRestore(int x1, int y1, int x2, int y2) { desktop.Layer().Restore(x1, y1, x2, y2); }
+
+void SdlPlatform::SurfaceClear() { desktop.Layer().Clear(); }
+
+void SdlPlatform::Show(Window& window) {
+    if (window.visible) return;
+    if (!desktop.Open(window)) {
+        std::fprintf(stderr, "prismfall: no window can be opened: %s.\n", SDL_GetError());
+        std::exit(EXIT_FAILURE);
+    }
+    window.visible = true;
+    main = &window;
+    if (window.on.activate) window.on.activate();
+}
+
+void SdlPlatform::Hide(Window& window) {
+    if (!window.visible) return;
+    window.visible = false;
+    // A dialog's real window is still in use by the handler that hides it; ShowModally lets it go.
+    if (!window.isDialog) desktop.Close(window);
+}
+
+bool SdlPlatform::ShowModally(Window& dialog) {
+    if (dialog.visible || !desktop.Open(dialog)) return false;
+    dialog.visible = true;
+    if (dialog.on.activate) dialog.on.activate();
+    loop.RunWhile([&] { return dialog.visible && !desktop.CloseBoxUsed(dialog); });
+    const bool wasHidden = !dialog.visible;
+    if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
+    if (!wasHidden && dialog.on.unload) dialog.on.unload();
+    dialog.visible = false;
+    desktop.Close(dialog);
+    return wasHidden;
+}
+
+void SdlPlatform::ShowMessageBox(std::string_view text) {
+    Window box;
+    MakeMessageBox(box, text, desktop.Screen(), [&] { Hide(box); });
+    if (main != nullptr) {
+        const Place corner = Position(*main);
+        const Extent outer = OuterSize(*main);
+        const Extent size = OuterSize(box);
+        SetPosition(box, {corner.left + (outer.width - size.width) / 2, corner.top + (outer.height - size.height) / 2});
+    }
+    ShowModally(box);
+}
+
+Extent SdlPlatform::OuterSize(const Window& window) { return desktop.OuterSize(window); }
+
+Extent SdlPlatform::InnerSize(const Window& window) { return {window.innerWidth, window.innerHeight}; }
+
+Place SdlPlatform::Position(const Window& window) { return desktop.Position(window); }
+
+// The size is meant with the nominal frame: whatever frame the desktop draws, what is inside comes out the same.
+void SdlPlatform::SetOuterSize(Window& window, Extent size) {
+    desktop.SetInnerSize(window, {size.width - kNominalFrame.width, size.height - kNominalFrame.height});
+}
+
+void SdlPlatform::SetPosition(Window& window, Place place) { desktop.SetPosition(window, place); }
+
+void SdlPlatform::SetTickHandler(std::function<void(Timer)> handler) { loop.SetTickHandler(std::move(handler)); }
+
+void SdlPlatform::StartTimer(Timer timer) { loop.Timers().Start(timer, EventLoop::Now()); }
+
+void SdlPlatform::StopTimer(Timer timer) { loop.Timers().Stop(timer); }
+
+void SdlPlatform::SetTimerInterval(Timer timer, int milliseconds) {
+    loop.Timers().SetInterval(timer, milliseconds, EventLoop::Now());
+}
+
+void SdlPlatform::Yield() { loop.Yield(); }
+
+std::int64_t SdlPlatform::Clock() {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(EventLoop::Now()).count();
+}
+
+double SdlPlatform::Random() { return std::uniform_real_distribution<double>(0, 1)(generator); }
+
+// What the generator has come to goes into the new state: two calls at the same moment differ.
+void SdlPlatform::SeedRandomFromClock() {
+    const auto now = static_cast<std::uint64_t>(EventLoop::Now().count());
+    std::seed_seq seed{static_cast<std::uint32_t>(generator()), static_cast<std::uint32_t>(now),
+                       static_cast<std::uint32_t>(now >> 32)};
+    generator.seed(seed);
+}
+
+// The application's name has no place in the file: the file is this one application's.
+std::string SdlPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
+                                     std::string_view fallback) {
+    return settings.Read(section, key).value_or(std::string(fallback));
+}
+
+void SdlPlatform::WriteSettings(std::string_view, std::span<const SettingValue> values) {
+    const std::string failure = settings.Write(values);
+    if (!failure.empty()) std::fprintf(stderr, "prismfall: %s\n", failure.c_str());
+}
+
+void SdlPlatform::PlayWave(Wave wave, bool wait) {
+    audio.PlayWave(wave.bytes);
+    if (wait) loop.PaintFor(WaveLength(wave.bytes));
+}
+
+void SdlPlatform::MusicClose() {
+    audio.DoWithMusic([](SdlMusic& music) { music.Close(); });
+}
+
+int SdlPlatform::MusicOpen(const std::string& path) { return audio.MusicOpen(path); }
+
+void SdlPlatform::MusicSetVolume(int volume) {
+    audio.DoWithMusic([volume](SdlMusic& music) { music.SetVolume(volume); });
+}
+
+void SdlPlatform::MusicPlayLooping() {
+    audio.DoWithMusic([](SdlMusic& music) { music.PlayLooping(); });
+}
+
+void SdlPlatform::MusicResume() {
+    audio.DoWithMusic([](SdlMusic& music) { music.Resume(); });
+}
+
+void SdlPlatform::MusicPause() {
+    audio.DoWithMusic([](SdlMusic& music) { music.Pause(); });
+}
+
+void SdlPlatform::MusicStop() {
+    audio.DoWithMusic([](SdlMusic& music) { music.Stop(); });
+}
+
+std::string SdlPlatform::MusicFailureText(int code) { return audio.MusicFailureText(code); }
+
+}  // namespace prismfall

@@ -1,0 +1,82 @@
+// The real machine behind the game: windows, input, timers, sound and music on a desktop by SDL2. This class
+// hands every call to the class beside it that knows how.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <string>
+
+#include "backends/sdl/desktop/EventLoop.h"
+#include "backends/sdl/desktop/SdlDesktop.h"
+#include "backends/sdl/settings/SettingsFile.h"
+#include "backends/sdl/sound/SdlAudio.h"
+#include "platform/Platform.h"
+
+namespace prismfall {
+
+class SdlPlatform final : public Platform {
+  public:
+    // Nothing if the desktop cannot be reached; `failure` is then one sentence that says why. `pictures` is the folder
+    // of the picture files.
+    static std::unique_ptr<SdlPlatform> Create(const std::filesystem::path& pictures, std::string& failure);
+    ~SdlPlatform() override;
+
+    // Shows the main window and lets events run until the program ends.
+    [[noreturn]] void Run(Window& main);
+
+    void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
+    void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override;
+    void SurfaceRestore(int x1, int y1, int x2, int y2) override;
+    void SurfaceClear() override;
+
+    void Show(Window& window) override;
+    void Hide(Window& window) override;
+    bool ShowModally(Window& dialog) override;
+    Extent OuterSize(const Window& window) override;
+    Extent InnerSize(const Window& window) override;
+    Place Position(const Window& window) override;
+    void SetOuterSize(Window& window, Extent size) override;
+    void SetPosition(Window& window, Place place) override;
+    void ShowMessageBox(std::string_view text) override;
+    [[noreturn]] void EndProgram() override;
+
+    void SetTickHandler(std::function<void(Timer)> handler) override;
+    void StartTimer(Timer timer) override;
+    void StopTimer(Timer timer) override;
+    void SetTimerInterval(Timer timer, int milliseconds) override;
+
+    void Yield() override;
+    std::int64_t Clock() override;
+    double Random() override;
+    void SeedRandomFromClock() override;
+
+    std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
+                            std::string_view fallback) override;
+    void WriteSettings(std::string_view application, std::span<const SettingValue> values) override;
+
+    void PlayWave(Wave wave, bool wait) override;
+
+    void MusicClose() override;
+    int MusicOpen(const std::string& path) override;
+    void MusicSetVolume(int volume) override;
+    void MusicPlayLooping() override;
+    void MusicResume() override;
+    void MusicPause() override;
+    void MusicStop() override;
+    std::string MusicFailureText(int code) override;
+
+  private:
+    explicit SdlPlatform(PictureStore pictures);
+
+    void CloseProgram();
+
+    SdlDesktop desktop;
+    EventLoop loop{desktop};
+    SdlAudio audio;
+    SettingsFile settings;
+    std::mt19937 generator;
+    Window* main = nullptr;
+};
+
+}  // namespace prismfall

@@ -1,0 +1,16 @@
+// The error box: a small dialog of our own with a stop mark, a text and an OK button. It is an ordinary window's data;
+// showing it and closing it by its close box belong to the platform.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "backends/sdl/drawing/ElementPainter.h"
+#include "platform/Window.h"
+
+namespace prismfall {
+
+// Fills an empty window. `dismiss` is called when the player presses OK, Enter or Esc.
+void MakeMessageBox(Window& box, std::string_view text, Display& display, const std::function<void()>& dismiss);
+
+}  // namespace prismfall

@@ -1,0 +1,224 @@
+// Windows and events. A dialog's place is fixed before it is shown: moving a window afterwards is slow and, on many
+// desktops, off by the frame.
+#include "backends/sdl/desktop/SdlDesktop.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace prismfall {
+
+namespace {
+
+constexpr FrameBorders kNominalFrame{2, 25, 2, 2};
+constexpr std::uint32_t kFrameMilliseconds = 100;  // how long a desktop may take to draw a frame
+
+}  // namespace
+
+SdlDesktop::SdlDesktop(PictureStore pictures, std::function<void()> whenEndAsked, std::function<void()> whenSoundLost)
+    : endAsked(std::move(whenEndAsked)),
+      soundLost(std::move(whenSoundLost)),
+      facts(AskDesktop()),
+      display(std::move(pictures)) {
+    SDL_AddEventWatch(NoteExposure, this);
+}
+
+SdlDesktop::~SdlDesktop() { SDL_DelEventWatch(NoteExposure, this); }
+
+// Watching instead of handling lets a window be repainted while its input has to wait.
+int SdlDesktop::NoteExposure(void* self, SDL_Event* event) {
+    if (event->type != SDL_WINDOWEVENT || event->window.event != SDL_WINDOWEVENT_EXPOSED) return 0;
+    if (Shown* shown = static_cast<SdlDesktop*>(self)->FindById(event->window.windowID); shown != nullptr)
+        shown->real->Expose();
+    return 0;
+}
+
+// The scale that the user wants, or less if the window would not fit on the display; whole quarters as long as it is
+// not smaller than the game's own size.
+void SdlDesktop::ChooseScale(const Window& window) {
+    scaleChosen = true;
+    float scale = facts.scale;
+    SDL_Rect usable;
+    if (SDL_GetDisplayUsableBounds(0, &usable) == 0 && usable.w > 0 && usable.h > 0) {
+        const auto share = [](int room, int frame, int size) {
+            return static_cast<float>(room - frame) / static_cast<float>(size);
+        };
+        const float fits = std::min(share(usable.w, kNominalFrame.left + kNominalFrame.right, window.innerWidth),
+                                    share(usable.h, kNominalFrame.top + kNominalFrame.bottom, window.innerHeight));
+        if (fits < scale) scale = fits < 1 ? std::max(fits, 0.25F) : std::floor(fits * 4) / 4;
+    }
+    pointsPerGamePixel = scale;
+    display.SetScale(scale);
+}
+
+int SdlDesktop::Points(int gamePixels) const {
+    return static_cast<int>(std::lround(static_cast<float>(gamePixels) * pointsPerGamePixel));
+}
+
+int SdlDesktop::GamePixels(int points) const {
+    return static_cast<int>(std::lround(static_cast<float>(points) / pointsPerGamePixel));
+}
+
+const SdlDesktop::Shown* SdlDesktop::Find(const Window& window) const {
+    const auto found = std::find_if(windows.begin(), windows.end(),
+                                    [&](const Shown& shown) { return &shown.real->Data() == &window; });
+    return found != windows.end() ? &*found : nullptr;
+}
+
+SdlDesktop::Shown* SdlDesktop::FindById(std::uint32_t id) {
+    const auto found =
+        std::find_if(windows.begin(), windows.end(), [&](const Shown& shown) { return shown.real->Id() == id; });
+    return found != windows.end() ? &*found : nullptr;
+}
+
+bool SdlDesktop::Open(Window& window) {
+    if (!scaleChosen) ChooseScale(window);
+    SdlWindow::Options options;
+    options.pointsPerGamePixel = pointsPerGamePixel;
+    options.doubleClickMilliseconds = facts.doubleClickMilliseconds;
+    if (!window.isDialog) options.layer = &layer;
+    if (window.isDialog && !windows.empty()) options.owner = windows.back().real->Real();
+    if (const auto place = wantedPlaces.find(&window); place != wantedPlaces.end())
+        options.frameCorner = Place{Points(place->second.left), Points(place->second.top)};
+    auto real = std::make_unique<SdlWindow>(window, display, options);
+    if (!real->IsReal()) return false;
+    if (!windows.empty()) windows.back().real->Input().Forget();
+    windows.push_back({std::move(real)});
+    return true;
+}
+
+void SdlDesktop::Close(const Window& window) {
+    std::erase_if(windows, [&](const Shown& shown) { return &shown.real->Data() == &window; });
+    wantedPlaces.erase(&window);
+}
+
+bool SdlDesktop::CloseBoxUsed(const Window& window) const {
+    const Shown* shown = Find(window);
+    return shown == nullptr || shown->closeBoxUsed;
+}
+
+void SdlDesktop::Refresh() {
+    for (const Shown& shown : windows) shown.real->Refresh();
+}
+
+void SdlDesktop::HideAll() {
+    std::for_each(windows.rbegin(), windows.rend(), [](const Shown& shown) { shown.real->HideNow(); });
+}
+
+void SdlDesktop::Handle(const SDL_Event& event) {
+    if (event.type == SDL_QUIT) return endAsked();
+    if (event.type == SDL_AUDIODEVICEREMOVED && event.adevice.iscapture == 0) return soundLost();
+    if (windows.empty()) return;
+    if (event.type == SDL_WINDOWEVENT) return HandleWindowEvent(event.window);
+    // Keys go to the topmost window even if the desktop gives the focus to none.
+    SdlWindow& active = *windows.back().real;
+    if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return active.Input().Key(event.key.keysym.sym);
+    if (event.type == SDL_MOUSEMOTION && event.motion.windowID == active.Id())
+        return active.Input().Move(active.ToGame(event.motion.x), active.ToGame(event.motion.y));
+    if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) HandleButton(event.button);
+}
+
+void SdlDesktop::HandleButton(const SDL_MouseButtonEvent& event) {
+    SdlWindow& active = *windows.back().real;
+    if (event.windowID != active.Id()) {
+        if (event.type == SDL_MOUSEBUTTONDOWN) active.Raise();
+        return;
+    }
+    if (event.button != SDL_BUTTON_LEFT && event.button != SDL_BUTTON_RIGHT) return;
+    const MouseButton button = event.button == SDL_BUTTON_LEFT ? MouseButton::Left : MouseButton::Right;
+    const float x = active.ToGame(event.x);
+    const float y = active.ToGame(event.y);
+    if (event.type == SDL_MOUSEBUTTONDOWN) {
+        active.Input().Press(button, x, y, event.timestamp);
+    } else {
+        active.Input().Release(button, x, y);
+    }
+}
+
+void SdlDesktop::HandleWindowEvent(const SDL_WindowEvent& event) {
+    Shown* shown = FindById(event.windowID);
+    if (shown == nullptr) return;
+    if (event.event == SDL_WINDOWEVENT_FOCUS_GAINED) HandleFocus(*shown);
+    if (event.event == SDL_WINDOWEVENT_CLOSE) HandleCloseBox(*shown);
+}
+
+void SdlDesktop::HandleFocus(Shown& shown) {
+    if (std::exchange(shown.awaitsFirstFocus, false)) return;
+    // A window behind a dialog may get the focus from a careless desktop; the dialog is what is in front.
+    if (&shown != &windows.back()) return;
+    const Window& window = shown.real->Data();
+    if (window.on.activate) window.on.activate();
+}
+
+void SdlDesktop::HandleCloseBox(Shown& shown) {
+    if (&shown != &windows.back()) return;
+    if (!shown.real->Data().isDialog) return endAsked();
+    shown.closeBoxUsed = true;
+}
+
+bool SdlDesktop::DeliverMinimised() {
+    if (windows.empty()) return false;
+    const bool minimised = windows.front().real->IsMinimised();
+    if (minimised == minimisedAsTold) return false;
+    minimisedAsTold = minimised;
+    const Window& window = windows.front().real->Data();
+    if (window.on.resize) window.on.resize(minimised);
+    return true;
+}
+
+void SdlDesktop::AwaitFrame() {
+    if (frameAwaited || windows.empty()) return;
+    frameAwaited = true;
+    const std::uint32_t begin = SDL_GetTicks();
+    while (!windows.front().real->Borders() && SDL_GetTicks() - begin < kFrameMilliseconds) {
+        SDL_Delay(1);
+        SDL_PumpEvents();
+    }
+}
+
+FrameBorders SdlDesktop::BordersOf(const Window& window) const {
+    const Shown* shown = Find(window);
+    // A dialog that is not shown yet will have a frame like the main window's.
+    if (shown == nullptr && !windows.empty()) shown = &windows.front();
+    return shown != nullptr ? shown->real->Borders().value_or(kNominalFrame) : kNominalFrame;
+}
+
+Extent SdlDesktop::OuterSize(const Window& window) {
+    AwaitFrame();
+    const FrameBorders borders = BordersOf(window);
+    return {window.innerWidth + GamePixels(borders.left + borders.right),
+            window.innerHeight + GamePixels(borders.top + borders.bottom)};
+}
+
+Place SdlDesktop::Position(const Window& window) {
+    AwaitFrame();
+    const Shown* shown = Find(window);
+    if (shown == nullptr) {
+        const auto place = wantedPlaces.find(&window);
+        return place != wantedPlaces.end() ? place->second : Place{};
+    }
+    int left = 0;
+    int top = 0;
+    SDL_GetWindowPosition(shown->real->Real(), &left, &top);
+    const FrameBorders borders = shown->real->Borders().value_or(FrameBorders{});
+    return {GamePixels(left - borders.left), GamePixels(top - borders.top)};
+}
+
+void SdlDesktop::SetInnerSize(Window& window, Extent size) {
+    window.innerWidth = size.width;
+    window.innerHeight = size.height;
+    const Shown* shown = Find(window);
+    if (shown != nullptr) SDL_SetWindowSize(shown->real->Real(), Points(size.width), Points(size.height));
+}
+
+void SdlDesktop::SetPosition(const Window& window, Place place) {
+    const Shown* shown = Find(window);
+    if (shown == nullptr) {
+        wantedPlaces[&window] = place;
+        return;
+    }
+    const FrameBorders borders = BordersOf(window);
+    SDL_SetWindowPosition(shown->real->Real(), Points(place.left) + borders.left, Points(place.top) + borders.top);
+}
+
+}  // namespace prismfall

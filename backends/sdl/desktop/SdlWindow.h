@@ -1,0 +1,77 @@
+// One real window of the desktop, as long as it is shown: makes it from a Window's data, presents what has changed and
+// hands it its input. Which window may have input, and when, belongs to the platform.
+#pragma once
+
+#include <SDL.h>
+
+#include <memory>
+#include <optional>
+
+#include "backends/sdl/drawing/Composer.h"
+#include "platform/Platform.h"
+#include "platform/WindowInput.h"
+
+namespace prismfall {
+
+// A desktop's frame around a window, in pixels of the display.
+struct FrameBorders {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
+class SdlWindow {
+  public:
+    struct Options {
+        Surface* layer = nullptr;          // of the main window
+        SDL_Window* owner = nullptr;       // of a dialog
+        std::optional<Place> frameCorner;  // in points of the desktop; without it the desktop chooses
+        float pointsPerGamePixel = 1;      // the desktop's unit of places and sizes
+        int doubleClickMilliseconds = 500;
+    };
+
+    // Makes the window and shows it. If the desktop refuses, IsReal is false and the error is SDL_GetError's.
+    SdlWindow(Window& data, Display& target, const Options& wanted);
+
+    bool IsReal() const { return real != nullptr; }
+    SDL_Window* Real() const { return real.get(); }
+    std::uint32_t Id() const { return SDL_GetWindowID(real.get()); }
+    Window& Data() { return window; }
+    WindowInput& Input() { return input; }
+
+    // Presents what has changed since the last call.
+    void Refresh();
+    // Presents everything at the next call: the desktop has lost what it had.
+    void Expose() { composer.ForgetAll(); }
+    void HideNow() { SDL_HideWindow(real.get()); }
+    void Raise() { SDL_RaiseWindow(real.get()); }
+    bool IsMinimised() const { return (SDL_GetWindowFlags(real.get()) & SDL_WINDOW_MINIMIZED) != 0; }
+    // The frame that the desktop tells of, or nothing if it tells of none.
+    std::optional<FrameBorders> Borders() const;
+    float ToGame(int points) const { return static_cast<float>(points) / options.pointsPerGamePixel; }
+
+  private:
+    struct Destroy {
+        void operator()(SDL_Window* sdlWindow) const { SDL_DestroyWindow(sdlWindow); }
+    };
+    struct Free {
+        void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+    };
+
+    void Create();
+    void SetIcon();
+    SDL_Surface* DrawingSurface(SDL_Surface* shown);
+
+    Window& window;
+    Display& display;
+    Options options;
+    Composer composer;
+    WindowInput input;
+    std::unique_ptr<SDL_Window, Destroy> real;
+    std::unique_ptr<SDL_Surface, Free> converted;  // only where the desktop's pixels are not 32-bit RGB
+    std::vector<SDL_Rect> presented;
+    int shownWidth = 0;
+};
+
+}  // namespace prismfall

@@ -1,0 +1,226 @@
+// Xlib's part: window properties, and the settings that a desktop publishes as resources and as XSETTINGS.
+#include "backends/sdl/desktop/X11Hints.h"
+
+#include <SDL.h>
+#include <SDL_syswm.h>
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/Xresource.h>
+#include <array>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <utility>
+
+namespace prismfall {
+
+namespace {
+
+constexpr float kPlainDotsPerInch = 96;
+constexpr float kLargestScale = 4;
+
+// The Motif hints that window managers still go by.
+constexpr unsigned long kMotifHasFunctions = 1;
+constexpr unsigned long kMotifHasDecorations = 2;
+constexpr unsigned long kMotifMove = 4;
+constexpr unsigned long kMotifMinimise = 8;
+constexpr unsigned long kMotifClose = 32;
+constexpr unsigned long kMotifBorder = 2;
+constexpr unsigned long kMotifTitle = 8;
+constexpr unsigned long kMotifMenu = 16;
+constexpr unsigned long kMotifMinimiseBox = 32;
+
+struct X11Window {
+    Display* display = nullptr;
+    ::Window window = 0;
+};
+
+std::optional<X11Window> OnX11(SDL_Window* window) {
+    SDL_SysWMinfo info;
+    SDL_VERSION(&info.version);
+    if (SDL_GetWindowWMInfo(window, &info) == SDL_FALSE || info.subsystem != SDL_SYSWM_X11) return std::nullopt;
+    return X11Window{info.info.x11.display, info.info.x11.window};
+}
+
+Atom AtomOf(const X11Window& x, const char* name) { return XInternAtom(x.display, name, False); }
+
+void SetMotifHints(const X11Window& x, bool canMinimise) {
+    const std::array<unsigned long, 5> hints = {
+        kMotifHasFunctions | kMotifHasDecorations, kMotifMove | kMotifClose | (canMinimise ? kMotifMinimise : 0),
+        kMotifBorder | kMotifTitle | kMotifMenu | (canMinimise ? kMotifMinimiseBox : 0), 0, 0};
+    const Atom name = AtomOf(x, "_MOTIF_WM_HINTS");
+    XChangeProperty(x.display, x.window, name, name, 32, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(hints.data()), 5);
+}
+
+void SetAtoms(const X11Window& x, const char* property, const char* value, int mode) {
+    const Atom atom = AtomOf(x, value);
+    XChangeProperty(x.display, x.window, AtomOf(x, property), XA_ATOM, 32, mode,
+                    reinterpret_cast<const unsigned char*>(&atom), 1);
+}
+
+// The whole numbers among a desktop's XSETTINGS, by name.
+class DesktopSettings {
+  public:
+    explicit DesktopSettings(std::string_view block) : bytes(block) {
+        bigEndian = !bytes.empty() && bytes[0] != 0;
+        at = 8;
+        const std::uint32_t count = Number(4);
+        for (std::uint32_t i = 0; i < count && at < bytes.size(); ++i) ReadOne();
+    }
+
+    std::optional<int> Find(const std::string& name) const {
+        const auto found = numbers.find(name);
+        if (found == numbers.end()) return std::nullopt;
+        return found->second;
+    }
+
+  private:
+    std::uint32_t Number(std::size_t length) {
+        std::uint32_t value = 0;
+        for (std::size_t i = 0; i < length; ++i) {
+            const std::size_t place = at + (bigEndian ? i : length - 1 - i);
+            value = value << 8 | (place < bytes.size() ? static_cast<unsigned char>(bytes[place]) : 0U);
+        }
+        at += length;
+        return value;
+    }
+
+    std::string Text(std::size_t length) {
+        std::string text(at < bytes.size() ? bytes.substr(at, length) : std::string_view());
+        at += (length + 3) / 4 * 4;
+        return text;
+    }
+
+    void ReadOne() {
+        const std::uint32_t type = Number(1);
+        at += 1;
+        const std::string name = Text(Number(2));
+        at += 4;  // the serial number of its last change
+        if (type == 0) {
+            numbers[name] = static_cast<int>(Number(4));
+        } else if (type == 1) {
+            Text(Number(4));
+        } else {
+            at += 8;  // a colour
+        }
+    }
+
+    std::string_view bytes;
+    bool bigEndian = false;
+    std::size_t at = 0;
+    std::map<std::string, int> numbers;
+};
+
+int IgnoreError(Display*, XErrorEvent*) { return 0; }
+
+XErrorHandler otherErrors = nullptr;
+
+int IgnoreLateWakeUp(Display* display, XErrorEvent* error) {
+    constexpr unsigned char kSendEvent = 25;  // the request's number in the X protocol
+    if (error->error_code == BadWindow && error->request_code == kSendEvent) return 0;
+    return otherErrors(display, error);
+}
+
+std::function<void()> endWithoutDisplay;
+std::thread::id endingThread;
+
+// SDL wakes its loop from other threads by a connection of their own. One that finds it broken waits for the end.
+int MeetDisplayLoss(Display*) {
+    while (std::this_thread::get_id() != endingThread) std::this_thread::sleep_for(std::chrono::hours(1));
+    endWithoutDisplay();
+    return 0;
+}
+
+// The block that the desktop's settings daemon publishes, if there is one. The daemon may go at any moment, so errors
+// of the window server are ignored here.
+std::string ReadSettingsBlock(Display* display) {
+    const std::string selection = "_XSETTINGS_S" + std::to_string(DefaultScreen(display));
+    const ::Window owner = XGetSelectionOwner(display, XInternAtom(display, selection.c_str(), False));
+    if (owner == 0) return {};
+    const Atom name = XInternAtom(display, "_XSETTINGS_SETTINGS", False);
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char* data = nullptr;
+    const auto handler = XSetErrorHandler(IgnoreError);
+    XGetWindowProperty(display, owner, name, 0, 0xFFFF, False, name, &type, &format, &count, &rest, &data);
+    XSetErrorHandler(handler);
+    std::string block;
+    if (data != nullptr && format == 8) block.assign(reinterpret_cast<const char*>(data), count);
+    if (data != nullptr) XFree(data);
+    return block;
+}
+
+std::optional<float> ResourceDotsPerInch(Display* display) {
+    const char* text = XResourceManagerString(display);
+    if (text == nullptr) return std::nullopt;
+    XrmInitialize();
+    XrmDatabase database = XrmGetStringDatabase(text);
+    char* type = nullptr;
+    XrmValue value{};
+    std::optional<float> result;
+    if (XrmGetResource(database, "Xft.dpi", "Xft.Dpi", &type, &value) != 0 && value.addr != nullptr)
+        result = std::strtof(value.addr, nullptr);
+    XrmDestroyDatabase(database);
+    return result;
+}
+
+// Quarters: desktops offer no finer steps, and dots per inch are seldom exact.
+float ScaleOf(float dotsPerInch) {
+    if (!(dotsPerInch > 0)) return 1;
+    return std::clamp(std::round(dotsPerInch / kPlainDotsPerInch * 4) / 4, 1.0F, kLargestScale);
+}
+
+}  // namespace
+
+void BearLateWakeUps() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp); }
+
+void WhenDisplayIsLost(std::function<void()> end) {
+    endWithoutDisplay = std::move(end);
+    endingThread = std::this_thread::get_id();
+    XSetIOErrorHandler(MeetDisplayLoss);
+}
+
+DesktopFacts AskDesktop() {
+    DesktopFacts facts;
+    const char* driver = SDL_GetCurrentVideoDriver();
+    if (driver == nullptr || std::strcmp(driver, "x11") != 0) return facts;
+    Display* display = XOpenDisplay(nullptr);
+    if (display == nullptr) return facts;
+    const std::string block = ReadSettingsBlock(display);
+    const DesktopSettings settings(block);
+    std::optional<float> dotsPerInch = ResourceDotsPerInch(display);
+    if (const auto dots = settings.Find("Xft/DPI"); !dotsPerInch && dots)
+        dotsPerInch = static_cast<float>(*dots) / 1024;
+    if (dotsPerInch) facts.scale = ScaleOf(*dotsPerInch);
+    if (const auto time = settings.Find("Net/DoubleClickTime"); time && *time > 0)
+        facts.doubleClickMilliseconds = *time;
+    XCloseDisplay(display);
+    return facts;
+}
+
+void SetMainFrame(SDL_Window* window) {
+    if (const auto x = OnX11(window)) SetMotifHints(*x, true);
+}
+
+void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner) {
+    if (owner != nullptr) SDL_SetWindowModalFor(dialog, owner);
+    const auto x = OnX11(dialog);
+    if (!x) return;
+    SetMotifHints(*x, false);
+    SetAtoms(*x, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DIALOG", PropModeReplace);
+    SetAtoms(*x, "_NET_WM_STATE", "_NET_WM_STATE_MODAL", PropModeAppend);
+}
+
+}  // namespace prismfall

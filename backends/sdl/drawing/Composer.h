@@ -1,0 +1,47 @@
+// Puts one window's picture together: background, painted layer, elements in their stacking order. It finds out by
+// itself which elements have changed since it last looked. Showing the result belongs to the real window.
+#pragma once
+
+#include <vector>
+
+#include "backends/sdl/drawing/Damage.h"
+#include "backends/sdl/drawing/ElementPainter.h"
+#include "platform/Surface.h"
+#include "platform/Window.h"
+
+namespace prismfall {
+
+class Composer {
+  public:
+    // `layer` is the painted layer, if the window has one. All of them must outlive the composer.
+    Composer(const Window& composed, Surface* paintedLayer, Display& target);
+
+    // From now on everything counts as changed until it is composed again.
+    void ForgetAll() { everything = true; }
+    // The boxes on the display, of a picture of the given size, that have changed since the last call.
+    const std::vector<PixelBox>& TakeChanges(int width, int height);
+    // Draws the window's picture inside a box.
+    void Compose(Canvas& canvas, const PixelBox& box);
+
+  private:
+    struct Seen {
+        Element element;
+        bool shown = false;
+        PixelBox box;
+    };
+
+    void CompareElements();
+    void AddLayerChanges();
+    void DrawBackground(Canvas& canvas, const PixelBox& box);
+    void DrawLayer(Canvas& canvas, const PixelBox& box) const;
+
+    const Window& window;
+    Surface* layer;
+    Display& display;
+    bool everything = true;
+    std::vector<Seen> seen;
+    std::vector<PixelBox> layerBoxes;
+    Damage changes;
+};
+
+}  // namespace prismfall

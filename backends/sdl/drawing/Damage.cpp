@@ -1,0 +1,37 @@
+// Joining of boxes: two become one if the box around them is hardly larger than both.
+#include "backends/sdl/drawing/Damage.h"
+
+#include "backends/sdl/drawing/Canvas.h"
+
+namespace prismfall {
+
+namespace {
+
+// Pixels that may be drawn for nothing to save a box: about what sending one costs.
+constexpr long kSlack = 64;
+
+}  // namespace
+
+void Damage::Add(PixelBox box) {
+    if (box.IsEmpty()) return;
+    for (std::size_t i = 0; i < boxes.size();) {
+        const PixelBox joined = Around(boxes[i], box);
+        if (Area(joined) > Area(boxes[i]) + Area(box) + kSlack) {
+            ++i;
+            continue;
+        }
+        // The joined box may now lie close to one that was passed over before.
+        box = joined;
+        boxes[i] = boxes.back();
+        boxes.pop_back();
+        i = 0;
+    }
+    boxes.push_back(box);
+}
+
+void Damage::CutTo(const PixelBox& limits) {
+    for (PixelBox& box : boxes) box = Overlap(box, limits);
+    std::erase_if(boxes, [](const PixelBox& box) { return box.IsEmpty(); });
+}
+
+}  // namespace prismfall

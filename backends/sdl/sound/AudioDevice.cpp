@@ -1,0 +1,75 @@
+// Opening and closing. The audio subsystem goes with the device, so that the next opening finds the sound server that
+// is there then.
+#include "backends/sdl/sound/AudioDevice.h"
+
+#include <dlfcn.h>
+
+#include <cstring>
+
+namespace prismfall {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kRate = 44100;
+constexpr int kChannels = 2;
+constexpr int kChunk = 2048;  // frames; 46 ms
+constexpr auto kNextTry = 5s;
+
+void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
+
+// ALSA tells a machine without a sound device about it on standard error, at length. The library is loaded with SDL;
+// taking its function from there spares the game a dependency of its own.
+void SilenceAlsa() {
+    using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
+    using SetHandler = int (*)(Handler);
+    void* library = dlopen("libasound.so.2", RTLD_LAZY | RTLD_NOLOAD);
+    if (library == nullptr) return;
+    if (const auto setHandler = reinterpret_cast<SetHandler>(dlsym(library, "snd_lib_error_set_handler")))
+        setHandler(IgnoreMessage);
+    dlclose(library);
+}
+
+}  // namespace
+
+bool AudioDevice::Open() {
+    if (IsOpen()) return true;
+    const auto now = std::chrono::steady_clock::now();
+    if (failedAt && now - *failedAt < kNextTry) return false;
+    SilenceAlsa();
+    SDL_AudioSpec wanted{};
+    wanted.freq = kRate;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = kChannels;
+    wanted.samples = kChunk;
+    wanted.callback = Callback;
+    wanted.userdata = this;
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
+        id = SDL_OpenAudioDevice(nullptr, 0, &wanted, &form,
+                                 SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_CHANNELS_CHANGE);
+        if (!IsOpen()) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
+    if (!IsOpen()) {
+        failedAt = now;
+        return false;
+    }
+    SDL_PauseAudioDevice(id, 0);
+    return true;
+}
+
+void AudioDevice::Close() {
+    if (!IsOpen()) return;
+    SDL_CloseAudioDevice(id);
+    id = 0;
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+void AudioDevice::Callback(void* self, std::uint8_t* samples, int bytes) {
+    const auto& device = *static_cast<const AudioDevice*>(self);
+    const std::span space(samples, static_cast<std::size_t>(bytes));
+    std::memset(space.data(), device.form.silence, space.size());
+    device.fill(space);
+}
+
+}  // namespace prismfall

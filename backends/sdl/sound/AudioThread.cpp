@@ -1,0 +1,75 @@
+// The queue and the loop of the audio thread. It sleeps without a limit of time as long as there is nothing to do.
+#include "backends/sdl/sound/AudioThread.h"
+
+#include <future>
+#include <memory>
+#include <utility>
+
+namespace prismfall {
+
+AudioThread::~AudioThread() { Finish(std::chrono::hours(1)); }
+
+void AudioThread::Post(Task task) {
+    {
+        const std::lock_guard lock(mutex);
+        if (ending) return;
+        tasks.push_back(std::move(task));
+    }
+    changed.notify_all();
+    if (!thread.joinable()) thread = std::thread([this] { Run(); });
+}
+
+bool AudioThread::Call(Task task, std::chrono::milliseconds limit) {
+    const auto done = std::make_shared<std::promise<void>>();
+    Post([done, task = std::move(task)] {
+        task();
+        done->set_value();
+    });
+    return done->get_future().wait_for(limit) == std::future_status::ready;
+}
+
+void AudioThread::RunLater(std::optional<std::chrono::milliseconds> delay, Task task) {
+    const std::lock_guard lock(mutex);
+    laterAt.reset();
+    if (delay) laterAt = std::chrono::steady_clock::now() + *delay;
+    later = std::move(task);
+}
+
+bool AudioThread::Finish(std::chrono::milliseconds limit) {
+    std::unique_lock lock(mutex);
+    ending = true;
+    changed.notify_all();
+    if (thread.joinable() && !changed.wait_for(lock, limit, [this] { return ended; })) return false;
+    lock.unlock();
+    if (thread.joinable()) thread.join();
+    return true;
+}
+
+void AudioThread::Run() {
+    std::unique_lock lock(mutex);
+    const auto hasWork = [this] { return ending || !tasks.empty(); };
+    for (;;) {
+        if (laterAt && !hasWork()) {
+            changed.wait_until(lock, *laterAt, hasWork);
+        } else {
+            changed.wait(lock, hasWork);
+        }
+        Task task;
+        if (!tasks.empty()) {
+            task = std::move(tasks.front());
+            tasks.pop_front();
+        } else if (ending) {
+            ended = true;
+            changed.notify_all();
+            return;
+        } else {
+            laterAt.reset();
+            task = later;
+        }
+        lock.unlock();
+        task();
+        lock.lock();
+    }
+}
+
+}  // namespace prismfall

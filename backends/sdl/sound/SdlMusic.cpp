@@ -1,0 +1,123 @@
+// Music: SDL's thread asks for the next samples and gets them decoded on the spot, half a second at a time.
+#include "backends/sdl/sound/SdlMusic.h"
+
+#include <algorithm>
+#include <cmath>
+#include <mutex>
+
+namespace prismfall {
+
+namespace {
+
+constexpr int kFullVolume = 1000;
+constexpr int kDecodedAhead = 12;  // times what is asked for; many frames at once cost half of what single ones do
+
+}  // namespace
+
+std::string SdlMusic::Open(const std::string& path) {
+    Close();
+    return file.Open(path);
+}
+
+void SdlMusic::Close() {
+    const std::lock_guard lock(device);
+    file.Close();
+    stream.reset();
+    state = State::Stopped;
+}
+
+void SdlMusic::SetVolume(int newVolume) {
+    const double share = static_cast<double>(std::clamp(newVolume, 0, kFullVolume)) / kFullVolume;
+    const std::lock_guard lock(device);
+    volume = static_cast<int>(std::lround(share * SDL_MIX_MAXVOLUME));
+}
+
+void SdlMusic::Play(State newState) {
+    if (!file.IsOpen()) return;
+    const bool hasDevice = device.Open();
+    const std::lock_guard lock(device);
+    state = newState;
+    if (hasDevice) FitStream();
+}
+
+// A stream that fits is kept, for it may hold samples that have not been heard yet.
+void SdlMusic::FitStream() {
+    const SDL_AudioSpec& form = device.Form();
+    if (stream && streamForm.format == form.format && streamForm.channels == form.channels &&
+        streamForm.freq == form.freq)
+        return;
+    streamForm = form;
+    stream.reset(SDL_NewAudioStream(AUDIO_S16SYS, static_cast<std::uint8_t>(file.Channels()), file.Rate(), form.format,
+                                    form.channels, form.freq));
+}
+
+void SdlMusic::PlayLooping() {
+    Stop();
+    Play(State::Looping);
+}
+
+void SdlMusic::Resume() {
+    if (!PlaysOnce()) Play(State::PlayingOnce);
+}
+
+// Or has done so.
+bool SdlMusic::PlaysOnce() {
+    const std::lock_guard lock(device);
+    return state == State::PlayingOnce || state == State::Over;
+}
+
+void SdlMusic::Pause() {
+    const std::lock_guard lock(device);
+    if (IsPlaying()) state = State::Paused;
+}
+
+void SdlMusic::Stop() {
+    const std::lock_guard lock(device);
+    state = State::Stopped;
+    if (file.IsOpen()) file.Rewind();
+    if (stream) SDL_AudioStreamClear(stream.get());
+}
+
+bool SdlMusic::IsLooping() {
+    const std::lock_guard lock(device);
+    return state == State::Looping;
+}
+
+bool SdlMusic::IsSounding() {
+    const std::lock_guard lock(device);
+    return IsPlaying() && device.IsOpen();
+}
+
+void SdlMusic::TakeUp() {
+    if (IsPlaying()) Play(state);
+}
+
+void SdlMusic::MixInto(std::span<std::uint8_t> samples) {
+    if (!stream || !IsPlaying()) return;
+    const int wanted = static_cast<int>(samples.size());
+    if (SDL_AudioStreamAvailable(stream.get()) < wanted) DecodeAhead(wanted);
+    next.resize(samples.size());
+    const int got = std::max(0, SDL_AudioStreamGet(stream.get(), next.data(), wanted));
+    SDL_MixAudioFormat(samples.data(), next.data(), streamForm.format, static_cast<std::uint32_t>(got), volume);
+    if (got < wanted) state = State::Over;
+}
+
+// Beyond the track's end only as far as is wanted: by then it may have been told to play no second time.
+void SdlMusic::DecodeAhead(int wanted) {
+    bool rewound = false;
+    while (SDL_AudioStreamAvailable(stream.get()) < wanted * kDecodedAhead) {
+        const std::span<const std::byte> block = file.Read();
+        if (!block.empty()) {
+            if (SDL_AudioStreamPut(stream.get(), block.data(), static_cast<int>(block.size())) != 0) return;
+            rewound = false;
+            continue;
+        }
+        const bool isOver = state == State::PlayingOnce || rewound;
+        if (isOver) SDL_AudioStreamFlush(stream.get());
+        if (isOver || SDL_AudioStreamAvailable(stream.get()) >= wanted) return;
+        file.Rewind();
+        rewound = true;
+    }
+}
+
+}  // namespace prismfall

@@ -1,0 +1,128 @@
+// See HighScores.h.
+#include "game/HighScores.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <utility>
+
+#include "game/PuzzleMenu.h"
+#include "screens/ButtonFaces.h"
+#include "screens/Dialogs.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr std::array<int, kScoreRows> kRowY = {56, 88, 120, 152, 184, 216, 248, 280, 312, 344};
+constexpr std::array<int, kScoreRows> kLevelRowY = {56, 89, 122, 155, 187, 216, 248, 280, 312, 344};
+constexpr int kRowHeight = 25;
+
+constexpr std::array<std::string_view, kScoreRows> kNumberNames = {"Label1", "Label2", "Label3", "Label4", "Label5",
+                                                                   "Label6", "Label7", "Label8", "Label9", "Label10"};
+constexpr std::array<std::string_view, kScoreRows> kScoreNames = {
+    "LabelScore0", "LabelScore1", "LabelScore2", "LabelScore3", "LabelScore4",
+    "LabelScore5", "LabelScore6", "LabelScore7", "LabelScore8", "LabelScore9"};
+constexpr std::array<std::string_view, kScoreRows> kLevelNames = {
+    "LabelLevel0", "LabelLevel1", "LabelLevel2", "LabelLevel3", "LabelLevel4",
+    "LabelLevel5", "LabelLevel6", "LabelLevel7", "LabelLevel8", "LabelLevel9"};
+constexpr std::array<std::string_view, kScoreRows> kEndLevelNames = {
+    "LabelEndLevel0", "LabelEndLevel1", "LabelEndLevel2", "LabelEndLevel3", "LabelEndLevel4",
+    "LabelEndLevel5", "LabelEndLevel6", "LabelEndLevel7", "LabelEndLevel8", "LabelEndLevel9"};
+
+void HideScores(VMain& main) { main.platform.Hide(*main.VHighScore2); }
+
+constexpr std::array<ButtonRow, 3> kButtons = {{
+    {"Command1", "ClearScoresUp", "ClearScoresDown", ClearScores},
+    {"Command3", "ClearPuzzleProgressUp", "ClearPuzzleProgressDown", ClearPuzzleProgress},
+    {"Command2", "OKScoresUp", "OKScoresDown", HideScores},
+}};
+
+Element MakeLabel(std::string_view name, int left, int top, int width, int height) {
+    return {.name = name,
+            .kind = ElementKind::Label,
+            .left = static_cast<float>(left),
+            .top = static_cast<float>(top),
+            .width = width,
+            .height = height,
+            .colour = kPaleYellow,
+            .font = {.points = 12}};
+}
+
+Element MakeHeading(std::string_view name, int left, int top, int width, int height, std::string text) {
+    Element heading = MakeLabel(name, left, top, width, height);
+    heading.text = std::move(text);
+    heading.font.bold = true;
+    heading.wraps = true;
+    return heading;
+}
+
+void AddRow(std::vector<Element>& table, std::size_t row) {
+    table.push_back(MakeHeading(kNumberNames[row], 24, kRowY[row], 33, kRowHeight, std::to_string(row + 1)));
+    table.push_back(MakeLabel(kScoreNames[row], 96, kRowY[row], 105, kRowHeight));
+    table.push_back(MakeLabel(kLevelNames[row], 208, kLevelRowY[row], 49, kRowHeight));
+    table.push_back(MakeLabel(kEndLevelNames[row], 272, kLevelRowY[row], 49, kRowHeight));
+}
+
+void MakeHighScores(VMain& main) {
+    main.VHighScore2 = MakeDialog("VHighScore2", "Highscore", 327, 455);
+    main.VHighScore2->hasIcon = true;
+    std::vector<Element> table = {MakeHeading("Label11", 96, 16, 81, 17, "Score"),
+                                  MakeHeading("Label12", 200, 4, 60, 37, "Start Level"),
+                                  MakeHeading("Label13", 264, 5, 50, 36, "End Level")};
+    for (std::size_t row = 0; row < kScoreRows; ++row) AddRow(table, row);
+    table.push_back(MakeButton("Command3", 22, 374, 191, 40, "ClearPuzzleProgressUp"));
+    table.push_back(MakeButton("Command1", 82, 412, 123, 36, "ClearScoresUp"));
+    table.push_back(MakeButton("Command2", 244, 402, 70, 47, "OKScoresUp"));
+    main.VHighScore2->Own(std::move(table));
+    WireDialog(main, *main.VHighScore2, kButtons);
+}
+
+void FillRows(VMain& main) {
+    Window& dialog = *main.VHighScore2;
+    for (std::size_t row = 0; row < kScoreRows; ++row) {
+        ShowNumber(dialog[kScoreNames[row]], main.RowScore[row + 1]);
+        ShowNumber(dialog[kLevelNames[row]], main.RowLevel[row + 1]);
+        ShowNumber(dialog[kEndLevelNames[row]], main.RowEndLevel[row + 1]);
+    }
+}
+
+template <typename Column>
+void InsertRow(Column& column, std::size_t row, std::int16_t value) {
+    std::move_backward(column.begin() + static_cast<std::ptrdiff_t>(row), column.end() - 1, column.end());
+    column[row] = value;
+}
+
+}  // namespace
+
+void SaveScore(VMain& main) {
+    const auto lower = std::find_if(main.RowScore.begin() + 1, main.RowScore.end(),
+                                    [&main](std::int16_t score) { return score < main.Score; });
+    if (lower == main.RowScore.end()) return;
+    const auto row = static_cast<std::size_t>(lower - main.RowScore.begin());
+    InsertRow(main.RowScore, row, main.Score);
+    InsertRow(main.RowLevel, row, main.GameStartLevel);
+    InsertRow(main.RowEndLevel, row, main.Level);
+}
+
+void ShowHighScores(VMain& main) {
+    if (!main.VHighScore2) MakeHighScores(main);
+    FillRows(main);
+    ShowDialog(main, main.VHighScore2);
+}
+
+void ClearScores(VMain& main) {
+    main.RowScore.fill(0);
+    main.RowLevel.fill(0);
+    main.RowEndLevel.fill(0);
+    if (main.VHighScore2) FillRows(main);
+    main.HighScore = 0;
+    ShowNumber(main.VHighScore, 0);
+}
+
+void ClearPuzzleProgress(VMain& main) {
+    main.SolvedPuzzles.fill(false);
+    if (main.GameMode == kPuzzleMenu) ShowPuzzleMenu(main, true);
+}
+
+}  // namespace prismfall

@@ -1,0 +1,127 @@
+// See MainWindow.h.
+#include "game/MainWindow.h"
+
+#include <array>
+
+#include "audio/Music.h"
+#include "game/Buttons.h"
+#include "game/GameControl.h"
+#include "game/GrowthTick.h"
+#include "game/PlayerInput.h"
+#include "game/PuzzleCatalogue.h"
+#include "game/RemovalTick.h"
+#include "game/Tutorial.h"
+#include "screens/ButtonFaces.h"
+#include "screens/MainMenu.h"
+#include "screens/SettingsStore.h"
+#include "simulation/BeamSpawning.h"
+#include "simulation/Scoring.h"
+#include "state/GameModes.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr Extent kOuterSize{806, 629};  // with a nominal frame; the inside is kInnerSize whatever the desktop draws
+constexpr Extent kInnerSize{802, 602};
+
+struct TimerRow {
+    Timer timer;
+    int interval;  // milliseconds, at start-up
+    void (*tick)(VMain& main);
+};
+
+constexpr std::array<TimerRow, kTimerCount> kTimers = {{
+    {Timer::LineDeleter, 100, LineDeleter_Timer},
+    {Timer::LineExtender, 75, LineExtender_Timer},
+    {Timer::LineCreator, 2500, LineCreator_Timer},
+    {Timer::TimerMulti, 250, TimerMulti_Timer},
+    {Timer::TimerA, 5000, TimerA_Timer},
+    {Timer::TimerPlayIntro, 1000, TimerPlayIntro_Timer},
+}};
+
+void PressElementOfMain(VMain& main, Element& element, MouseButton button, float x, float y) {
+    if (element.kind != ElementKind::PressPicture) return PressElement(main, element);
+    PictTut_MouseDown(main, static_cast<std::size_t>(&element - main.PictTut.data()), button, x, y);
+}
+
+// While the steps of a game's end run, buttons, playfield and keys do nothing; the close box works at once.
+template <typename Handler>
+auto UnlessEnding(VMain& main, Handler handler) {
+    return [&main, handler](auto&&... arguments) {
+        if (!main.GameEnding) handler(main, arguments...);
+    };
+}
+
+void Connect(VMain& main) {
+    WindowHandlers& on = main.window.on;
+    on.activate = [&main] { Form_Activate(main); };
+    on.resize = [&main](bool isMinimised) { Form_Resize(main, isMinimised); };
+    on.queryUnload = [&main] { Form_QueryUnload(main); };
+    on.unload = [&main] { Form_Unload(main); };
+    on.mouseMove = [&main](float x, float) { Form_MouseMove(main, x); };
+    on.elementMove = Button_MouseMove;
+    on.mouseDown = UnlessEnding(main, Form_MouseDown);
+    on.doubleClick = UnlessEnding(main, Form_DblClick);
+    on.keyDown = UnlessEnding(main, Form_KeyDown);
+    on.elementDown = UnlessEnding(main, PressElementOfMain);
+    on.elementClick = UnlessEnding(main, Button_Click);
+    main.platform.SetTickHandler([&main](Timer timer) { TickTimer(main, timer); });
+}
+
+void ShowStartNumbers(VMain& main) {
+    ShowNumber(main.VScore, 0);
+    main.Level = 1;
+    ShowNumber(main.VLevel, 0);  // until a game shows its own
+}
+
+void TakeHighScore(VMain& main) {
+    main.HighScore = main.RowScore[1];
+    ShowNumber(main.VHighScore, main.HighScore);
+}
+
+}  // namespace
+
+void Form_Load(VMain& main) {
+    for (const TimerRow& row : kTimers) main.platform.SetTimerInterval(row.timer, row.interval);
+    main.platform.SetOuterSize(main.window, kOuterSize);
+    StopGameTimers(main);
+    ShowStartNumbers(main);
+    ReadStartSettings(main);
+    TakeHighScore(main);
+    ReadAudioSettings(main);
+    main.GameMode = kMainMenu;
+    LoadPuzzles(main);
+    LoadPuzzleSolutions(main);
+    ReadSolvedPuzzles(main);
+    ShowMainMenu(main, true);
+    main.PuzzlePage = 1;
+    if (main.Music) main.platform.StartTimer(Timer::TimerPlayIntro);
+    ResetButtons(main);
+    main.TutorialActive = false;
+    main.TutorialStep = 0;
+}
+
+void Form_QueryUnload(VMain& main) { SaveSettings(main); }
+
+void Form_Unload(VMain& main) { StopMusic(main); }
+
+void TickTimer(VMain& main, Timer timer) {
+    for (const TimerRow& row : kTimers)
+        if (row.timer == timer) return row.tick(main);
+}
+
+void MakeMainWindow(VMain& main) {
+    Window& window = main.window;
+    window.name = "VMain";
+    window.title = "Prismfall v1.1";
+    window.innerWidth = kInnerSize.width;
+    window.innerHeight = kInnerSize.height;
+    window.background = "Background";
+    window.hasIcon = true;
+    window.elements = main.InStackingOrder();
+    Connect(main);
+    Form_Load(main);
+}
+
+}  // namespace prismfall

@@ -1,0 +1,114 @@
+// Drawing only what has changed must end in the picture that drawing everything gives, at every scale of the display.
+#include "backends/sdl/drawing/Composer.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace prismfall {
+namespace {
+
+constexpr int kWidth = Surface::kWidth;
+constexpr int kHeight = Surface::kHeight;
+
+// A picture of random colours, half of its pixels see-through.
+Image Speckled(int width, int height, std::mt19937& random) {
+    Image image(width, height);
+    for (std::uint32_t& pixel : image.pixels) {
+        const auto value = static_cast<std::uint32_t>(random());
+        pixel = Weakened(value | 0xFF000000, value & 1 ? 0xFF : value >> 8 & 0xFF);
+    }
+    return image;
+}
+
+class ComposerTest : public ::testing::TestWithParam<float> {
+  protected:
+    ComposerTest() : display(PictureStore("/nowhere")) {
+        display.SetScale(GetParam());
+        window.innerWidth = kWidth;
+        window.innerHeight = kHeight;
+        display.pictures.Add("A", Speckled(display.Pixels(60), display.Pixels(40), random));
+        display.pictures.Add("B", Speckled(display.Pixels(90), display.Pixels(90), random));
+        std::vector<Element> elements;
+        for (int i = 0; i < 8; ++i)
+            elements.push_back({.name = "e",
+                                .left = 50.0F + 20.0F * static_cast<float>(i),
+                                .top = 70,
+                                .width = 60,
+                                .height = 60,
+                                .picture = i % 2 ? "A" : "B"});
+        window.Own(std::move(elements));
+        for (std::size_t i = 4; i < 8; ++i) window.elements[i]->panel = window.elements[0];
+    }
+
+    int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
+
+    void ChangeSomething() {
+        Element& element = *window.elements[static_cast<std::size_t>(Below(8))];
+        switch (Below(6)) {
+            case 0:
+                element.visible = !element.visible;
+                break;
+            case 1:
+                element.left = static_cast<float>(Below(3000)) / 4;
+                break;
+            case 2:
+                element.top = static_cast<float>(Below(3000)) / 4 - 50;
+                break;
+            case 3:
+                element.picture = Below(2) ? "A" : "B";
+                break;
+            case 4:
+                layer.Restore(Below(kWidth), Below(kHeight), Below(kWidth), Below(kHeight));
+                break;
+            default:
+                layer.Line(Below(kWidth), Below(kHeight), Below(kWidth), Below(kHeight),
+                           static_cast<Colour>(Below(0x1000000)), 1 + Below(5));
+        }
+    }
+
+    void Draw(Composer& composer, Image& picture) {
+        Canvas canvas(picture.pixels.data(), picture.width, picture.height, picture.width);
+        for (const PixelBox& box : composer.TakeChanges(picture.width, picture.height)) composer.Compose(canvas, box);
+    }
+
+    std::mt19937 random{7};
+    Window window;
+    Surface layer;
+    Display display;
+};
+
+TEST_P(ComposerTest, PiecewiseDrawingGivesTheWholePicture) {
+    Composer composer(window, &layer, display);
+    Image piecewise(display.Pixels(kWidth), display.Pixels(kHeight));
+    Image whole = piecewise;
+    for (int round = 0; round < 40; ++round) {
+        for (int i = Below(5); i >= 0; --i) ChangeSomething();
+        Draw(composer, piecewise);
+        if (round % 8 != 7) continue;
+        Composer fresh(window, &layer, display);
+        Draw(fresh, whole);
+        ASSERT_TRUE(piecewise.pixels == whole.pixels) << "after round " << round;
+    }
+}
+
+TEST_P(ComposerTest, WhatHasNotChangedIsNotDrawn) {
+    Composer composer(window, &layer, display);
+    const int width = display.Pixels(kWidth);
+    const int height = display.Pixels(kHeight);
+    composer.TakeChanges(width, height);
+    window.elements[1]->visible = false;
+    composer.TakeChanges(width, height);
+    window.elements[1]->text = "hidden";
+    EXPECT_TRUE(composer.TakeChanges(width, height).empty());
+    layer.Line(300, 300, 301, 301, kRed, 5);
+    layer.Line(300, 298, 303, 301, kRed, 1);
+    const std::vector<PixelBox>& boxes = composer.TakeChanges(width, height);
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_LE(Area(boxes[0]), display.Pixels(14) * display.Pixels(14));
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, ComposerTest, ::testing::Values(0.75F, 1.0F, 1.5F, 2.0F));
+
+}  // namespace
+}  // namespace prismfall
