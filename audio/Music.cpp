@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
-#include <system_error>
 
 namespace prismfall {
 
@@ -27,19 +25,13 @@ constexpr std::array<LevelTrack, 9> kLevelTracks = {{
     {{9, 15, 21, 36, 42}, "Side_Scroller-Ocean.mp3"},
 }};
 
-// A current directory that has gone leaves a path that cannot be opened, and that is what the player is told.
-std::string TrackPath(std::string_view file) {
-    std::error_code ignored;
-    return (std::filesystem::current_path(ignored) / "music" / file).string();
-}
-
 }  // namespace
 
 void PlayMusicFile(VMain& main, std::string_view file, std::int16_t volume) {
     if (!main.Music) return;
     Platform& player = main.platform;
     player.MusicClose();
-    if (const int failure = player.MusicOpen(TrackPath(file)); failure != 0) {
+    if (const int failure = player.MusicOpen(file); failure != 0) {
         player.ShowMessageBox(player.MusicFailureText(failure));
         return;
     }

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "audio/Music.h"
+#include "game/GameTimers.h"
 #include "game/PuzzleMenu.h"
 #include "game/PuzzleStart.h"
 #include "game/Tutorial.h"
@@ -19,11 +20,6 @@ namespace prismfall {
 
 namespace {
 
-void Face(Element& button, std::string_view picture, std::string_view tag) {
-    button.picture = picture;
-    button.tag = tag;
-}
-
 // --- Starting.
 
 void ShowArcadeScreen(VMain& main) {
@@ -32,7 +28,7 @@ void ShowArcadeScreen(VMain& main) {
     ShowScoreboard(main, true);
     ClearLines(main);
     main.CollisionLineY = kArcadeCollisionLineY;
-    Face(main.cmdPause, "PauseUp", "");
+    ShowFace(main.cmdPause, kPauseFace);
     main.cmdPause.visible = true;
     main.platform.SurfaceClear();
 }
@@ -55,13 +51,13 @@ void MakeOpeningBeams(VMain& main) {
 
 void TakeOver(VMain& main) {
     main.GameMode = kPuzzleGame;
-    Face(main.CmdStart, "RestartUp", "Restart");
+    ShowFace(main.CmdStart, kRestartFace);
 }
 
 void StartWaitingPuzzle(VMain& main) {
     StartBeamTimers(main);
-    Face(main.CmdStart, "RestartUp", "Restart");
-    Face(main.cmdPause, "PauseUp", "");
+    ShowFace(main.CmdStart, kRestartFace);
+    ShowFace(main.cmdPause, kPauseFace);
     main.cmdPause.visible = true;
     main.GameRunning = true;
     main.PuzzleWaiting = false;
@@ -72,14 +68,14 @@ void StartWaitingPuzzle(VMain& main) {
 void StandStill(VMain& main) {
     main.GameRunning = false;
     StopGameTimers(main);
-    Face(main.cmdPause, "ResumeUp", "Resume");
+    ShowFace(main.cmdPause, kResumeFace);
 }
 
 void GoOn(VMain& main) {
     main.GameRunning = true;
     if (main.GameMode == kArcadeGame) main.platform.StartTimer(Timer::LineCreator);
     StartBeamTimers(main);
-    Face(main.cmdPause, "PauseUp", "");
+    ShowFace(main.cmdPause, kPauseFace);
 }
 
 // --- Leaving.

@@ -3,6 +3,7 @@
 
 #include "audio/Music.h"
 #include "audio/SoundEffects.h"
+#include "game/GameTimers.h"
 #include "game/HighScores.h"
 #include "game/PuzzleResult.h"
 #include "game/SolutionReplay.h"
@@ -37,7 +38,7 @@ void EndGame(VMain& main) {
     StopGameTimers(main);
     SaveScore(main);
     StopMusic(main);
-    main.platform.Yield();
+    main.platform.LetEventsRun();
     PlaySound2(main, kSoundGameOver, true);
     main.GameRunning = false;
     GameOverSweep(main);
@@ -47,7 +48,7 @@ void EndGame(VMain& main) {
 
 void WaitForBand(VMain& main) {
     const std::int64_t start = main.platform.Clock();
-    while (main.platform.Clock() - start < kSweepWait) main.platform.Yield();
+    while (main.platform.Clock() - start < kSweepWait) main.platform.LetEventsRun();
 }
 
 // The part of a beam that lies in the band above SweepY.

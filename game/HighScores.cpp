@@ -71,9 +71,9 @@ void MakeHighScores(VMain& main) {
                                   MakeHeading("Label12", 200, 4, 60, 37, "Start Level"),
                                   MakeHeading("Label13", 264, 5, 50, 36, "End Level")};
     for (std::size_t row = 0; row < kScoreRows; ++row) AddRow(table, row);
-    table.push_back(MakeButton("Command3", 22, 374, 191, 40, "ClearPuzzleProgressUp"));
-    table.push_back(MakeButton("Command1", 82, 412, 123, 36, "ClearScoresUp"));
-    table.push_back(MakeButton("Command2", 244, 402, 70, 47, "OKScoresUp"));
+    table.push_back(MakeButton("Command3", 22, 374, 191, 40, "ClearPuzzleProgressUp", "Clear puzzle progress"));
+    table.push_back(MakeButton("Command1", 82, 412, 123, 36, "ClearScoresUp", "Clear scores"));
+    table.push_back(MakeButton("Command2", 244, 402, 70, 47, "OKScoresUp", "OK"));
     main.VHighScore2->Own(std::move(table));
     WireDialog(main, *main.VHighScore2, kButtons);
 }

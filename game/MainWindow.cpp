@@ -6,6 +6,7 @@
 #include "audio/Music.h"
 #include "game/Buttons.h"
 #include "game/GameControl.h"
+#include "game/GameTimers.h"
 #include "game/GrowthTick.h"
 #include "game/PlayerInput.h"
 #include "game/PuzzleCatalogue.h"
@@ -16,7 +17,6 @@
 #include "screens/SettingsStore.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/Scoring.h"
-#include "state/GameModes.h"
 
 namespace prismfall {
 

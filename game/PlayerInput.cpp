@@ -37,7 +37,7 @@ void GuardedSpeedUp(VMain& main, CLine& beam) {
 void PlainSpeedUp(VMain& main, CLine& beam) {
     SpeedUpLine(main, beam, false);
     if (!AllLinesDeleted(main) || main.GameMode != kPuzzleGame) return;
-    main.platform.Yield();
+    main.platform.LetEventsRun();
     PlaySound2(main, kSoundPuzzleCleared, true);
 }
 

@@ -29,8 +29,18 @@ constexpr double kDesignHeight = 595;
 constexpr double kFillAcross = 0.97;
 constexpr double kFillDown = 0.85;
 
-constexpr std::array<std::string_view, kPageCount> kPagePictures = {"ImageBeginner", "ImageEasy", "ImageMedium",
-                                                                    "ImageHard", "ImagePro"};
+struct Page {
+    std::string_view picture;
+    std::string_view spoken;
+};
+
+constexpr std::array<Page, kPageCount> kPages = {{
+    {"ImageBeginner", "Beginner"},
+    {"ImageEasy", "Easy"},
+    {"ImageMedium", "Medium"},
+    {"ImageHard", "Hard"},
+    {"ImagePro", "Pro"},
+}};
 
 struct Cell {
     int left;  // without the playfield's own offset
@@ -100,7 +110,9 @@ void ShowPuzzleMenu(VMain& main, Boolean state) {
     for (int row = 0; row < kMenuRows; ++row)
         for (int column = 0; column < kMenuColumns; ++column) DrawCell(main, row, column);
     ShowMenuElements(main, true);
-    main.LabelPuzzlePage.picture = kPagePictures[static_cast<std::size_t>(main.PuzzlePage - 1)];
+    const Page& page = kPages[static_cast<std::size_t>(main.PuzzlePage - 1)];
+    main.LabelPuzzlePage.picture = page.picture;
+    main.LabelPuzzlePage.spoken = page.spoken;
 }
 
 void CommandPuzzle_Click(VMain& main) {

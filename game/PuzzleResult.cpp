@@ -44,15 +44,17 @@ constexpr std::array<ButtonRow, 4> kButtons = {{
 void MakeResult(VMain& main) {
     main.VPuzzleResult = MakeDialog("VPuzzleResult", "Puzzle Result", 512, 266);
     main.VPuzzleResult->Own({MakePicture("ImageMessage", 103, 59, 320, 70),
-                             MakeButton("CommandSolution", 15, 206, 169, 44, "ShowSolutionUp"),
-                             MakeButton("Command1", 225, 203, 83, 47, "MenuResultUp"),
-                             MakeButton("CommandNext", 343, 201, 155, 53, "NextPuzzleUp"),
-                             MakeButton("CommandTryAgain", 376, 202, 125, 51, "TryAgainUp")});
+                             MakeButton("CommandSolution", 15, 206, 169, 44, "ShowSolutionUp", "Show solution"),
+                             MakeButton("Command1", 225, 203, 83, 47, "MenuResultUp", "Menu"),
+                             MakeButton("CommandNext", 343, 201, 155, 53, "NextPuzzleUp", "Next puzzle"),
+                             MakeButton("CommandTryAgain", 376, 202, 125, 51, "TryAgainUp", "Try again")});
     WireDialog(main, *main.VPuzzleResult, kButtons);
 }
 
 void ShowMessage(Window& dialog, Boolean Solved) {
-    dialog["ImageMessage"].picture = Solved ? "PuzzleSolved" : "YouFailed";
+    Element& message = dialog["ImageMessage"];
+    message.picture = Solved ? "PuzzleSolved" : "YouFailed";
+    message.spoken = Solved ? "You Succeeded!" : "Puzzle Failed...";
 }
 
 }  // namespace

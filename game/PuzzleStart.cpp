@@ -2,6 +2,7 @@
 #include "game/PuzzleStart.h"
 
 #include "audio/Music.h"
+#include "game/GameTimers.h"
 #include "game/PuzzleCatalogue.h"
 #include "game/PuzzleMenu.h"
 #include "screens/MainMenu.h"
@@ -9,7 +10,6 @@
 #include "simulation/BeamSpawning.h"
 #include "simulation/CollisionDetection.h"
 #include "simulation/Playfield.h"
-#include "state/GameModes.h"
 
 namespace prismfall {
 
@@ -39,24 +39,22 @@ void ShowPuzzleScreen(VMain& main) {
     ShowNumber(main.LabelPuzzleNr, main.CurrentPuzzle);
 }
 
-void ShowButtons(VMain& main, std::string_view startFace, std::string_view startTag) {
-    main.CmdStart.picture = startFace;
-    main.CmdStart.tag = startTag;
-    main.cmdPause.picture = "PauseUp";
-    main.cmdPause.tag = "";
+void ShowButtons(VMain& main, const ButtonFace& startFace) {
+    ShowFace(main.CmdStart, startFace);
+    ShowFace(main.cmdPause, kPauseFace);
 }
 
 void WaitForPlayer(VMain& main) {
     StopBeamTimers(main);
     main.GameRunning = false;
-    ShowButtons(main, "StartUp", "");
+    ShowButtons(main, kStartFace);
     main.PuzzleWaiting = true;
 }
 
 void RunAtOnce(VMain& main) {
     StartBeamTimers(main);
     main.GameRunning = true;
-    ShowButtons(main, "TakeoverUp", "Takeover");
+    ShowButtons(main, kTakeoverFace);
 }
 
 void LayOutBeam(VMain& main, CatalogueEntry record) {

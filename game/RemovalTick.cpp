@@ -1,6 +1,7 @@
 // See RemovalTick.h.
 #include "game/RemovalTick.h"
 
+#include "game/GameTimers.h"
 #include "game/PuzzleResult.h"
 #include "simulation/BeamRemoval.h"
 #include "state/GameModes.h"

@@ -30,7 +30,7 @@ std::optional<ScriptStep> StepFor(CatalogueEntry script, const CLine& beam) {
 
 void SoundIfCleared(VMain& main) {
     if (!AllLinesDeleted(main) || main.GameMode != kSolutionReplay) return;
-    main.platform.Yield();
+    main.platform.LetEventsRun();
     PlaySound2(main, kSoundPuzzleCleared, true);
 }
 

@@ -47,13 +47,16 @@ struct Element {
     bool visible = true;
     bool enabled = true;                // a disabled element is not there for the mouse
     std::string_view picture = {};      // name of the picture it shows, empty for none
+    std::string_view spoken = {};       // what a screen reader says of it where no text stands, empty for decoration
     std::string text = {};              // starts at the left and top edge; what does not fit is cut off
     std::string_view tag = {};          // which of several pairs of faces a button has
     Colour colour = kBlack;             // of text, marks and outlines
     std::optional<Colour> ground = {};  // what a label stands on; without it the text lies on what is below
     Font font = {};
-    bool wraps = false;              // break the text into lines at the box's right edge
-    bool checked = false;            // radio buttons and check boxes
+    bool wraps = false;    // break the text into lines at the box's right edge
+    int fitHeight = 0;     // above 0 the text is set smaller than its font, if need be, to end within this height
+    bool checked = false;  // radio buttons and check boxes
+    std::string_view group = {};     // radio buttons of one name: one of them is checked
     const Element* panel = nullptr;  // the element that this one lies in and is hidden with
 
     bool operator==(const Element&) const = default;

@@ -1,5 +1,5 @@
 // Everything that the game asks of a machine: one surface, windows, timers, a clock, random numbers, settings, sounds
-// and music. Backends live in folders beside this file; the game knows this interface alone. Version 1.
+// and music. Backends live in backends/; the game knows this interface alone. Version 2.
 //
 // Everything happens on one thread. Places and widths are game pixels, times are milliseconds. No call fails in a way
 // that the game has to handle: a backend that cannot do a thing does nothing, but for the opening of music.
@@ -8,9 +8,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Element.h"
 #include "platform/Window.h"
@@ -42,6 +44,10 @@ struct SettingValue {
     std::string key;
     std::string text;
 };
+
+// The text that a store holds, or nothing.
+using SettingsReader = std::function<std::optional<std::string>(std::string_view section, std::string_view key)>;
+using SettingsChange = std::function<std::vector<SettingValue>(const SettingsReader& stored)>;
 
 class Platform {
   public:
@@ -79,7 +85,8 @@ class Platform {
     virtual void SetPosition(Window& window, Place place) = 0;
     // An error box with an OK button; returns when the player has dismissed it.
     virtual void ShowMessageBox(std::string_view text) = 0;
-    // Ends the program at once. A backend that outlives the program may return; no handler is called after that.
+    // Ends the program at once. It may return where a program cannot end its own process, as in a browser; no handler
+    // is called after that, and the caller has to return as well.
     virtual void EndProgram() = 0;
 
     // --- Timers: repeating, each calling the one tick handler with its name.
@@ -95,7 +102,7 @@ class Platform {
     // --- Time and chance.
 
     // Lets pending events run: what has changed is painted, due timers tick, input is handled.
-    virtual void Yield() = 0;
+    virtual void LetEventsRun() = 0;
     // Milliseconds from some fixed moment; never runs backwards.
     virtual std::int64_t Clock() = 0;
     // Uniform from 0 up to but not including 1.
@@ -106,8 +113,11 @@ class Platform {
 
     virtual std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                                     std::string_view fallback) = 0;
-    // Stores all the values or none: whatever happens meanwhile, the old store or the new one is found afterwards.
-    virtual void WriteSettings(std::string_view application, std::span<const SettingValue> values) = 0;
+    // Changes the store in one step that no other run of the program can come between: `change` is handed a way to read
+    // what the store holds now, whoever wrote it, and returns the values to write. All of them are stored or none:
+    // whatever happens meanwhile, the old store or the new one is found afterwards. False if nothing could be stored;
+    // the backend tells the player.
+    virtual bool ChangeSettings(std::string_view application, const SettingsChange& change) = 0;
 
     // --- Sound: one at a time, a new one cuts off the old. The bytes stay valid for the whole run.
 
@@ -118,8 +128,9 @@ class Platform {
     // --- Music: one player with one file. Calls without an open file do nothing.
 
     virtual void MusicClose() = 0;
-    // Opens an MP3 file. 0, or a code that MusicFailureText turns into a sentence.
-    virtual int MusicOpen(const std::string& path) = 0;
+    // Opens a track by the name of its MP3 file; where tracks lie is the backend's business. 0, or a code that
+    // MusicFailureText turns into a sentence.
+    virtual int MusicOpen(std::string_view name) = 0;
     virtual void MusicSetVolume(int volume) = 0;  // 0 to 1000
     virtual void MusicPlayLooping() = 0;
     virtual void MusicResume() = 0;  // plays on to the track's end, once

@@ -25,7 +25,8 @@ struct WindowHandlers {
     std::function<void()> doubleClick;  // the second press of a double click, in place of mouseDown
     std::function<void(std::int16_t code)> keyDown;
     std::function<void(bool minimised)> resize;
-    std::function<void()> queryUnload;  // the window is about to close by its close box
+    std::function<void()> queryUnload;  // the window may be about to go; can come more than once, as where a hidden
+                                        // page may never be seen again
     std::function<void()> unload;       // the window goes
     std::function<void(Element&)> elementMove;
     std::function<void(Element&, MouseButton button, float x, float y)> elementDown;

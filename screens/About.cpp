@@ -1,6 +1,7 @@
 // See About.h.
 #include "screens/About.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -31,6 +32,7 @@ constexpr std::string_view kObjective =
     "Bend the beams by clicking on their ends. When beams of the same color collide they are destroyed. You can make "
     "them go faster with Mouse Right button. Hurry up before they reach the ground! In Puzzle mode all beams must be "
     "destroyed.";
+constexpr int kObjectiveHeight = 74;  // from Label11's top to above the lower edge of Shape1
 constexpr std::string_view kDoubling = "The score is doubled for each additional beam in a single collition";
 
 constexpr std::array<Text, 20> kTexts = {{
@@ -74,15 +76,17 @@ std::vector<Element> MakeElements() {
     std::vector<Element> table;
     table.reserve(kTexts.size() + 3);
     for (const Text& text : kTexts) table.push_back(MakeText(text));
+    std::ranges::find(table, "Label11", &Element::name)->fitHeight = kObjectiveHeight;
     Element picture = MakePicture("Image1", 202, 28, 195, 58);
     picture.picture = "AboutPicture";
+    picture.spoken = "Prismfall";
     table.push_back(picture);
     Element outline = MakePicture("Shape1", 12, 90, 383, 105);
     outline.kind = ElementKind::Outline;
     outline.picture = {};
     outline.colour = kCream;
     table.push_back(outline);
-    table.push_back(MakeButton("Command1", 176, 422, 65, 50, "OKAboutUp"));
+    table.push_back(MakeButton("Command1", 176, 422, 65, 50, "OKAboutUp", "OK"));
     return table;
 }
 

@@ -43,7 +43,7 @@ void TimerA_Timer(VMain& main) {
     const double longest = main.ImageA.visible ? kLongestDark : kLongestLit;
     main.ImageA.visible = !main.ImageA.visible;
     main.platform.SetTimerInterval(Timer::TimerA, Rounded(longest * main.platform.Random()));
-    main.platform.Yield();
+    main.platform.LetEventsRun();
     PlaySound2(main, kSoundFlicker, true);
 }
 

@@ -69,14 +69,16 @@ Element MakeElement(std::string_view name, ElementKind kind, int left, int top, 
 
 std::vector<Element> MakeElements() {
     std::vector<Element> table = {MakeElement("Frame1", ElementKind::GroupFrame, 21, 16, 89, 265, "Start Level")};
-    for (std::size_t i = 0; i < kLevelOptions.size(); ++i)
+    for (std::size_t i = 0; i < kLevelOptions.size(); ++i) {
         table.push_back(MakeElement(kLevelOptions[i], ElementKind::RadioButton, 29,
                                     kFirstOptionY + kOptionStep * static_cast<int>(i), 65, 17,
                                     "Level " + std::to_string(i + 1)));
+        table.back().group = "Start Level";
+    }
     table.push_back(MakeElement("Frame2", ElementKind::GroupFrame, 135, 17, 82, 83, "Sound"));
     table.push_back(MakeElement("CheckSoundEffects", ElementKind::CheckBox, 144, 32, 63, 38, "Effects"));
     table.push_back(MakeElement("CheckMusic", ElementKind::CheckBox, 144, 56, 63, 41, "Music"));
-    table.push_back(MakeButton("Command1", 142, 238, 73, 49, "OKOptionsUp"));
+    table.push_back(MakeButton("Command1", 142, 238, 73, 49, "OKOptionsUp", "OK"));
     return table;
 }
 

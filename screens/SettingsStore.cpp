@@ -108,7 +108,7 @@ void SaveSettings(VMain& main) {
     }
     for (std::size_t puzzle = 1; puzzle <= kPuzzleCount; ++puzzle)
         sheet.Add(kSolvedPuzzles, KeyOf("Puzzle", puzzle), main.SolvedPuzzles[puzzle - 1]);
-    main.platform.WriteSettings(kApplication, sheet.Values());
+    main.platform.ChangeSettings(kApplication, [&sheet](const SettingsReader&) { return sheet.Values(); });
 }
 
 }  // namespace prismfall

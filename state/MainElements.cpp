@@ -14,17 +14,18 @@ struct TutorialPicture {
     std::string_view name;
     int width;
     int height;
+    std::string_view spoken;
 };
 
 constexpr std::array<TutorialPicture, kTutorialPictureCount> kTutorialPictures = {{
-    {"PictTut1", 209, 114},
-    {"PictTut2", 216, 148},
-    {"PictTut3", 184, 89},
-    {"PictTut4", 191, 165},
-    {"PictTut5", 197, 116},
-    {"PictTut6", 186, 149},
-    {"PictTut7", 213, 94},
-    {"PictTut8", 200, 109},
+    {"PictTut1", 209, 114, "In puzzle mode the goal is to clear all beams before they reach the ground"},
+    {"PictTut2", 216, 148, "Bend the red beam by clicking on the end"},
+    {"PictTut3", 184, 89, "The yellow beam is stopped by the red"},
+    {"PictTut4", 191, 165, "Start the blue non-moving beam by clicking on the end"},
+    {"PictTut5", 197, 116, "The beam is reflected by the wall"},
+    {"PictTut6", 186, 149, "When beams of the same color collide they are destroyed"},
+    {"PictTut7", 213, 94, "Make the red beam go faster by right-clicking on the end"},
+    {"PictTut8", 200, 109, "If the yellow beam reaches the ground the game is over!"},
 }};
 
 Element MakeSolvedMark(std::string_view name) {
@@ -47,8 +48,10 @@ MainElements::MainElements() {
         const TutorialPicture& picture = kTutorialPictures[i];
         PictTut[i] = MakePicture(picture.name, 0, 0, picture.width, picture.height);
         PictTut[i].kind = ElementKind::PressPicture;
+        PictTut[i].spoken = picture.spoken;
         PictTut[i].visible = false;
     }
+    ImagePrismfall.spoken = "Prismfall";
     LabelPuzzlePage.picture = {};
 }
 

@@ -21,11 +21,32 @@ inline Element MakePicture(std::string_view name, int left, int top, int width, 
             .picture = name};
 }
 
-inline Element MakeButton(std::string_view name, int left, int top, int width, int height, std::string_view face) {
+inline Element MakeButton(std::string_view name, int left, int top, int width, int height, std::string_view face,
+                          std::string_view spoken) {
     Element button = MakePicture(name, left, top, width, height);
     button.kind = ElementKind::Button;
     button.picture = face;
+    button.spoken = spoken;
     return button;
+}
+
+// What the buttons that change their meaning show and say.
+struct ButtonFace {
+    std::string_view picture;
+    std::string_view tag;
+    std::string_view spoken;
+};
+
+inline constexpr ButtonFace kStartFace{"StartUp", "", "Start"};
+inline constexpr ButtonFace kRestartFace{"RestartUp", "Restart", "Restart"};
+inline constexpr ButtonFace kTakeoverFace{"TakeoverUp", "Takeover", "Take over"};
+inline constexpr ButtonFace kPauseFace{"PauseUp", "", "Pause"};
+inline constexpr ButtonFace kResumeFace{"ResumeUp", "Resume", "Resume"};
+
+inline void ShowFace(Element& button, const ButtonFace& face) {
+    button.picture = face.picture;
+    button.tag = face.tag;
+    button.spoken = face.spoken;
 }
 
 // A number in red on a panel's picture.
@@ -42,10 +63,10 @@ inline Element MakeNumber(std::string_view name, const Element& panel, int left,
 struct MainElements {
     Element ImagePrismfall = MakePicture("ImagePrismfall", 46, 101, 586, 205);
     Element ImageA = MakePicture("ImageA", 544, 102, 84, 87);
-    Element CommandPuzzle = MakeButton("CommandPuzzle", 160, 408, 133, 54, "PuzzleUp");
-    Element CommandArcade = MakeButton("CommandArcade", 400, 409, 151, 58, "ArcadeUp");
-    Element CommandPrevious = MakeButton("CommandPrevious", 679, 27, 121, 37, "PreviousUp");
-    Element CommandNext = MakeButton("CommandNext", 693, 71, 97, 33, "NextUp");
+    Element CommandPuzzle = MakeButton("CommandPuzzle", 160, 408, 133, 54, "PuzzleUp", "Puzzle");
+    Element CommandArcade = MakeButton("CommandArcade", 400, 409, 151, 58, "ArcadeUp", "Arcade");
+    Element CommandPrevious = MakeButton("CommandPrevious", 679, 27, 121, 37, "PreviousUp", "Previous page");
+    Element CommandNext = MakeButton("CommandNext", 693, 71, 97, 33, "NextUp", "Next page");
     Element LabelPuzzlePage = MakePicture("LabelPuzzlePage", 680, 110, 129, 57);
     Element PictureScores = MakePicture("PictureScores", 682, -1, 120, 114);
     Element VScore = MakeNumber("VScore", PictureScores, 57, 22, 57, 23);
@@ -53,12 +74,12 @@ struct MainElements {
     Element VHighScore = MakeNumber("VHighScore", PictureScores, 57, 80, 57, 23);
     Element PictureScores2 = MakePicture("PictureScores2", 682, -1, 120, 114);
     Element LabelPuzzleNr = MakeNumber("LabelPuzzleNr", PictureScores2, 76, 22, 23, 21);
-    Element CmdStart = MakeButton("CmdStart", 690, 223, 100, 54, "StartUp");
-    Element cmdPause = MakeButton("cmdPause", 695, 294, 89, 38, "PauseUp");
-    Element CmdOptions = MakeButton("CmdOptions", 696, 362, 97, 39, "OptionsUp");
-    Element CmdScores = MakeButton("CmdScores", 691, 428, 107, 34, "ScoresUp");
-    Element CmdAbout = MakeButton("CmdAbout", 698, 479, 86, 44, "AboutUp");
-    Element CommandExit = MakeButton("CommandExit", 711, 540, 59, 37, "ExitUp");
+    Element CmdStart = MakeButton("CmdStart", 690, 223, 100, 54, "StartUp", "Start");
+    Element cmdPause = MakeButton("cmdPause", 695, 294, 89, 38, "PauseUp", "Pause");
+    Element CmdOptions = MakeButton("CmdOptions", 696, 362, 97, 39, "OptionsUp", "Options");
+    Element CmdScores = MakeButton("CmdScores", 691, 428, 107, 34, "ScoresUp", "Scores");
+    Element CmdAbout = MakeButton("CmdAbout", 698, 479, 86, 44, "AboutUp", "About");
+    Element CommandExit = MakeButton("CommandExit", 711, 540, 59, 37, "ExitUp", "Exit");
     std::array<Element, kPreviewCount> LabelSolved;      // the marks of the puzzle menu's previews
     std::array<Element, kTutorialPictureCount> PictTut;  // PictTut1 to PictTut8
     Element LabelMulti = {.name = "LabelMulti",          // the score pop-up

@@ -1,8 +1,6 @@
 // See HeadlessPlatform.h.
 #include "backends/headless/HeadlessPlatform.h"
 
-#include <filesystem>
-
 #include "backends/headless/PrintFormat.h"
 
 namespace prismfall {
@@ -143,7 +141,7 @@ void HeadlessPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
 
 void HeadlessPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
 
-void HeadlessPlatform::Yield() {
+void HeadlessPlatform::LetEventsRun() {
     timers.MoveTo(timers.Now() + 1);
     FireDue(timers.Now());
 }
@@ -167,8 +165,11 @@ std::string HeadlessPlatform::ReadSetting(std::string_view, std::string_view sec
     return value == store.end() ? std::string(fallback) : value->second;
 }
 
-void HeadlessPlatform::WriteSettings(std::string_view, std::span<const SettingValue> values) {
-    for (const SettingValue& value : values) PutSetting(value.section, value.key, value.text);
+// The change reads an empty store, so the script's store takes every value of a save, whatever it held.
+bool HeadlessPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
+    const auto empty = [](std::string_view, std::string_view) { return std::nullopt; };
+    for (const SettingValue& value : change(empty)) PutSetting(value.section, value.key, value.text);
+    return true;
 }
 
 // --- Sound and music.
@@ -179,8 +180,8 @@ void HeadlessPlatform::PlayWave(Wave wave, bool wait) {
 
 void HeadlessPlatform::MusicClose() { out << "music close\n"; }
 
-int HeadlessPlatform::MusicOpen(const std::string& path) {
-    out << "music open \"" << std::filesystem::path(path).filename().string() << "\"\n";
+int HeadlessPlatform::MusicOpen(std::string_view name) {
+    out << "music open \"" << name << "\"\n";
     return isMusicPresent ? 0 : kCannotOpen;
 }
 

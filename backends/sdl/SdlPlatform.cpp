@@ -176,7 +176,7 @@ void SdlPlatform::SetTimerInterval(Timer timer, int milliseconds) {
     loop.Timers().SetInterval(timer, milliseconds, EventLoop::Now());
 }
 
-void SdlPlatform::Yield() { loop.Yield(); }
+void SdlPlatform::LetEventsRun() { loop.LetEventsRun(); }
 
 std::int64_t SdlPlatform::Clock() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(EventLoop::Now()).count();
@@ -198,9 +198,12 @@ std::string SdlPlatform::ReadSetting(std::string_view, std::string_view section,
     return settings.Read(section, key).value_or(std::string(fallback));
 }
 
-void SdlPlatform::WriteSettings(std::string_view, std::span<const SettingValue> values) {
+bool SdlPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
+    const std::vector<SettingValue> values =
+        change([this](std::string_view section, std::string_view key) { return settings.Read(section, key); });
     const std::string failure = settings.Write(values);
     if (!failure.empty()) std::fprintf(stderr, "prismfall: %s\n", failure.c_str());
+    return failure.empty();
 }
 
 void SdlPlatform::PlayWave(Wave wave, bool wait) {
@@ -212,7 +215,12 @@ void SdlPlatform::MusicClose() {
     audio.DoWithMusic([](SdlMusic& music) { music.Close(); });
 }
 
-int SdlPlatform::MusicOpen(const std::string& path) { return audio.MusicOpen(path); }
+// Tracks lie in the folder `music` of the current one. A current folder that has gone leaves a path that cannot be
+// opened, and that is what the player is told.
+int SdlPlatform::MusicOpen(std::string_view name) {
+    std::error_code ignored;
+    return audio.MusicOpen((std::filesystem::current_path(ignored) / "music" / name).string());
+}
 
 void SdlPlatform::MusicSetVolume(int volume) {
     audio.DoWithMusic([volume](SdlMusic& music) { music.SetVolume(volume); });

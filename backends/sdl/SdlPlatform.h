@@ -46,19 +46,19 @@ class SdlPlatform final : public Platform {
     void StopTimer(Timer timer) override;
     void SetTimerInterval(Timer timer, int milliseconds) override;
 
-    void Yield() override;
+    void LetEventsRun() override;
     std::int64_t Clock() override;
     double Random() override;
     void SeedRandomFromClock() override;
 
     std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view fallback) override;
-    void WriteSettings(std::string_view application, std::span<const SettingValue> values) override;
+    bool ChangeSettings(std::string_view application, const SettingsChange& change) override;
 
     void PlayWave(Wave wave, bool wait) override;
 
     void MusicClose() override;
-    int MusicOpen(const std::string& path) override;
+    int MusicOpen(std::string_view name) override;
     void MusicSetVolume(int volume) override;
     void MusicPlayLooping() override;
     void MusicResume() override;

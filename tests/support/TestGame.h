@@ -24,9 +24,9 @@ class TestMachine : public HeadlessPlatform {
         if (onDialog) onDialog(dialog);
         return HeadlessPlatform::ShowModally(dialog);
     }
-    void Yield() override {
+    void LetEventsRun() override {
         if (onYield) onYield();
-        HeadlessPlatform::Yield();
+        HeadlessPlatform::LetEventsRun();
     }
 };
 

@@ -82,7 +82,7 @@ void EventLoop::RunWhile(const std::function<bool()>& goesOn) {
     for (Work(); goesOn(); Work()) Rest();
 }
 
-void EventLoop::Yield() {
+void EventLoop::LetEventsRun() {
     if (Work()) return;
     const Nanoseconds end = Now() + kYieldRest;
     SleepUntil(std::min(end, timers.NextDue().value_or(end)));

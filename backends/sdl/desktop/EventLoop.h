@@ -23,7 +23,7 @@ class EventLoop {
     // Runs inside a handler as long as `goesOn` holds.
     void RunWhile(const std::function<bool()>& goesOn);
     // Handles what is pending. If nothing is, rests for a moment, so that a caller may wait by calling it again.
-    void Yield();
+    void LetEventsRun();
     // Waits for a length of time in which nothing happens but painting.
     void PaintFor(Nanoseconds length);
 

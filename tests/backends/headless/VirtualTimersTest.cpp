@@ -73,7 +73,7 @@ TEST_F(TimerTest, ARunningHandlerIsNotCalledInsideItself) {
     onTick = [&](Timer timer) {
         if (timer != Timer::LineExtender) return;
         EXPECT_EQ(++depth, 1);
-        while (machine.Clock() < 40) machine.Yield();
+        while (machine.Clock() < 40) machine.LetEventsRun();
         --depth;
     };
     EXPECT_EQ(Run(40), "10:E 15:D 30:D 40:E 40:E 40:E ") << "it catches up when its handler has ended";
