@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "backends/headless/HeadlessPlatform.h"
-#include "backends/sdl/settings/SettingsText.h"
 #include "game/MainWindow.h"
+#include "platform/SettingsText.h"
 #include "screens/SettingsStore.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

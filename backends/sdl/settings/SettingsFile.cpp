@@ -12,7 +12,7 @@
 #include <cstring>
 #include <vector>
 
-#include "backends/sdl/settings/SettingsText.h"
+#include "platform/SettingsText.h"
 
 namespace prismfall {
 

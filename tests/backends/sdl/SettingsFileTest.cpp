@@ -13,7 +13,7 @@
 #include <sstream>
 #include <thread>
 
-#include "backends/sdl/settings/SettingsText.h"
+#include "platform/SettingsText.h"
 
 namespace prismfall {
 namespace {

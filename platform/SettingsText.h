@@ -1,5 +1,5 @@
-// The text of a settings file: sections in brackets, lines of a key, an equals sign and a value. Every text can be
-// stored, whatever bytes it holds; a damaged line costs itself alone. Files are another's concern.
+// The text that settings are kept as: sections in brackets, lines of a key, an equals sign and a value. Every text can
+// be stored, whatever bytes it holds; a damaged line costs itself alone. Where the text is kept is another's concern.
 #pragma once
 
 #include <map>

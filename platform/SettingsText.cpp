@@ -1,11 +1,9 @@
 // Reading and writing lines. Bytes that would not survive on a line of their own are written as \x and two hexadecimal
 // digits.
-#include "backends/sdl/settings/SettingsText.h"
+#include "platform/SettingsText.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <cstdio>
 #include <optional>
 
 namespace prismfall {
@@ -13,6 +11,7 @@ namespace prismfall {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r";
+constexpr std::string_view kDigits = "0123456789ABCDEF";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::string_view Trimmed(std::string_view text) {
@@ -33,9 +32,7 @@ std::string Escaped(std::string_view text, std::string_view reserved) {
             result += text[i];
             continue;
         }
-        std::array<char, 8> code{};
-        std::snprintf(code.data(), code.size(), "\\x%02X", byte);
-        result += code.data();
+        result.append("\\x").append({kDigits[byte / 16], kDigits[byte % 16]});
     }
     return result;
 }
