@@ -1,4 +1,3 @@
-// See Music.h.
 #include "audio/Music.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// See SoundEffects.h.
 #include "audio/SoundEffects.h"
 
 #include "audio/SoundResources.h"

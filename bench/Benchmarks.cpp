@@ -8,6 +8,7 @@
 #include "bench/BareField.h"
 #include "game/GrowthTick.h"
 #include "game/PlayerInput.h"
+#include "simulation/BeamControl.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/CollisionDetection.h"
 #include "simulation/Playfield.h"

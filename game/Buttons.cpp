@@ -1,4 +1,3 @@
-// See Buttons.h.
 #include "game/Buttons.h"
 
 #include <array>

@@ -1,4 +1,3 @@
-// See GameControl.h.
 #include "game/GameControl.h"
 
 #include <string_view>

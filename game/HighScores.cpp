@@ -1,4 +1,3 @@
-// See HighScores.h.
 #include "game/HighScores.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// See MainWindow.h.
 #include "game/MainWindow.h"
 
 #include <array>

@@ -1,4 +1,3 @@
-// See PuzzleMenu.h.
 #include "game/PuzzleMenu.h"
 
 #include <array>

@@ -1,4 +1,3 @@
-// See PuzzleResult.h.
 #include "game/PuzzleResult.h"
 
 #include <array>

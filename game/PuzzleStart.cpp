@@ -1,4 +1,3 @@
-// See PuzzleStart.h.
 #include "game/PuzzleStart.h"
 
 #include "audio/Music.h"

@@ -1,4 +1,3 @@
-// See RemovalTick.h.
 #include "game/RemovalTick.h"
 
 #include "game/GameTimers.h"

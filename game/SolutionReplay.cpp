@@ -1,9 +1,8 @@
-// See SolutionReplay.h.
 #include "game/SolutionReplay.h"
 
 #include "audio/SoundEffects.h"
-#include "game/PlayerInput.h"
 #include "game/PuzzleCatalogue.h"
+#include "simulation/BeamControl.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/Playfield.h"

@@ -1,10 +1,9 @@
-// See Tutorial.h.
 #include "game/Tutorial.h"
 
 #include <algorithm>
 #include <array>
 
-#include "game/PlayerInput.h"
+#include "simulation/BeamControl.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/Playfield.h"
 

@@ -1,4 +1,3 @@
-// See About.h.
 #include "screens/About.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// See ButtonFaces.h.
 #include "screens/ButtonFaces.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// See Dialogs.h.
 #include "screens/Dialogs.h"
 
 namespace prismfall {

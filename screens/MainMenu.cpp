@@ -1,4 +1,3 @@
-// See MainMenu.h.
 #include "screens/MainMenu.h"
 
 #include "audio/SoundEffects.h"

@@ -1,4 +1,3 @@
-// See Options.h.
 #include "screens/Options.h"
 
 #include <array>

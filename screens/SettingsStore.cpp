@@ -1,4 +1,3 @@
-// See SettingsStore.h.
 #include "screens/SettingsStore.h"
 
 #include <algorithm>

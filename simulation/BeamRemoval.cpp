@@ -1,4 +1,3 @@
-// See BeamRemoval.h.
 #include "simulation/BeamRemoval.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// See BeamSpawning.h.
 #include "simulation/BeamSpawning.h"
 
 #include <algorithm>

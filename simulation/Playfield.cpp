@@ -1,4 +1,3 @@
-// See Playfield.h.
 #include "simulation/Playfield.h"
 
 namespace prismfall {

@@ -1,4 +1,3 @@
-// See Scoring.h.
 #include "simulation/Scoring.h"
 
 #include <algorithm>

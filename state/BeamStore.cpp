@@ -1,4 +1,3 @@
-// See BeamStore.h.
 #include "state/BeamStore.h"
 
 #include <utility>

@@ -1,4 +1,3 @@
-// See CLine.h.
 #include "state/CLine.h"
 
 namespace prismfall {

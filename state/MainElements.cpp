@@ -1,4 +1,3 @@
-// See MainElements.h.
 #include "state/MainElements.h"
 
 namespace prismfall {

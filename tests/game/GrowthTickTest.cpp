@@ -1,4 +1,5 @@
 // One growth tick: who moves, what a step meets, and in which order. And the end of a game.
+#include "game/GameEnd.h"
 #include "game/GrowthTick.h"
 
 #include <gtest/gtest.h>

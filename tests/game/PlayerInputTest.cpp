@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "game/GrowthTick.h"
+#include "simulation/BeamControl.h"
 #include "simulation/Playfield.h"
 #include "tests/support/TestGame.h"
 

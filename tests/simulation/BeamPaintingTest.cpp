@@ -7,6 +7,7 @@
 #include "game/GrowthTick.h"
 #include "game/PlayerInput.h"
 #include "game/RemovalTick.h"
+#include "simulation/BeamControl.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/Playfield.h"
 #include "tests/support/TestGame.h"

@@ -6,6 +6,7 @@
 #include "game/GameControl.h"
 #include "game/PlayerInput.h"
 #include "game/PuzzleStart.h"
+#include "simulation/BeamControl.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {

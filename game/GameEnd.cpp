@@ -1,0 +1,71 @@
+#include "game/GameEnd.h"
+
+#include "audio/Music.h"
+#include "audio/SoundEffects.h"
+#include "game/GameTimers.h"
+#include "game/HighScores.h"
+#include "game/PuzzleResult.h"
+#include "screens/MainMenu.h"
+#include "simulation/Playfield.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr int kSweepBand = 20;           // pixels
+constexpr std::int64_t kSweepWait = 10;  // milliseconds a band
+
+void WaitForBand(VMain& main) {
+    const std::int64_t start = main.platform.Clock();
+    while (main.platform.Clock() - start < kSweepWait) main.platform.LetEventsRun();
+}
+
+// The part of a beam that lies in the band above SweepY.
+void SweepBeam(VMain& main, const CLine& beam) {
+    if (main.SweepY > beam.YEnd + kSweepBand || main.SweepY < beam.YStart) return;
+    const int sideways = beam.Direction == kRightwards ? 1 : -1;
+    const int down = main.SweepY - beam.YStart;
+    int x1 = beam.XStart + sideways * (down - kSweepBand);
+    int y1 = main.SweepY - kSweepBand;
+    int x2 = beam.XStart + sideways * down;
+    int y2 = main.SweepY;
+    if (y1 < beam.YStart) {
+        x1 = beam.XStart;
+        y1 = beam.YStart;
+    }
+    if (y2 > beam.YEnd) {
+        x2 = beam.XEnd;
+        y2 = beam.YEnd;
+    }
+    DrawLine(main, x1, y1, x2, y2, kGrey, beam.Direction);
+}
+
+void ShowEnd(VMain& main) {
+    if (main.GameMode != kArcadeGame) return ShowPuzzleResult(main, false);
+    ShowHighScores(main);
+    ShowMainMenu(main, true);
+}
+
+}  // namespace
+
+void EndGame(VMain& main) {
+    main.GameEnding = true;
+    StopGameTimers(main);
+    SaveScore(main);
+    StopMusic(main);
+    main.platform.LetEventsRun();
+    PlaySound2(main, kSoundGameOver, true);
+    main.GameRunning = false;
+    GameOverSweep(main);
+    ShowEnd(main);
+    main.GameEnding = false;
+}
+
+void GameOverSweep(VMain& main) {
+    for (main.SweepY = kFloor; main.SweepY >= kPlayfieldTop; main.SweepY = Saturated(main.SweepY - kSweepBand)) {
+        WaitForBand(main);
+        for (const CLine* beam : main.Lines) SweepBeam(main, *beam);
+    }
+}
+
+}  // namespace prismfall
