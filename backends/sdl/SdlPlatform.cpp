@@ -8,9 +8,9 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "backends/sdl/desktop/DesktopHints.h"
 #include "backends/sdl/desktop/MessageBox.h"
 #include "backends/sdl/desktop/SignalWatch.h"
-#include "backends/sdl/desktop/X11Hints.h"
 
 namespace prismfall {
 

@@ -10,8 +10,8 @@
 #include <optional>
 #include <vector>
 
+#include "backends/sdl/desktop/DesktopHints.h"
 #include "backends/sdl/desktop/SdlWindow.h"
-#include "backends/sdl/desktop/X11Hints.h"
 #include "backends/sdl/drawing/ElementPainter.h"
 #include "platform/Platform.h"
 #include "platform/Surface.h"

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "backends/sdl/desktop/X11Hints.h"
+#include "backends/sdl/desktop/DesktopHints.h"
 
 namespace prismfall {
 

@@ -1,5 +1,5 @@
 // Xlib's part: window properties, and the settings that a desktop publishes as resources and as XSETTINGS.
-#include "backends/sdl/desktop/X11Hints.h"
+#include "backends/sdl/desktop/DesktopHints.h"
 
 #include <SDL.h>
 #include <SDL_syswm.h>
