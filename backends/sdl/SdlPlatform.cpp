@@ -6,11 +6,9 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 
 #include "backends/sdl/desktop/DesktopHints.h"
 #include "backends/sdl/desktop/MessageBox.h"
-#include "backends/sdl/desktop/SignalWatch.h"
 
 namespace prismfall {
 
@@ -23,7 +21,7 @@ struct Hint {
     const char* value;
 };
 
-constexpr std::array<Hint, 8> kHints = {{
+constexpr std::array<Hint, 7> kHints = {{
     {SDL_HINT_APP_NAME, "Prismfall"},
     {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
     {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
@@ -35,33 +33,18 @@ constexpr std::array<Hint, 8> kHints = {{
     {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
 }};
 
-// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment goes before it.
-// Where there can be no Wayland the library is not asked, since it complains on standard error.
-const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
-
 // The largest pictures of the first screen, read while the display is being opened.
 constexpr std::array<std::string_view, 2> kEarlyPictures = {"Background", "ImagePrismfall"};
 
 }  // namespace
 
 std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pictures, std::string& failure) {
-    WatchEndSignals();
+    PrepareDesktop();
     SDL_SetMainReady();
     for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
-    SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
-    // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
-    // until the first picture stands. Wayland's keyboards would complain of the empty table.
-    if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
     PictureStore early(pictures);
     early.ReadAhead(kEarlyPictures);
-    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
-        failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
-        return nullptr;
-    }
-    // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
-    if (const char* driver = SDL_GetCurrentVideoDriver(); driver != nullptr && std::strcmp(driver, "x11") == 0)
-        SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-    BearLateWakeUps();
+    if (!OpenDesktop(failure)) return nullptr;
     SDL_StopTextInput();
     return std::unique_ptr<SdlPlatform>(new SdlPlatform(std::move(early)));
 }
@@ -70,7 +53,7 @@ SdlPlatform::SdlPlatform(PictureStore pictures)
     : desktop(
           std::move(pictures), [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
       settings(SettingsFile::UsersFile()) {
-    WhenDisplayIsLost([this] {
+    WhenSessionEnds([this] {
         if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
         std::_Exit(EXIT_SUCCESS);
     });

@@ -1,8 +1,9 @@
-// What SDL does not tell an X11 desktop about a window, and what it does not ask it. On another kind of desktop nothing
-// happens and the usual values come back.
+// Where desktops differ, beyond what SDL evens out: how a desktop is opened, what it wants to be told of a window, what
+// it knows of its user's wishes, how its session ends. One source file for each kind of desktop.
 #pragma once
 
 #include <functional>
+#include <string>
 
 struct SDL_Window;
 
@@ -13,18 +14,21 @@ struct DesktopFacts {
     int doubleClickMilliseconds = 500;
 };
 
-// To be asked once, before the first window.
+// Makes the system's wish that the program end an SDL_QUIT event, where SDL alone does not. To be called before any
+// other thread is started.
+void PrepareDesktop();
+
+// Starts SDL's video. False if there is no display; `failure` is then one sentence that says why.
+bool OpenDesktop(std::string& failure);
+
+// To be asked once, on an open desktop, before the first window. Where the desktop does not tell, the usual values come
+// back.
 DesktopFacts AskDesktop();
 
-// SDL wakes its own waiting by an event that it sends to one of the windows on a second connection. The server may read
-// it after a dialog that was that window has gone, and answers with an error that would end the program. To be called
-// once.
-void BearLateWakeUps();
-
-// The window server can go before the game does: at the end of a desktop session, or by a fault of its own. `end` is
-// then called on the thread that calls this now, within whatever that was doing; it must not touch any window nor come
-// back. To be called once.
-void WhenDisplayIsLost(std::function<void()> end);
+// The desktop's session can end without leaving the program the time for an SDL_QUIT event, or the display can go by a
+// fault. `end` is then called on the thread that calls this now, within whatever that was doing; it must not touch any
+// window nor come back. To be called once.
+void WhenSessionEnds(std::function<void()> end);
 
 // For a window that is not shown yet. A main window can be closed, moved and minimised; a dialog, which belongs to
 // `owner` and keeps the input from it, cannot be minimised.

@@ -1,11 +1,11 @@
-// Xlib's part: window properties, and the settings that a desktop publishes as resources and as XSETTINGS.
+// The desktops of X11, by Xlib: window properties, and the settings that a desktop publishes as resources and as
+// XSETTINGS. On Wayland SDL does what can be done.
 #include "backends/sdl/desktop/DesktopHints.h"
 
 #include <SDL.h>
 #include <SDL_syswm.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
-#include <X11/Xresource.h>
 #include <array>
 
 #include <algorithm>
@@ -20,6 +20,8 @@
 #include <string_view>
 #include <thread>
 #include <utility>
+
+#include "backends/sdl/desktop/SignalWatch.h"
 
 namespace prismfall {
 
@@ -44,7 +46,7 @@ struct X11Window {
     ::Window window = 0;
 };
 
-std::optional<X11Window> OnX11(SDL_Window* window) {
+std::optional<X11Window> WindowOnX11(SDL_Window* window) {
     SDL_SysWMinfo info;
     SDL_VERSION(&info.version);
     if (SDL_GetWindowWMInfo(window, &info) == SDL_FALSE || info.subsystem != SDL_SYSWM_X11) return std::nullopt;
@@ -125,11 +127,15 @@ int IgnoreError(Display*, XErrorEvent*) { return 0; }
 
 XErrorHandler otherErrors = nullptr;
 
+// SDL wakes its own waiting by an event that it sends to one of the windows on a second connection. The server may read
+// it after a dialog that was that window has gone, and answers with an error that would end the program.
 int IgnoreLateWakeUp(Display* display, XErrorEvent* error) {
     constexpr unsigned char kSendEvent = 25;  // the request's number in the X protocol
     if (error->error_code == BadWindow && error->request_code == kSendEvent) return 0;
     return otherErrors(display, error);
 }
+
+void IgnoreLateWakeUpErrors() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp); }
 
 std::function<void()> endWithoutDisplay;
 std::thread::id endingThread;
@@ -163,17 +169,18 @@ std::string ReadSettingsBlock(Display* display) {
 }
 
 std::optional<float> ResourceDotsPerInch(Display* display) {
-    const char* text = XResourceManagerString(display);
+    const char* text = XGetDefault(display, "Xft", "dpi");
     if (text == nullptr) return std::nullopt;
-    XrmInitialize();
-    XrmDatabase database = XrmGetStringDatabase(text);
-    char* type = nullptr;
-    XrmValue value{};
-    std::optional<float> result;
-    if (XrmGetResource(database, "Xft.dpi", "Xft.Dpi", &type, &value) != 0 && value.addr != nullptr)
-        result = std::strtof(value.addr, nullptr);
-    XrmDestroyDatabase(database);
-    return result;
+    return std::strtof(text, nullptr);
+}
+
+// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment goes before it.
+// Where there can be no Wayland the library is not asked, since it complains on standard error.
+const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
+
+bool OnX11() {
+    const char* driver = SDL_GetCurrentVideoDriver();
+    return driver != nullptr && std::strcmp(driver, "x11") == 0;
 }
 
 // Quarters: desktops offer no finer steps, and dots per inch are seldom exact.
@@ -184,9 +191,24 @@ float ScaleOf(float dotsPerInch) {
 
 }  // namespace
 
-void BearLateWakeUps() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp); }
+void PrepareDesktop() { WatchEndSignals(); }
 
-void WhenDisplayIsLost(std::function<void()> end) {
+bool OpenDesktop(std::string& failure) {
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
+    // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
+    // until the first picture stands. Wayland's keyboards would complain of the empty table.
+    if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
+    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+        failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
+        return false;
+    }
+    // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
+    if (OnX11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    IgnoreLateWakeUpErrors();
+    return true;
+}
+
+void WhenSessionEnds(std::function<void()> end) {
     endWithoutDisplay = std::move(end);
     endingThread = std::this_thread::get_id();
     XSetIOErrorHandler(MeetDisplayLoss);
@@ -194,8 +216,7 @@ void WhenDisplayIsLost(std::function<void()> end) {
 
 DesktopFacts AskDesktop() {
     DesktopFacts facts;
-    const char* driver = SDL_GetCurrentVideoDriver();
-    if (driver == nullptr || std::strcmp(driver, "x11") != 0) return facts;
+    if (!OnX11()) return facts;
     Display* display = XOpenDisplay(nullptr);
     if (display == nullptr) return facts;
     const std::string block = ReadSettingsBlock(display);
@@ -211,12 +232,12 @@ DesktopFacts AskDesktop() {
 }
 
 void SetMainFrame(SDL_Window* window) {
-    if (const auto x = OnX11(window)) SetMotifHints(*x, true);
+    if (const auto x = WindowOnX11(window)) SetMotifHints(*x, true);
 }
 
 void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner) {
     if (owner != nullptr) SDL_SetWindowModalFor(dialog, owner);
-    const auto x = OnX11(dialog);
+    const auto x = WindowOnX11(dialog);
     if (!x) return;
     SetMotifHints(*x, false);
     SetAtoms(*x, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DIALOG", PropModeReplace);
