@@ -1,11 +1,8 @@
-// Fonts by fontconfig, letters by SDL_ttf. Fontconfig's own stand-ins for two families that are not found on this
-// system are poor, so those two are named here.
+// Letters by SDL_ttf.
 #include "backends/sdl/drawing/TextPainter.h"
 
 #include <SDL.h>
 #include <SDL_ttf.h>
-#include <fontconfig/fontconfig.h>
-#include <array>
 
 #include <algorithm>
 #include <cmath>
@@ -16,22 +13,6 @@ namespace prismfall {
 namespace {
 
 constexpr float kPixelsPerPoint = 96.0F / 72.0F;
-
-struct StandIn {
-    std::string_view family;
-    const char* used;
-};
-
-constexpr std::array<StandIn, 2> kStandIns = {{
-    {"MS Sans Serif", "Liberation Sans"},
-    {"Felix Titling", "Liberation Serif"},
-}};
-
-std::string FamilyFor(std::string_view family) {
-    for (const StandIn& standIn : kStandIns)
-        if (standIn.family == family) return standIn.used;
-    return std::string(family);
-}
 
 // SDL_ttf refuses text that is not UTF-8; a file's name need not be.
 std::string ValidUtf8(std::string_view text) {
@@ -48,49 +29,10 @@ std::string ValidUtf8(std::string_view text) {
     return result;
 }
 
-struct FontFile {
-    std::string path;
-    int index = 0;
-    bool bold = false;
-    bool italic = false;
-};
-
-FontFile Match(FcConfig* config, const Font& font) {
-    FontFile file;
-    FcPattern* wanted = FcPatternCreate();
-    const std::string family = FamilyFor(font.family);
-    FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
-    FcPatternAddInteger(wanted, FC_WEIGHT, font.bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
-    FcPatternAddInteger(wanted, FC_SLANT, font.italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
-    FcPatternAddBool(wanted, FC_SCALABLE, FcTrue);
-    FcConfigSubstitute(config, wanted, FcMatchPattern);
-    FcDefaultSubstitute(wanted);
-    FcResult outcome = FcResultNoMatch;
-    if (FcPattern* found = FcFontMatch(config, wanted, &outcome); found != nullptr) {
-        FcChar8* path = nullptr;
-        int weight = FC_WEIGHT_REGULAR;
-        int slant = FC_SLANT_ROMAN;
-        if (FcPatternGetString(found, FC_FILE, 0, &path) == FcResultMatch)
-            file.path = reinterpret_cast<const char*>(path);
-        FcPatternGetInteger(found, FC_INDEX, 0, &file.index);
-        FcPatternGetInteger(found, FC_WEIGHT, 0, &weight);
-        FcPatternGetInteger(found, FC_SLANT, 0, &slant);
-        file.bold = weight > FC_WEIGHT_MEDIUM;
-        file.italic = slant != FC_SLANT_ROMAN;
-        FcPatternDestroy(found);
-    }
-    FcPatternDestroy(wanted);
-    return file;
-}
-
-// The upper 16 bits of a face's number choose among the instances of a variable font, which SDL_ttf does not know.
-long FaceIndex(const FontFile& file) { return file.index & 0xFFFF; }
-
 }  // namespace
 
 TextPainter::~TextPainter() {
     SetScale(1);
-    if (config != nullptr) FcConfigDestroy(config);
     if (TTF_WasInit() != 0) TTF_Quit();
 }
 
@@ -114,9 +56,8 @@ _TTF_Font* TextPainter::Load(const Font& font, int pixels) {
         Report("letters cannot be drawn");
         return nullptr;
     }
-    if (config == nullptr) config = FcInitLoadConfigAndFonts();
-    const FontFile file = Match(config, font);
-    TTF_Font* opened = file.path.empty() ? nullptr : TTF_OpenFontIndex(file.path.c_str(), pixels, FaceIndex(file));
+    const FontFile file = finder.Find(font);
+    TTF_Font* opened = file.stream != nullptr ? TTF_OpenFontIndexRW(file.stream, SDL_TRUE, pixels, file.face) : nullptr;
     if (opened == nullptr) {
         Report("no font is installed");
         return nullptr;

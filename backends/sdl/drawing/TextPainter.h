@@ -1,4 +1,4 @@
-// Text on a canvas: finds a font file for a family, breaks lines and lays the letters down. Where text goes and in
+// Text on a canvas: opens the font of a family, breaks lines and lays the letters down. Where text goes and in
 // which colour is the caller's.
 #pragma once
 
@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "backends/sdl/drawing/Canvas.h"
+#include "backends/sdl/drawing/FontFinder.h"
 #include "platform/Element.h"
 
 struct _TTF_Font;
-struct _FcConfig;
 
 namespace prismfall {
 
@@ -43,7 +43,7 @@ class TextPainter {
     void Report(const char* what);
 
     float scale = 1;
-    _FcConfig* config = nullptr;
+    FontFinder finder;
     std::map<Key, _TTF_Font*> fonts;
     bool reported = false;
 };
