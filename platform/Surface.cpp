@@ -93,17 +93,6 @@ constexpr std::uint32_t ToPixel(Colour colour) {
 
 constexpr PixelBox kWholeSurface{0, 0, Surface::kWidth, Surface::kHeight};
 
-PixelBox Clipped(PixelBox box) {
-    return {std::max(box.left, 0), std::max(box.top, 0), std::min(box.right, Surface::kWidth),
-            std::min(box.bottom, Surface::kHeight)};
-}
-
-PixelBox United(PixelBox a, PixelBox b) {
-    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
-}
-
-int Area(PixelBox box) { return (box.right - box.left) * (box.bottom - box.top); }
-
 constexpr std::size_t kMostDamageBoxes = 512;  // beyond that one box round all is cheaper to show
 constexpr int kDamagePiece = 16;               // pixels of a long diagonal that share a box
 
@@ -138,7 +127,7 @@ void Surface::Box(int x1, int y1, int x2, int y2, Colour colour, int width) {
 }
 
 void Surface::Restore(int x1, int y1, int x2, int y2) {
-    const PixelBox box = Clipped({x1, y1, x2, y2});
+    const PixelBox box = Overlap({x1, y1, x2, y2}, kWholeSurface);
     if (box.IsEmpty() || pixels.empty()) return;
     for (int y = box.top; y < box.bottom; ++y) FillSpan(y, box.left, box.right, kUnpainted);
     AddDamage(box);
@@ -159,10 +148,10 @@ void Surface::FillSpan(int y, int left, int right, std::uint32_t pixel) {
 }
 
 void Surface::AddDamage(PixelBox box) {
-    box = Clipped(box);
+    box = Overlap(box, kWholeSurface);
     if (box.IsEmpty()) return;
     if (!damage.empty()) {
-        const PixelBox both = United(damage.back(), box);
+        const PixelBox both = BoundingBox(damage.back(), box);
         if (damage.size() == kMostDamageBoxes || Area(both) <= Area(damage.back()) + Area(box)) {
             damage.back() = both;
             return;

@@ -7,19 +7,9 @@
 #include <vector>
 
 #include "platform/Element.h"
+#include "platform/PixelBox.h"
 
 namespace prismfall {
-
-// From (left, top) up to but not including (right, bottom).
-struct PixelBox {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    bool IsEmpty() const { return left >= right || top >= bottom; }
-    bool operator==(const PixelBox&) const = default;
-};
 
 class Surface {
   public:

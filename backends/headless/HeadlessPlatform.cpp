@@ -2,6 +2,7 @@
 #include "backends/headless/HeadlessPlatform.h"
 
 #include "backends/headless/PrintFormat.h"
+#include "platform/NominalFrame.h"
 
 namespace prismfall {
 
@@ -9,10 +10,6 @@ namespace {
 
 constexpr int kFirstSoundResource = 101;  // a sound's number is what its resource id stands above it
 constexpr int kCannotOpen = 1;
-
-// A nominal frame, so that the places of dialogs are the same everywhere.
-constexpr int kFrameWidth = 4;
-constexpr int kFrameHeight = 27;
 
 // A press and a click of the left button.
 void Answer(Window& dialog, const std::string& name) {
@@ -107,7 +104,7 @@ bool HeadlessPlatform::ShowModally(Window& dialog) {
 }
 
 Extent HeadlessPlatform::OuterSize(const Window& window) {
-    return {window.innerWidth + kFrameWidth, window.innerHeight + kFrameHeight};
+    return WithFrame({window.innerWidth, window.innerHeight}, kNominalFrame);
 }
 
 Extent HeadlessPlatform::InnerSize(const Window& window) { return {window.innerWidth, window.innerHeight}; }
@@ -118,8 +115,9 @@ Place HeadlessPlatform::Position(const Window& window) {
 }
 
 void HeadlessPlatform::SetOuterSize(Window& window, Extent size) {
-    window.innerWidth = size.width - kFrameWidth;
-    window.innerHeight = size.height - kFrameHeight;
+    const Extent inner = WithoutNominalFrame(size);
+    window.innerWidth = inner.width;
+    window.innerHeight = inner.height;
 }
 
 void HeadlessPlatform::SetPosition(Window& window, Place place) { places[&window] = place; }

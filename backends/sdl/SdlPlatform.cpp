@@ -9,12 +9,11 @@
 
 #include "backends/sdl/desktop/DesktopHints.h"
 #include "backends/sdl/desktop/MessageBox.h"
+#include "platform/NominalFrame.h"
 
 namespace prismfall {
 
 namespace {
-
-constexpr Extent kNominalFrame{4, 27};  // both sides together
 
 struct Hint {
     const char* name;
@@ -143,9 +142,7 @@ Extent SdlPlatform::InnerSize(const Window& window) { return {window.innerWidth,
 Place SdlPlatform::Position(const Window& window) { return desktop.Position(window); }
 
 // The size is meant with the nominal frame: whatever frame the desktop draws, what is inside comes out the same.
-void SdlPlatform::SetOuterSize(Window& window, Extent size) {
-    desktop.SetInnerSize(window, {size.width - kNominalFrame.width, size.height - kNominalFrame.height});
-}
+void SdlPlatform::SetOuterSize(Window& window, Extent size) { desktop.SetInnerSize(window, WithoutNominalFrame(size)); }
 
 void SdlPlatform::SetPosition(Window& window, Place place) { desktop.SetPosition(window, place); }
 

@@ -10,7 +10,6 @@ namespace prismfall {
 
 namespace {
 
-constexpr FrameBorders kNominalFrame{2, 25, 2, 2};
 constexpr std::uint32_t kFrameMilliseconds = 100;  // how long a desktop may take to draw a frame
 
 }  // namespace

@@ -8,18 +8,11 @@
 #include <optional>
 
 #include "backends/sdl/drawing/Composer.h"
+#include "platform/NominalFrame.h"
 #include "platform/Platform.h"
 #include "platform/WindowInput.h"
 
 namespace prismfall {
-
-// A desktop's frame around a window, in pixels of the display.
-struct FrameBorders {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-};
 
 class SdlWindow {
   public:
@@ -47,7 +40,7 @@ class SdlWindow {
     void HideNow() { SDL_HideWindow(real.get()); }
     void Raise() { SDL_RaiseWindow(real.get()); }
     bool IsMinimised() const { return (SDL_GetWindowFlags(real.get()) & SDL_WINDOW_MINIMIZED) != 0; }
-    // The frame that the desktop tells of, or nothing if it tells of none.
+    // The frame that the desktop tells of, in its points, or nothing if it tells of none.
     std::optional<FrameBorders> Borders() const;
     float ToGame(int points) const { return static_cast<float>(points) / options.pointsPerGamePixel; }
 

@@ -33,25 +33,13 @@ float DistanceToStroke(float x, float y, float x1, float y1, float x2, float y2)
 
 }  // namespace
 
-PixelBox Overlap(const PixelBox& a, const PixelBox& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
-}
-
-PixelBox Around(const PixelBox& a, const PixelBox& b) {
-    if (a.IsEmpty()) return b;
-    if (b.IsEmpty()) return a;
-    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
-}
-
-long Area(const PixelBox& box) {
-    return box.IsEmpty() ? 0 : static_cast<long>(box.right - box.left) * (box.bottom - box.top);
-}
-
 std::uint32_t PixelOf(Colour colour) {
     return 0xFF000000 | ((colour & 0xFF) << 16) | (colour & 0xFF00) | ((colour >> 16) & 0xFF);
 }
 
-std::uint32_t Weakened(std::uint32_t pixel, std::uint32_t share) { return Mix(0, pixel, share + (share >> 7)); }
+std::uint32_t WithOpacity(std::uint32_t pixel, std::uint32_t opacity) {
+    return Mix(0, pixel, opacity + (opacity >> 7));
+}
 
 Image::Image(int imageWidth, int imageHeight)
     : width(imageWidth),
@@ -123,8 +111,8 @@ void Canvas::Stroke(float x1, float y1, float x2, float y2, float width, std::ui
             const float distance =
                 DistanceToStroke(static_cast<float>(x) + 0.5F, static_cast<float>(y) + 0.5F, x1, y1, x2, y2);
             const float strength = std::clamp(width / 2 + 0.5F - distance, 0.0F, 1.0F);
-            const auto share = static_cast<std::uint32_t>(std::lround(strength * 255));
-            Row(y)[x] = Blend(Weakened(pixel, share), Row(y)[x]);
+            const auto opacity = static_cast<std::uint32_t>(std::lround(strength * 255));
+            Row(y)[x] = Blend(WithOpacity(pixel, opacity), Row(y)[x]);
         }
     }
 }

@@ -1,6 +1,5 @@
 // A block of pixels to compose on, and pictures to lay on it. Everything is 32-bit ARGB with the colours already
-// multiplied by their opacity, so that pictures can be scaled and laid over one another without dark seams. What is
-// drawn where belongs to others.
+// multiplied by their opacity, so that pictures can be scaled and laid over one another without dark seams.
 #pragma once
 
 #include <cstddef>
@@ -8,20 +7,14 @@
 #include <vector>
 
 #include "platform/Element.h"
-#include "platform/Surface.h"
+#include "platform/PixelBox.h"
 
 namespace prismfall {
 
-// What both boxes cover; empty if they do not meet.
-PixelBox Overlap(const PixelBox& a, const PixelBox& b);
-// The smallest box around both. An empty one adds nothing.
-PixelBox Around(const PixelBox& a, const PixelBox& b);
-long Area(const PixelBox& box);
-
 // 0xBBGGRR as an opaque pixel.
 std::uint32_t PixelOf(Colour colour);
-// A pixel at a share of its strength, from 0 to 255.
-std::uint32_t Weakened(std::uint32_t pixel, std::uint32_t share);
+// A pixel made more transparent: `opacity` is from 0, which leaves nothing, to 255, which changes nothing.
+std::uint32_t WithOpacity(std::uint32_t pixel, std::uint32_t opacity);
 
 struct Image {
     Image() = default;

@@ -1,8 +1,6 @@
 // Joining of boxes: two become one if the box around them is hardly larger than both.
 #include "backends/sdl/drawing/Damage.h"
 
-#include "backends/sdl/drawing/Canvas.h"
-
 namespace prismfall {
 
 namespace {
@@ -15,7 +13,7 @@ constexpr long kSlack = 64;
 void Damage::Add(PixelBox box) {
     if (box.IsEmpty()) return;
     for (std::size_t i = 0; i < boxes.size();) {
-        const PixelBox joined = Around(boxes[i], box);
+        const PixelBox joined = BoundingBox(boxes[i], box);
         if (Area(joined) > Area(boxes[i]) + Area(box) + kSlack) {
             ++i;
             continue;

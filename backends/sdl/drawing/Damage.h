@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "platform/Surface.h"
+#include "platform/PixelBox.h"
 
 namespace prismfall {
 

@@ -11,7 +11,7 @@ namespace {
 constexpr float kMarkSize = 13;       // of a radio button's circle and a check box's square, in game pixels
 constexpr float kMarkGap = 4;         // between the mark and the text
 constexpr float kFrameTextInset = 8;  // of a group frame's text from the frame's left edge
-constexpr std::uint32_t kFrameStrength = 0x90;
+constexpr std::uint32_t kFrameOpacity = 0x90;
 constexpr std::uint32_t kPlaceholderGround = 0xFF202020;
 constexpr Font kPlaceholderFont{.family = "MS Sans Serif", .points = 9};
 constexpr Colour kPlaceholderColour = 0xC0C0C0;
@@ -96,7 +96,7 @@ void DrawGroupFrame(Canvas& canvas, const Element& element, const PixelBox& box,
     canvas.Fill(box, ground);
     PixelBox frame = box;
     frame.top += display.text.LineHeight(element.font) / 2;
-    const std::uint32_t shade = Blend(Weakened(PixelOf(element.colour), kFrameStrength), ground);
+    const std::uint32_t shade = Blend(WithOpacity(PixelOf(element.colour), kFrameOpacity), ground);
     DrawOutline(canvas, frame, shade, LineWidth(display));
     const int left = box.left + display.Pixels(kFrameTextInset);
     const int gap = display.Pixels(2);

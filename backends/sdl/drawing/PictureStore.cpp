@@ -21,7 +21,7 @@ bool Premultiply(std::vector<std::uint32_t>& pixels) {
         const std::uint32_t alpha = pixel >> 24;
         if (alpha == 0xFF) continue;
         opaque = false;
-        pixel = Weakened(pixel | 0xFF000000, alpha);
+        pixel = WithOpacity(pixel | 0xFF000000, alpha);
     }
     return opaque;
 }

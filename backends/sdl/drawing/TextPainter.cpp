@@ -139,7 +139,7 @@ void TextPainter::DrawLine(Canvas& canvas, std::string_view line, const Font& fo
         const auto* from =
             static_cast<const std::uint8_t*>(letters->pixels) + static_cast<std::ptrdiff_t>(y) * letters->pitch;
         for (int x = 0; x < image.width; ++x)
-            image.Row(y)[x] = Weakened(pixel, reinterpret_cast<const std::uint32_t*>(from)[x] >> 24);
+            image.Row(y)[x] = WithOpacity(pixel, reinterpret_cast<const std::uint32_t*>(from)[x] >> 24);
     }
     SDL_FreeSurface(letters);
     canvas.Draw(image, left, top);

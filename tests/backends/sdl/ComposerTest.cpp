@@ -16,7 +16,7 @@ Image Speckled(int width, int height, std::mt19937& random) {
     Image image(width, height);
     for (std::uint32_t& pixel : image.pixels) {
         const auto value = static_cast<std::uint32_t>(random());
-        pixel = Weakened(value | 0xFF000000, value & 1 ? 0xFF : value >> 8 & 0xFF);
+        pixel = WithOpacity(value | 0xFF000000, value & 1 ? 0xFF : value >> 8 & 0xFF);
     }
     return image;
 }

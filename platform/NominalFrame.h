@@ -1,0 +1,28 @@
+// The window frame that the game reckons with. It sets sizes that include a frame; whatever frame a desktop really
+// draws, what lies inside comes out the same everywhere.
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace prismfall {
+
+// Widths of a frame's four sides.
+struct FrameBorders {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
+constexpr FrameBorders kNominalFrame{2, 25, 2, 2};
+
+constexpr Extent WithFrame(Extent inner, const FrameBorders& frame) {
+    return {inner.width + frame.left + frame.right, inner.height + frame.top + frame.bottom};
+}
+
+constexpr Extent WithoutNominalFrame(Extent outer) {
+    return {outer.width - kNominalFrame.left - kNominalFrame.right,
+            outer.height - kNominalFrame.top - kNominalFrame.bottom};
+}
+
+}  // namespace prismfall
