@@ -1,6 +1,5 @@
 #include "game/HighScores.h"
 
-#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -80,28 +79,17 @@ void MakeHighScores(VMain& main) {
 void FillRows(VMain& main) {
     Window& dialog = *main.VHighScore2;
     for (std::size_t row = 0; row < kScoreRows; ++row) {
-        ShowNumber(dialog[kScoreNames[row]], main.RowScore[row + 1]);
-        ShowNumber(dialog[kLevelNames[row]], main.RowLevel[row + 1]);
-        ShowNumber(dialog[kEndLevelNames[row]], main.RowEndLevel[row + 1]);
+        ShowNumber(dialog[kScoreNames[row]], main.Scores[row].score);
+        ShowNumber(dialog[kLevelNames[row]], main.Scores[row].startLevel);
+        ShowNumber(dialog[kEndLevelNames[row]], main.Scores[row].endLevel);
     }
-}
-
-template <typename Column>
-void InsertRow(Column& column, std::size_t row, std::int16_t value) {
-    std::move_backward(column.begin() + static_cast<std::ptrdiff_t>(row), column.end() - 1, column.end());
-    column[row] = value;
 }
 
 }  // namespace
 
 void SaveScore(VMain& main) {
-    const auto lower = std::find_if(main.RowScore.begin() + 1, main.RowScore.end(),
-                                    [&main](std::int16_t score) { return score < main.Score; });
-    if (lower == main.RowScore.end()) return;
-    const auto row = static_cast<std::size_t>(lower - main.RowScore.begin());
-    InsertRow(main.RowScore, row, main.Score);
-    InsertRow(main.RowLevel, row, main.GameStartLevel);
-    InsertRow(main.RowEndLevel, row, main.Level);
+    const ScoreRow game = {main.Score, main.GameStartLevel, main.Level};
+    if (EnterScore(main.Scores, game)) main.Stored.gamesEntered.push_back(game);
 }
 
 void ShowHighScores(VMain& main) {
@@ -111,9 +99,9 @@ void ShowHighScores(VMain& main) {
 }
 
 void ClearScores(VMain& main) {
-    main.RowScore.fill(0);
-    main.RowLevel.fill(0);
-    main.RowEndLevel.fill(0);
+    main.Scores.fill(kClearedRow);
+    main.Stored.scoresCleared = true;
+    main.Stored.gamesEntered.clear();
     if (main.VHighScore2) FillRows(main);
     main.HighScore = 0;
     ShowNumber(main.VHighScore, 0);

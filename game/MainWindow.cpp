@@ -75,7 +75,7 @@ void ShowStartNumbers(VMain& main) {
 }
 
 void TakeHighScore(VMain& main) {
-    main.HighScore = main.RowScore[1];
+    main.HighScore = main.Scores.front().score;
     ShowNumber(main.VHighScore, main.HighScore);
 }
 

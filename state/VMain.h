@@ -14,6 +14,8 @@
 #include "state/CLine.h"
 #include "state/MainElements.h"
 #include "state/Numbers.h"
+#include "state/ScoreTable.h"
+#include "state/StoreMemory.h"
 
 namespace prismfall {
 
@@ -24,7 +26,6 @@ constexpr std::int32_t kArcadeGame = 3;
 constexpr std::int32_t kSolutionReplay = 4;
 
 constexpr std::int16_t kPuzzleCount = 45;
-constexpr std::size_t kScoreRows = 10;
 
 // A flat row of the puzzle catalogue: the number of records, then the records (see game/PuzzleCatalogue.h).
 using CatalogueEntry = std::span<const std::int16_t>;
@@ -78,10 +79,9 @@ struct VMain : MainElements {
     std::int16_t StartLevel = 1;
     Boolean Music;
     Boolean SoundEffects;
-    std::array<std::int16_t, kScoreRows + 1> RowScore{};  // rows 1 to 10, from the best down
-    std::array<std::int16_t, kScoreRows + 1> RowLevel{};
-    std::array<std::int16_t, kScoreRows + 1> RowEndLevel{};
+    ScoreTable Scores;
     std::array<Boolean, kPuzzleCount + 1> SolvedPuzzles;  // puzzle n is entry n - 1; the last is not used
+    StoreMemory Stored;
 
     // --- The dialogs, each made at its first use.
     std::unique_ptr<Window> VHighScore2;

@@ -132,8 +132,8 @@ TEST(Layout, Options) {
 TEST(Layout, HighScores) {
     TestGame game;
     VMain& main = game.QuietStore().Load();
-    for (std::size_t row = 1; row <= kScoreRows; ++row)
-        main.RowScore[row] = static_cast<std::int16_t>(1100 - 100 * row);
+    for (std::size_t row = 0; row < kScoreRows; ++row)
+        main.Scores[row].score = static_cast<std::int16_t>(1000 - 100 * row);
     const Window& scores = Shown(game, ShowHighScores, main.VHighScore2, "Command2");
     ExpectDialog(scores, "Highscore", 327, 455, true);
     Lines expected = {"Command1 82,412 123x36",
@@ -241,7 +241,7 @@ TEST(MainWindow, TakesNoInputDuringAGamesEndButClosesAtOnce) {
     game.Machine().Fire(Timer::LineExtender);
     EXPECT_EQ(yields, 291);
     EXPECT_EQ(game.TakePrinted(), "sound 5 sync\ndialog VHighScore2\n");
-    EXPECT_EQ(main.RowScore[1], 30);
+    EXPECT_EQ(main.Scores[0].score, 30);
     game.Machine().onYield = nullptr;
     game.Click("CmdAbout");
     EXPECT_EQ(game.TakePrinted(), "sound 7 sync\ndialog VAbout\n") << "and afterwards it takes it again";

@@ -1,90 +1,121 @@
-// What is kept from run to run: the reading and writing of the store.
+// What is kept from run to run: the reading of the store, and what becomes of it when several runs save to it.
 #include <gtest/gtest.h>
 
 #include <random>
 #include <sstream>
 #include <string>
 
+#include "game/HighScores.h"
 #include "screens/SettingsStore.h"
 #include "tests/support/TestGame.h"
-#include "tools/headless/StateDump.h"
 
 namespace prismfall {
 namespace {
 
-TEST(Settings, NumbersAreAnOptionalSignAndDigits) {
+TEST(Settings, NumbersAreAnOptionalSignAndDigitsAndBooleansHaveNoCase) {
     struct Case {
         const char* text;
-        int startLevel;  // 1 stands for a text that counts as missing
+        int startLevel;  // 1 stands for a text that counts as missing, here and for the music
+        bool music;
     };
-    for (const Case& row :
-         {Case{"7", 7},         Case{"+5", 5},          Case{"-5", -5},   Case{"0", 0},      Case{"007", 7},
-          Case{"32767", 32767}, Case{"-32768", -32768}, Case{"32768", 1}, Case{"-32769", 1}, Case{"99999", 1},
-          Case{"", 1},          Case{" 5", 1},          Case{"5 ", 1},    Case{"5x", 1},     Case{"x", 1},
-          Case{"5.0", 1},       Case{"+", 1},           Case{"-", 1},     Case{"+-5", 1},    Case{"-+5", 1},
-          Case{"++5", 1},       Case{"0x5", 1},         Case{"True", 1}}) {
+    for (const Case& row : {Case{"7", 7, true},           Case{"+5", 5, true},     Case{"-5", -5, true},
+                            Case{"0", 0, true},           Case{"007", 7, true},    Case{"32767", 32767, true},
+                            Case{"-32768", -32768, true}, Case{"32768", 1, true},  Case{"-32769", 1, true},
+                            Case{"99999", 1, true},       Case{"", 1, true},       Case{" 5", 1, true},
+                            Case{"5 ", 1, true},          Case{"5x", 1, true},     Case{"5.0", 1, true},
+                            Case{"+", 1, true},           Case{"+-5", 1, true},    Case{"-+5", 1, true},
+                            Case{"++5", 1, true},         Case{"0x5", 1, true},    Case{"True", 1, true},
+                            Case{"false", 1, false},      Case{"FALSE", 1, false}, Case{"fAlSe", 1, false},
+                            Case{"Falsee", 1, true},      Case{" False", 1, true}, Case{"no", 1, true}}) {
         TestGame game;
         game.Machine().PutSetting("General", "StartLevel", row.text);
+        game.Machine().PutSetting("General", "Music", row.text);
         EXPECT_EQ(game.Load().StartLevel, row.startLevel) << '"' << row.text << '"';
+        EXPECT_EQ(game.Main().Music, row.music) << '"' << row.text << '"';
     }
 }
 
-TEST(Settings, BooleansAreReadWithoutRegardToCase) {
-    for (const char* text : {"True", "true", "TRUE", "tRuE", "False", "false", "FALSE"}) {
-        TestGame game;
-        for (const char* key : {"Music", "SoundEffects", "PlayFirstTime"})
-            game.Machine().PutSetting("General", key, text);
-        game.Machine().PutSetting("SolvedPuzzles", "Puzzle45", text);
-        const VMain& main = game.Load();
-        const bool value = text[0] == 'T' || text[0] == 't';
-        EXPECT_EQ(main.Music, value) << text;
-        EXPECT_EQ(main.SoundEffects, value) << text;
-        EXPECT_EQ(main.PlayFirstTime, value) << text;
-        EXPECT_EQ(main.SolvedPuzzles[44], value) << text;
-    }
-    for (const char* text : {"", "1", "0", "-1", "Tru", "Truee", " True", "yes", "No"}) {
-        TestGame game;
-        game.Machine().PutSetting("General", "Music", text);
-        game.Machine().PutSetting("SolvedPuzzles", "Puzzle1", text);
-        const VMain& main = game.Load();
-        EXPECT_TRUE(main.Music) << text;
-        EXPECT_FALSE(main.SolvedPuzzles[0]) << text;
-    }
-}
+// A store as real machines have it: what it held before is seen by a save, and it can be full.
+class SharedStore : public TestMachine {
+  public:
+    SharedStore() : TestMachine(printed) {}
 
-TEST(Settings, AnyStateComesBackFromAFullStore) {
+    bool isFull = false;
+    std::size_t written = 0;  // by the last save
+
+    bool ChangeSettings(std::string_view, const SettingsChange& change) override {
+        const auto values = change([this](std::string_view section, std::string_view key) {
+            const auto found = Store().find({std::string(section), std::string(key)});
+            return found == Store().end() ? std::nullopt : std::optional(found->second);
+        });
+        if (isFull) return false;
+        written = values.size();
+        for (const SettingValue& value : values) PutSetting(value.section, value.key, value.text);
+        return true;
+    }
+
+  private:
+    std::ostringstream printed;
+};
+
+struct GameRun : VMain {
+    explicit GameRun(Platform& machine) : VMain(machine) {
+        ReadStartSettings(*this);
+        ReadAudioSettings(*this);
+        ReadSolvedPuzzles(*this);
+    }
+    void Play(int score) {
+        Score = static_cast<std::int16_t>(score);
+        SaveScore(*this);
+    }
+};
+
+TEST(Settings, RunsThatSaveInTurnLoseNothingOfEachOthers) {
     const unsigned seed = std::random_device{}();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
-    const auto number = [&] { return static_cast<std::int16_t>(random()); };
-    TestGame game;
-    game.QuietStore().Load();
-    for (int round = 0; round < 50; ++round) {
-        VMain& old = game.Main();
-        old.PlayFirstTime = random() % 2 == 0;
-        old.Music = random() % 2 == 0;
-        old.SoundEffects = random() % 2 == 0;
-        old.StartLevel = number();
-        for (std::size_t row = 1; row <= kScoreRows; ++row) {
-            old.RowScore[row] = number();
-            old.RowLevel[row] = number();
-            old.RowEndLevel[row] = number();
+    for (int round = 0; round < 100; ++round) {
+        SharedStore shared, ofOne;
+        GameRun first(shared), second(shared), all(ofOne);  // `all` does what both do, with a store of its own
+        for (int step = 0; step < 40; ++step) {
+            GameRun& run = random() % 2 == 0 ? first : second;
+            const std::size_t what = random() % 90;
+            const int score = static_cast<int>(random() % 2000);
+            for (GameRun* player : {&run, &all}) {
+                if (what < 40) player->SolvedPuzzles[what] = true;
+                if (what >= 40 && what < 60) player->Play(score);
+                if (what == 60) (&run == &first ? player->Music : player->SoundEffects) = score % 2 == 0;
+                if (what == 61 && &run == &first) player->StartLevel = static_cast<std::int16_t>(score);
+            }
+            shared.isFull = random() % 3 == 0;
+            if (what >= 62) SaveSettings(run);
         }
-        for (std::size_t puzzle = 0; puzzle < kPuzzleCount; ++puzzle) old.SolvedPuzzles[puzzle] = random() % 2 == 0;
-        const auto everything = [](const VMain& main) {
-            std::ostringstream text;
-            PrintSettings(text, main, 0);
-            for (const Boolean solved : main.SolvedPuzzles) text << solved;
-            return text.str();
-        };
-        const std::string before = everything(old);
-        SaveSettings(old);
-        EXPECT_EQ(game.Machine().Store().size(), 79U);
-        const VMain& fresh = game.Load();
-        EXPECT_EQ(everything(fresh), before);
-        EXPECT_EQ(fresh.HighScore, fresh.RowScore[1]);
-        EXPECT_EQ(fresh.VHighScore.text, std::to_string(fresh.RowScore[1]));
+        shared.isFull = false;
+        for (VMain* run : {&first, &second, &first}) SaveSettings(*run);
+        EXPECT_EQ(shared.written, 0U) << "a save of what is saved";
+        SaveSettings(all);
+        ASSERT_EQ(ofOne.Store().size(), 79U);
+        ASSERT_EQ(shared.Store(), ofOne.Store());
+        ASSERT_TRUE(first.Scores == all.Scores && second.Scores == all.Scores);
     }
+}
+
+TEST(Settings, AClearedTableTakesWhatItsRunEntersAndNothingElse) {
+    SharedStore shared;
+    GameRun first(shared), second(shared);
+    first.Play(100);
+    SaveSettings(first);
+    second.Play(70);
+    ClearScores(second);
+    second.Play(50);
+    SaveSettings(second);
+    EXPECT_EQ(shared.Store().at({"Scores", "Score1"}), "50");
+    EXPECT_EQ(shared.Store().at({"Scores", "Score2"}), "0");
+    EXPECT_EQ(shared.Store().at({"Scores", "Level2"}), "0");
+    first.Play(60);
+    SaveSettings(first);
+    EXPECT_EQ(shared.Store().at({"Scores", "Score1"}), "60") << "what was entered before the clearing does not return";
+    EXPECT_EQ(shared.Store().at({"Scores", "Score2"}), "50");
 }
 
 }  // namespace

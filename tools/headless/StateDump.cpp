@@ -93,9 +93,9 @@ void PrintElements(std::ostream& out, const VMain& main) {
 void PrintSettings(std::ostream& out, const VMain& main, std::int64_t time) {
     out << "settings start=" << main.StartLevel << " gamestart=" << main.GameStartLevel << " music=" << Flag(main.Music)
         << " effects=" << Flag(main.SoundEffects) << " first=" << Flag(main.PlayFirstTime) << " time=" << time << '\n';
-    for (std::size_t row = 1; row <= kScoreRows; ++row)
-        out << "row " << row << ' ' << main.RowScore[row] << ' ' << main.RowLevel[row] << ' ' << main.RowEndLevel[row]
-            << '\n';
+    int number = 0;
+    for (const ScoreRow& row : main.Scores)
+        out << "row " << ++number << ' ' << row.score << ' ' << row.startLevel << ' ' << row.endLevel << '\n';
 }
 
 void PrintStore(std::ostream& out, const HeadlessPlatform& platform) {
