@@ -1,12 +1,16 @@
 # Writes the wave files of SOUNDS into the C++ source OUTPUT as the definition of LoadSoundResource. Run by the build:
-#   cmake -DSOUNDS=FOLDER -DOUTPUT=FILE -P EmbedSounds.cmake
+#   cmake -DSOUNDS=FOLDER -DOUTPUT=FILE [-DLIMIT=BYTES] -P EmbedSounds.cmake
+# With a limit it takes only that many bytes of each.
+if(LIMIT)
+    set(limit LIMIT ${LIMIT})
+endif()
 file(GLOB files "${SOUNDS}/*.wav")
 list(SORT files)
 set(arrays "")
 set(cases "")
 foreach(file IN LISTS files)
     get_filename_component(id "${file}" NAME_WE)
-    file(READ "${file}" bytes HEX)
+    file(READ "${file}" bytes ${limit} HEX)
     string(REGEX REPLACE "(..)" "0x\\1," bytes "${bytes}")
     string(APPEND arrays "constexpr unsigned char kSound${id}[] = {${bytes}};\n")
     string(APPEND cases "        case ${id}: return std::as_bytes(std::span(kSound${id}));\n")

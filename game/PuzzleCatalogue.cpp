@@ -3,6 +3,7 @@
 #include "game/PuzzleCatalogue.h"
 
 #include <array>
+#include <cstdlib>
 #include <string_view>
 
 #include "game/PuzzleTables.h"
@@ -12,6 +13,9 @@ namespace prismfall {
 namespace {
 
 using Rows = std::array<std::string_view, kPuzzleCount>;
+
+// Not constexpr on purpose: a bad row stops the compiler at the call that tells what is wrong with it.
+[[noreturn]] void RejectRow(const char* /*reason*/) { std::abort(); }
 
 class RowReader {
   public:
@@ -26,7 +30,7 @@ class RowReader {
     }
 
     constexpr std::int16_t Digit() {
-        if (rest.empty() || rest.front() < '0' || rest.front() > '9') throw "a digit was expected";
+        if (rest.empty() || rest.front() < '0' || rest.front() > '9') RejectRow("a digit was expected");
         const char digit = rest.front();
         rest.remove_prefix(1);
         return static_cast<std::int16_t>(digit - '0');
@@ -40,7 +44,7 @@ class RowReader {
     }
 
     constexpr void Need(char expected) {
-        if (!Take(expected)) throw "another character was expected";
+        if (!Take(expected)) RejectRow("another character was expected");
     }
 
     // A number and a colon in front of a record, or the given one.
@@ -114,7 +118,7 @@ constexpr Table<Size> ReadTable(const Rows& rows) {
             for (const std::int16_t number : ReadRecord(reader, static_cast<std::int16_t>(place), Record{}))
                 table.numbers[at++] = number;
         }
-        if (!reader.IsAtEnd()) throw "a row goes on behind its last record";
+        if (!reader.IsAtEnd()) RejectRow("a row goes on behind its last record");
     }
     table.starts[rows.size()] = at;
     return table;

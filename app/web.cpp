@@ -1,0 +1,35 @@
+// The game in a browser: the page calls `run`, which comes back when the program has ended.
+#include <array>
+#include <cstdint>
+
+#include "backends/web/WebPlatform.h"
+#include "game/MainWindow.h"
+#include "state/VMain.h"
+
+namespace {
+
+// Where browsers that cannot suspend a program keep its stack while it waits: from the first address to the second.
+struct SuspendedStack {
+    std::uint8_t* start;
+    std::uint8_t* end;
+};
+
+std::array<std::uint8_t, 65536> room;
+SuspendedStack stack;
+
+}  // namespace
+
+extern "C" {
+
+__attribute__((export_name("suspendedStack"))) SuspendedStack* GetSuspendedStack() {
+    stack = {room.data(), room.data() + room.size()};
+    return &stack;
+}
+
+__attribute__((export_name("run"))) void Run() {
+    prismfall::WebPlatform platform;
+    prismfall::VMain main(platform);
+    prismfall::MakeMainWindow(main);
+    platform.Run(main.window);
+}
+}

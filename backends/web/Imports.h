@@ -1,0 +1,145 @@
+// Everything that the program asks of the page, as functions of the module `page` that it imports, and the records that
+// pass between the two. page/source/program.ts is the other side: a change here is a change there.
+//
+// Types are WebAssembly's own: whole numbers of 32 bits, `float`, `double`, and addresses in the program's memory,
+// which the page reads before the call returns. Records are read field by field in the order in which they stand here,
+// without gaps. Places and sizes are game pixels, times milliseconds of the page's clock. A window is known by a number
+// that the program picks, 0 for the main window; an element by its place in the window's list.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "platform/Element.h"
+
+namespace prismfall::page {
+
+// UTF-8, without a zero at its end.
+struct Text {
+    Text() = default;
+    Text(std::string_view text) : bytes(text.data()), length(static_cast<std::uint32_t>(text.size())) {}
+
+    const char* bytes = nullptr;
+    std::uint32_t length = 0;
+};
+
+struct WindowRecord {
+    std::int32_t isDialog = 0;
+    std::int32_t left = 0;  // of a dialog's frame, from the left edge of the main window's inner area
+    std::int32_t top = 0;
+    std::int32_t width = 0;  // of the inner area
+    std::int32_t height = 0;
+    Text title;
+    Text background;  // a picture's name
+};
+
+struct ElementRecord {
+    std::int32_t kind = 0;    // an ElementKind
+    std::int32_t panel = -1;  // the element that it lies in, -1 for none
+    std::int32_t visible = 0;
+    std::int32_t enabled = 0;
+    std::int32_t checked = 0;
+    float left = 0;  // in the window or in its panel
+    float top = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    std::uint32_t colour = 0;  // 0xBBGGRR
+    std::uint32_t ground = 0;  // 0xBBGGRR, or kNoGround
+    float points = 0;          // of the font
+    std::int32_t bold = 0;
+    std::int32_t italic = 0;
+    std::int32_t wraps = 0;
+    std::int32_t fitHeight = 0;
+    Text family;
+    Text picture;
+    Text spoken;
+    Text text;
+    Text group;
+};
+
+constexpr std::uint32_t kNoGround = 0xFFFFFFFF;
+
+enum class EventKind : std::int32_t {
+    Move,      // the pointer moves: x, y
+    Press,     // a button goes down: number is a MouseButton, x, y
+    Release,   // a button goes up: number is a MouseButton, x, y
+    Activate,  // an element is clicked without a pointer, by a key or a screen reader: number is the element
+    Key,       // a key goes down: number is its code
+    Close,     // the close box of a dialog
+};
+
+struct Event {
+    double time = 0;
+    EventKind kind{};
+    std::int32_t window = 0;
+    std::int32_t number = 0;
+    float x = 0;  // in the window's inner area, or outside of it
+    float y = 0;
+};
+
+#ifdef __wasm__
+#define PAGE_IMPORT(name) __attribute__((import_module("page"), import_name(name)))
+#else
+#define PAGE_IMPORT(name)  // for tools that read the header on another machine
+#endif
+
+extern "C" {
+
+// --- Time. Waiting is the one call in which the program stands still and the page goes on.
+
+// Milliseconds from some fixed moment; never runs backwards.
+PAGE_IMPORT("now") double Now();
+// Returns when the clock has reached `until`, when the page was hidden or shown again, and, if `forInput` is not 0, as
+// soon as there is an event to take. Lets the page go on even if there is nothing to wait for.
+PAGE_IMPORT("wait") void Wait(double until, std::int32_t forInput);
+// Takes the oldest event that waits. 0 if there is none.
+PAGE_IMPORT("takeEvent") std::int32_t TakeEvent(Event* event);
+// Whether nobody can see the page at present.
+PAGE_IMPORT("isHidden") std::int32_t IsHidden();
+// From 0 up to but not including 1.
+PAGE_IMPORT("random") double Random();
+
+// --- Windows.
+
+PAGE_IMPORT("openWindow") void OpenWindow(std::int32_t window, const WindowRecord* record);
+PAGE_IMPORT("closeWindow") void CloseWindow(std::int32_t window);
+// An element as it is from now on. The elements of a window come in their stacking order.
+PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t element, const ElementRecord* record);
+// Puts pixels on the surface: rows without gaps, four bytes a pixel, red, green, blue and opacity.
+PAGE_IMPORT("showPixels")
+void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
+                std::int32_t height);
+// One line under the picture. An empty one takes it away.
+PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
+// An error box. It stands until the page reports Close for the window kMessageBox.
+PAGE_IMPORT("openMessage") void OpenMessage(const char* text, std::uint32_t length);
+// The program has ended: the page dims the picture and offers to start anew.
+PAGE_IMPORT("endProgram") void EndProgram();
+
+// --- Settings: one text for all of them.
+
+// The length of the stored text in bytes; it is held ready for ReadSettings.
+PAGE_IMPORT("openSettings") std::uint32_t OpenSettings();
+PAGE_IMPORT("readSettings") void ReadSettings(char* text);
+// 0 if it could not be stored; what was there before is then there still.
+PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::uint32_t length);
+
+// --- Sound and music. The page finds the files by itself; one that cannot be had is silence.
+
+PAGE_IMPORT("playSound") void PlaySound(std::int32_t id);
+PAGE_IMPORT("openMusic") void OpenMusic(const char* name, std::uint32_t length);
+PAGE_IMPORT("closeMusic") void CloseMusic();
+PAGE_IMPORT("setMusicVolume") void SetMusicVolume(float share);  // 0 to 1
+PAGE_IMPORT("playMusicLooping") void PlayMusicLooping();
+PAGE_IMPORT("resumeMusic") void ResumeMusic();
+PAGE_IMPORT("pauseMusic") void PauseMusic();
+PAGE_IMPORT("stopMusic") void StopMusic();
+
+}  // extern "C"
+
+#undef PAGE_IMPORT
+
+constexpr std::int32_t kMainWindow = 0;
+constexpr std::int32_t kMessageBox = -1;
+
+}  // namespace prismfall::page

@@ -1,0 +1,84 @@
+#include "backends/web/ShownWindow.h"
+
+#include <algorithm>
+
+namespace prismfall {
+
+namespace {
+
+constexpr int kDoubleClickMilliseconds = 500;  // no browser tells the desktop's own
+
+}  // namespace
+
+ShownWindow::ShownWindow(Window& shown, std::int32_t pageNumber, Place place)
+    : window(shown), number(pageNumber), input(shown, kDoubleClickMilliseconds) {
+    page::WindowRecord record;
+    record.isDialog = window.isDialog ? 1 : 0;
+    record.left = place.left;
+    record.top = place.top;
+    record.width = window.innerWidth;
+    record.height = window.innerHeight;
+    record.title = window.title;
+    record.background = window.background;
+    page::OpenWindow(number, &record);
+}
+
+ShownWindow::~ShownWindow() { page::CloseWindow(number); }
+
+void ShownWindow::Refresh() {
+    for (std::size_t place = 0; place < window.elements.size(); ++place) {
+        const bool isNew = place == sent.size();
+        if (!isNew && sent[place] == *window.elements[place]) continue;
+        if (isNew) sent.emplace_back();
+        sent[place] = *window.elements[place];
+        Send(place);
+    }
+}
+
+void ShownWindow::Send(std::size_t place) const {
+    const Element& element = *window.elements[place];
+    page::ElementRecord record;
+    record.kind = static_cast<std::int32_t>(element.kind);
+    const auto panel = std::ranges::find(window.elements, element.panel);
+    if (panel != window.elements.end()) record.panel = static_cast<std::int32_t>(panel - window.elements.begin());
+    record.visible = element.visible ? 1 : 0;
+    record.enabled = element.enabled ? 1 : 0;
+    record.checked = element.checked ? 1 : 0;
+    record.left = element.left;
+    record.top = element.top;
+    record.width = element.width;
+    record.height = element.height;
+    record.colour = element.colour;
+    record.ground = element.ground.value_or(page::kNoGround);
+    record.points = element.font.points;
+    record.bold = element.font.bold ? 1 : 0;
+    record.italic = element.font.italic ? 1 : 0;
+    record.wraps = element.wraps ? 1 : 0;
+    record.fitHeight = element.fitHeight;
+    record.family = element.font.family;
+    record.picture = element.picture;
+    record.spoken = element.spoken;
+    record.text = std::string_view(element.text);
+    record.group = element.group;
+    page::ShowElement(number, static_cast<std::int32_t>(place), &record);
+}
+
+void ShownWindow::Handle(const page::Event& event) {
+    const auto button = static_cast<MouseButton>(event.number);
+    switch (event.kind) {
+        case page::EventKind::Move:
+            return input.Move(event.x, event.y);
+        case page::EventKind::Press:
+            return input.Press(button, event.x, event.y, static_cast<std::uint32_t>(event.time));
+        case page::EventKind::Release:
+            return input.Release(button, event.x, event.y);
+        case page::EventKind::Activate:
+            return;
+        case page::EventKind::Key:
+            return input.Key(event.number);
+        case page::EventKind::Close:
+            closeBoxUsed = true;
+    }
+}
+
+}  // namespace prismfall

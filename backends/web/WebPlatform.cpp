@@ -1,0 +1,296 @@
+#include "backends/web/WebPlatform.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/SettingsText.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr Extent kNominalFrame{4, 27};  // both sides together
+constexpr Place kNominalCorner{2, 25};  // of the inner area in the frame
+constexpr int kFullVolume = 1000;
+constexpr double kYieldRest = 1;  // milliseconds
+constexpr double kLongestWait = 60'000;
+constexpr std::size_t kRateAt = 28;    // in a wave file of plain samples: bytes a second
+constexpr std::size_t kLengthAt = 40;  // and bytes in all
+
+Nanoseconds ToNanoseconds(double milliseconds) { return Nanoseconds(static_cast<std::int64_t>(milliseconds * 1e6)); }
+
+double ToMilliseconds(Nanoseconds time) { return static_cast<double>(time.count()) / 1e6; }
+
+Nanoseconds Now() { return ToNanoseconds(page::Now()); }
+
+// From 0xAARRGGBB to red, green, blue and opacity in memory.
+std::uint32_t PagePixel(std::uint32_t pixel) {
+    return (pixel & 0xFF00FF00U) | (pixel & 0x00FF0000U) >> 16 | (pixel & 0x000000FFU) << 16;
+}
+
+std::uint32_t NumberAt(std::span<const std::byte> bytes, std::size_t at) {
+    std::uint32_t number = 0;
+    for (std::size_t i = 4; i-- > 0;) number = number << 8 | std::to_integer<std::uint32_t>(bytes[at + i]);
+    return number;
+}
+
+// The page has the samples; the program carries the file's head alone, which tells how long they sound.
+double WaveMilliseconds(std::span<const std::byte> head) {
+    if (head.size() < kLengthAt + 4) return 0;
+    return 1000.0 * NumberAt(head, kLengthAt) / NumberAt(head, kRateAt);
+}
+
+SettingsText StoredSettings() {
+    std::string text(page::OpenSettings(), '\0');
+    page::ReadSettings(text.data());
+    return SettingsText(text);
+}
+
+}  // namespace
+
+// --- The loop.
+
+void WebPlatform::Run(Window& mainWindow) {
+    Show(mainWindow);
+    while (!ended) {
+        Work();
+        DeliverMinimised();
+        Rest();
+    }
+}
+
+bool WebPlatform::Work() {
+    NoteVisibility();
+    const bool handled = HandlePending();
+    const bool ticked = TickDue();
+    Refresh();
+    return handled || ticked;
+}
+
+bool WebPlatform::HandlePending() {
+    page::Event event;
+    bool handled = false;
+    while (!ended && page::TakeEvent(&event) != 0) {
+        handled = true;
+        if (!shown.empty() && shown.back()->Number() == event.window) shown.back()->Handle(event);
+    }
+    return handled;
+}
+
+bool WebPlatform::TickDue() {
+    const Nanoseconds now = Now();
+    bool ticked = false;
+    while (!ended) {
+        const std::optional<Timer> timer = timers.TakeDue(now);
+        if (!timer) break;
+        if (tick) tick(*timer);
+        timers.Finish(*timer);
+        ticked = true;
+    }
+    return ticked;
+}
+
+void WebPlatform::Rest() {
+    if (ended) return;
+    const double latest = page::Now() + kLongestWait;
+    const std::optional<Nanoseconds> due = timers.NextDue();
+    page::Wait(due ? std::min(ToMilliseconds(*due), latest) : latest, 1);
+}
+
+void WebPlatform::LetEventsRun() {
+    if (ended || Work()) return;
+    page::Wait(page::Now() + kYieldRest, 1);
+}
+
+void WebPlatform::PaintFor(double length) {
+    Refresh();
+    const double end = page::Now() + length;
+    while (!ended && page::Now() < end) {
+        page::Wait(end, 0);
+        NoteVisibility();
+    }
+}
+
+// A page that is hidden may never be seen again: everything is saved at that moment, whatever else is going on.
+void WebPlatform::NoteVisibility() {
+    const bool isHidden = page::IsHidden() != 0;
+    if (isHidden == hidden) return;
+    hidden = isHidden;
+    if (hidden && main != nullptr && main->on.queryUnload) main->on.queryUnload();
+}
+
+void WebPlatform::DeliverMinimised() {
+    if (ended || hidden == minimised) return;
+    minimised = hidden;
+    if (main->on.resize) main->on.resize(minimised);
+    Refresh();
+}
+
+// --- The picture.
+
+void WebPlatform::Refresh() {
+    if (ended) return;
+    SendSurface();
+    for (const auto& window : shown) window->Refresh();
+}
+
+void WebPlatform::SendSurface() {
+    layer.TakeDamage(damage);
+    for (const PixelBox& box : damage) {
+        const int width = box.right - box.left;
+        pixels.clear();
+        for (int y = box.top; y < box.bottom; ++y) {
+            const std::uint32_t* row = layer.Row(y);
+            std::transform(row + box.left, row + box.right, std::back_inserter(pixels), PagePixel);
+        }
+        page::ShowPixels(pixels.data(), box.left, box.top, width, box.bottom - box.top);
+    }
+}
+
+void WebPlatform::SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) {
+    layer.Line(x1, y1, x2, y2, colour, width);
+}
+
+void WebPlatform::SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) {
+    layer.Box(x1, y1, x2, y2, colour, width);
+}
+
+void WebPlatform::SurfaceRestore(int x1, int y1, int x2, int y2) { layer.Restore(x1, y1, x2, y2); }
+
+void WebPlatform::SurfaceClear() { layer.Clear(); }
+
+// --- Windows.
+
+void WebPlatform::Show(Window& window) {
+    if (window.visible || ended) return;
+    main = &window;
+    window.visible = true;
+    shown.push_back(std::make_unique<ShownWindow>(window, page::kMainWindow, Place{}));
+    Refresh();
+    if (window.on.activate) window.on.activate();
+}
+
+void WebPlatform::Hide(Window& window) { window.visible = false; }
+
+bool WebPlatform::ShowModally(Window& dialog) {
+    if (dialog.visible || ended) return false;
+    dialog.visible = true;
+    const Place place{dialogPlace.left - kNominalCorner.left, dialogPlace.top - kNominalCorner.top};
+    shown.push_back(std::make_unique<ShownWindow>(dialog, static_cast<std::int32_t>(shown.size()), place));
+    const ShownWindow& window = *shown.back();
+    if (dialog.on.activate) dialog.on.activate();
+    for (Work(); !ended && dialog.visible && !window.CloseBoxUsed(); Work()) Rest();
+    const bool wasHidden = !dialog.visible;
+    if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
+    if (!wasHidden && dialog.on.unload) dialog.on.unload();
+    dialog.visible = false;
+    shown.pop_back();
+    return wasHidden;
+}
+
+Extent WebPlatform::OuterSize(const Window& window) {
+    return {window.innerWidth + kNominalFrame.width, window.innerHeight + kNominalFrame.height};
+}
+
+Extent WebPlatform::InnerSize(const Window& window) { return {window.innerWidth, window.innerHeight}; }
+
+// The main window's frame stands at the corner of its own desktop.
+Place WebPlatform::Position(const Window& window) { return window.isDialog ? dialogPlace : Place{}; }
+
+void WebPlatform::SetOuterSize(Window& window, Extent size) {
+    window.innerWidth = size.width - kNominalFrame.width;
+    window.innerHeight = size.height - kNominalFrame.height;
+}
+
+void WebPlatform::SetPosition(Window& window, Place place) {
+    if (window.isDialog) dialogPlace = place;
+}
+
+void WebPlatform::ShowMessageBox(std::string_view text) {
+    page::OpenMessage(text.data(), static_cast<std::uint32_t>(text.size()));
+    Refresh();
+    page::Event event;
+    while (!ended) {
+        while (page::TakeEvent(&event) != 0)
+            if (event.window == page::kMessageBox) return;
+        page::Wait(page::Now() + kLongestWait, 1);
+        NoteVisibility();
+    }
+}
+
+void WebPlatform::EndProgram() {
+    Refresh();
+    ended = true;
+    page::EndProgram();
+}
+
+// --- Timers, time and chance.
+
+void WebPlatform::SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
+
+void WebPlatform::StartTimer(Timer timer) { timers.Start(timer, Now()); }
+
+void WebPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
+
+void WebPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds, Now()); }
+
+std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()); }
+
+double WebPlatform::Random() { return page::Random(); }
+
+// --- Settings. The page keeps them as one text, so that all of them are stored or none. Nothing can come between the
+// reading and the writing. The application's name has no place in the text: it is this one application's.
+
+std::string WebPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
+                                     std::string_view fallback) {
+    const auto values = StoredSettings().Values();
+    const auto found = values.find({std::string(section), std::string(key)});
+    return found == values.end() ? std::string(fallback) : found->second;
+}
+
+bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
+    SettingsText text = StoredSettings();
+    const auto values = text.Values();
+    const auto changed = change([&](std::string_view section, std::string_view key) -> std::optional<std::string> {
+        const auto found = values.find({std::string(section), std::string(key)});
+        if (found == values.end()) return std::nullopt;
+        return found->second;
+    });
+    for (const SettingValue& value : changed) text.Set(value.section, value.key, value.text);
+    const std::string written = text.Text();
+    if (page::WriteSettings(written.data(), static_cast<std::uint32_t>(written.size())) != 0) return true;
+    constexpr std::string_view kNotice = "This browser does not let the game keep settings and scores.";
+    page::ShowNotice(kNotice.data(), static_cast<std::uint32_t>(kNotice.size()));
+    return false;
+}
+
+// --- Sound and music.
+
+void WebPlatform::PlayWave(Wave wave, bool wait) {
+    if (ended) return;
+    page::PlaySound(wave.id);
+    if (wait) PaintFor(WaveMilliseconds(wave.bytes));
+}
+
+void WebPlatform::MusicClose() { page::CloseMusic(); }
+
+int WebPlatform::MusicOpen(std::string_view name) {
+    page::OpenMusic(name.data(), static_cast<std::uint32_t>(name.size()));
+    return 0;
+}
+
+void WebPlatform::MusicSetVolume(int volume) {
+    page::SetMusicVolume(static_cast<float>(std::clamp(volume, 0, kFullVolume)) / static_cast<float>(kFullVolume));
+}
+
+void WebPlatform::MusicPlayLooping() { page::PlayMusicLooping(); }
+
+void WebPlatform::MusicResume() { page::ResumeMusic(); }
+
+void WebPlatform::MusicPause() { page::PauseMusic(); }
+
+void WebPlatform::MusicStop() { page::StopMusic(); }
+
+std::string WebPlatform::MusicFailureText(int) { return {}; }
+
+}  // namespace prismfall

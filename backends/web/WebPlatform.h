@@ -1,0 +1,92 @@
+// A browser's page as the machine behind the game. The program runs in a loop of its own, as on a desktop: it takes
+// input from the page, lets due timers tick, tells the page what has changed, and stands still in the one call that
+// waits.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "backends/web/Imports.h"
+#include "backends/web/ShownWindow.h"
+#include "platform/Platform.h"
+#include "platform/Surface.h"
+#include "platform/TimerWheel.h"
+
+namespace prismfall {
+
+class WebPlatform final : public Platform {
+  public:
+    // Shows the main window and lets events run until the program ends.
+    void Run(Window& main);
+
+    void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
+    void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override;
+    void SurfaceRestore(int x1, int y1, int x2, int y2) override;
+    void SurfaceClear() override;
+
+    void Show(Window& window) override;
+    void Hide(Window& window) override;
+    bool ShowModally(Window& dialog) override;
+    Extent OuterSize(const Window& window) override;
+    Extent InnerSize(const Window& window) override;
+    Place Position(const Window& window) override;
+    void SetOuterSize(Window& window, Extent size) override;
+    void SetPosition(Window& window, Place place) override;
+    void ShowMessageBox(std::string_view text) override;
+    void EndProgram() override;
+
+    void SetTickHandler(std::function<void(Timer)> handler) override;
+    void StartTimer(Timer timer) override;
+    void StopTimer(Timer timer) override;
+    void SetTimerInterval(Timer timer, int milliseconds) override;
+
+    void LetEventsRun() override;
+    std::int64_t Clock() override;
+    double Random() override;
+    void SeedRandomFromClock() override {}  // the browser has seen to that
+
+    std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
+                            std::string_view fallback) override;
+    bool ChangeSettings(std::string_view application, const SettingsChange& change) override;
+
+    void PlayWave(Wave wave, bool wait) override;
+
+    void MusicClose() override;
+    int MusicOpen(std::string_view name) override;
+    void MusicSetVolume(int volume) override;
+    void MusicPlayLooping() override;
+    void MusicResume() override;
+    void MusicPause() override;
+    void MusicStop() override;
+    std::string MusicFailureText(int code) override;
+
+  private:
+    // These tell whether there was anything to do.
+    bool Work();
+    bool HandlePending();
+    bool TickDue();
+
+    void Rest();
+    void Refresh();
+    void SendSurface();
+    void NoteVisibility();
+    void DeliverMinimised();
+    void PaintFor(double length);
+
+    Surface layer;
+    std::vector<PixelBox> damage;
+    std::vector<std::uint32_t> pixels;  // a box of the layer, as the page wants it
+
+    Window* main = nullptr;
+    std::vector<std::unique_ptr<ShownWindow>> shown;  // the main window, then dialogs in the order of their opening
+    Place dialogPlace;                                // where the next dialog's frame will stand
+
+    TimerWheel timers;
+    std::function<void(Timer)> tick;
+    bool ended = false;
+    bool hidden = false;     // as the page was last seen
+    bool minimised = false;  // as the main window was last told
+};
+
+}  // namespace prismfall

@@ -1,0 +1,72 @@
+// Puts the page together from the built program, the sources beside this file and the assets:
+//   node bundle.mjs BUILD_FOLDER_WITH_WASM OUTPUT_FOLDER
+// What belongs to a version goes into a folder named after the contents, music into one of its own, so that no browser ever
+// mixes two versions and none fetches the same music twice.
+import { createHash } from 'node:crypto';
+import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { dirname, join, relative } from 'node:path';
+import { fileURLToPath } from 'node:url';
+import { build } from 'esbuild';
+
+const here = dirname(fileURLToPath(import.meta.url));
+const root = join(here, '../../..');
+const [programs, output] = process.argv.slice(2);
+
+/** All files of a folder, as paths from it. */
+function filesIn(folder, from = folder) {
+    return readdirSync(folder, { withFileTypes: true })
+        .flatMap((entry) => {
+            const path = join(folder, entry.name);
+            return entry.isDirectory() ? filesIn(path, from) : [relative(from, path)];
+        })
+        .sort();
+}
+
+function hashOf(folders) {
+    const hash = createHash('sha256');
+    for (const folder of folders)
+        for (const file of filesIn(folder)) hash.update(file).update(readFileSync(join(folder, file)));
+    return hash.digest('hex').slice(0, 12);
+}
+
+function copy(from, to, ending) {
+    mkdirSync(to, { recursive: true });
+    for (const file of readdirSync(from)) if (file.endsWith(ending)) cpSync(join(from, file), join(to, file));
+}
+
+async function script(entry, file, known) {
+    await build({
+        entryPoints: [join(here, 'source', entry)],
+        outfile: join(output, file),
+        define: { BUILD: JSON.stringify(known) },
+        bundle: true,
+        minify: true,
+        format: 'esm',
+        target: 'es2022',
+        logLevel: 'warning',
+    });
+}
+
+rmSync(output, { recursive: true, force: true });
+copy(join(root, 'assets/music'), join(output, 'music'), '.mp3');
+const music = `music-${hashOf([join(output, 'music')])}`;
+const staged = join(output, 'staged');
+copy(programs, staged, '.wasm');
+for (const size of ['1x', '2x']) copy(join(root, 'assets/pictures', size), join(staged, 'pictures', size), '.png');
+copy(join(root, 'assets/sounds'), join(staged, 'sounds'), '.wav');
+copy(here, staged, '.css');
+const folder = `version-${hashOf([staged, join(here, 'source'), join(here, 'worker')])}`;
+copy(join(root, 'packaging/icons'), join(output, 'icons'), '.png');
+copy(here, output, '.webmanifest');
+
+const page = readFileSync(join(here, 'index.html'), 'utf8').replaceAll('FOLDER', folder);
+writeFileSync(join(output, 'index.html'), page);
+const tracks = readdirSync(join(output, 'music')).sort();
+cpSync(join(output, 'music'), join(output, music), { recursive: true });
+rmSync(join(output, 'music'), { recursive: true });
+cpSync(staged, join(output, folder), { recursive: true });
+rmSync(staged, { recursive: true });
+const files = [...filesIn(join(output, folder)).map((file) => `${folder}/${file}`), `${folder}/page.js`];
+const known = { folder, music, tracks, files: [...files, 'manifest.webmanifest', 'icons/64.png', 'icons/256.png'] };
+await script('main.ts', `${folder}/page.js`, known);
+await script('../worker/service-worker.ts', 'service-worker.js', known);

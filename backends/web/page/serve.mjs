@@ -1,0 +1,52 @@
+// Serves build/web on this machine alone, for trying the page and for its tests:
+//   node serve.mjs [FOLDER]
+// prints the address and goes on until it is stopped.
+import { createReadStream, existsSync, statSync } from 'node:fs';
+import { createServer } from 'node:http';
+import { dirname, extname, join, normalize } from 'node:path';
+import { argv } from 'node:process';
+import { fileURLToPath } from 'node:url';
+
+const types = {
+    '.html': 'text/html; charset=utf-8',
+    '.js': 'text/javascript; charset=utf-8',
+    '.css': 'text/css; charset=utf-8',
+    '.wasm': 'application/wasm',
+    '.png': 'image/png',
+    '.wav': 'audio/wav',
+    '.mp3': 'audio/mpeg',
+    '.webmanifest': 'application/manifest+json',
+};
+
+/** A server of the folder, on a free port. `refuses` says which paths cannot be had. */
+export async function serve(folder, refuses = () => false) {
+    const server = createServer((request, response) => {
+        const path = normalize(decodeURIComponent(new URL(request.url, 'http://x').pathname));
+        const file = join(folder, path.endsWith('/') ? `${path}index.html` : path);
+        if (!existsSync(file) || !statSync(file).isFile() || refuses(path)) {
+            response.writeHead(404).end();
+            return;
+        }
+        const size = statSync(file).size;
+        const range = /^bytes=(\d+)-(\d*)$/.exec(request.headers.range ?? '');
+        const first = range ? Number(range[1]) : 0;
+        const last = range && range[2] !== '' ? Math.min(Number(range[2]), size - 1) : size - 1;
+        const headers = {
+            'Content-Type': types[extname(file)] ?? 'application/octet-stream',
+            'Content-Length': last - first + 1,
+            'Accept-Ranges': 'bytes',
+            'Cache-Control': 'no-cache',
+        };
+        if (range) headers['Content-Range'] = `bytes ${first}-${last}/${size}`;
+        response.writeHead(range ? 206 : 200, headers);
+        createReadStream(file, { start: first, end: last }).pipe(response);
+    });
+    await new Promise((resolve) => server.listen(0, '127.0.0.1', resolve));
+    return { server, address: `http://127.0.0.1:${server.address().port}/` };
+}
+
+if (argv[1] === fileURLToPath(import.meta.url)) {
+    const root = join(dirname(fileURLToPath(import.meta.url)), '../../..');
+    const { address } = await serve(argv[2] ?? join(root, 'build/web'));
+    console.log(address);
+}

@@ -1,0 +1,24 @@
+// What the page offers beside the picture: the switch that makes fingers press the right button, and the full screen.
+import type { Input } from './input';
+
+export function connectControls(input: Input, right: HTMLButtonElement, full: HTMLButtonElement): void {
+    right.hidden = !matchMedia('(any-pointer: coarse)').matches;
+    addEventListener('pointerdown', (event) => {
+        if (event.pointerType === 'touch') right.hidden = false;
+    });
+    right.addEventListener('click', () => {
+        input.fingersPressRight = !input.fingersPressRight;
+        right.setAttribute('aria-pressed', String(input.fingersPressRight));
+    });
+
+    full.hidden = !document.fullscreenEnabled;
+    full.addEventListener('click', () => {
+        const change = document.fullscreenElement
+            ? document.exitFullscreen()
+            : document.documentElement.requestFullscreen();
+        change.catch(() => (full.hidden = true));
+    });
+    document.addEventListener('fullscreenchange', () => {
+        full.textContent = document.fullscreenElement ? 'Leave full screen' : 'Full screen';
+    });
+}

@@ -1,0 +1,170 @@
+// The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each stands
+// at its place in game pixels; the window that holds them is scaled as a whole.
+import type { Notices } from './notices';
+import type { Pictures } from './pictures';
+import { type ElementRecord, Kind } from './records';
+
+const pixelsPerPoint = 96 / 72;
+
+// What stands for the fonts of the game where they are not installed.
+const families: Readonly<Record<string, string>> = {
+    'Times New Roman': '"Times New Roman", "Liberation Serif", Tinos, Times, serif',
+    Arial: 'Arial, "Liberation Sans", Arimo, Helvetica, sans-serif',
+    'MS Sans Serif': 'Arial, "Liberation Sans", Arimo, Helvetica, sans-serif',
+    'Felix Titling': '"Felix Titling", "Liberation Serif", Georgia, serif',
+};
+
+class Shown {
+    readonly node: HTMLElement;
+    readonly image: HTMLImageElement | undefined;
+    readonly input: HTMLInputElement | undefined;
+    readonly words: HTMLElement | undefined;
+    readonly unseen: HTMLElement | undefined;
+    spokenLast = '';
+
+    constructor(record: ElementRecord, place: number) {
+        switch (record.kind) {
+            case Kind.Picture:
+            case Kind.PressPicture:
+                this.node = make('div', 'picture');
+                this.image = add(this.node, makeImage());
+                break;
+            case Kind.Button:
+                this.node = make('button', 'picture');
+                this.image = add(this.node, makeImage());
+                break;
+            case Kind.Label:
+                this.node = make('div', 'label');
+                this.unseen = add(this.node, make('span', 'unseen'));
+                this.words = add(this.node, make('span'));
+                break;
+            case Kind.RadioButton:
+            case Kind.CheckBox:
+                this.node = make('label', 'choice');
+                this.input = add(this.node, make('input'));
+                this.input.type = record.kind === Kind.RadioButton ? 'radio' : 'checkbox';
+                this.input.name = record.group;
+                this.words = add(this.node, make('span'));
+                break;
+            case Kind.GroupFrame:
+                this.node = make('div', 'frame');
+                this.words = add(this.node, make('span'));
+                break;
+            case Kind.Outline:
+                this.node = make('div', 'outline');
+        }
+        (this.input ?? this.node).dataset['element'] = String(place);
+    }
+}
+
+export class Elements {
+    private readonly root: HTMLElement;
+    private readonly pictures: Pictures;
+    private readonly notices: Notices;
+    private readonly shown: Shown[] = [];
+    private readonly groups = new Map<string, HTMLElement>();
+
+    constructor(root: HTMLElement, pictures: Pictures, notices: Notices) {
+        this.root = root;
+        this.pictures = pictures;
+        this.notices = notices;
+    }
+
+    show(place: number, record: ElementRecord): void {
+        const element = (this.shown[place] ??= this.make(place, record));
+        const { node, image, input, words, unseen } = element;
+        node.hidden = !record.visible;
+        Object.assign(node.style, {
+            left: `${record.left}px`,
+            top: `${record.top}px`,
+            width: `${this.widthOf(record)}px`,
+            height: `${record.height}px`,
+            color: record.colour,
+        });
+        if (node instanceof HTMLButtonElement) node.disabled = !record.enabled;
+        if (image) {
+            this.pictures.show(image, record.picture);
+            image.alt = record.spoken;
+        }
+        if (input) {
+            input.checked = record.checked;
+            input.disabled = !record.enabled;
+        }
+        if (unseen) unseen.textContent = record.spoken && `${record.spoken} `;
+        if (words) setText(node, words, record);
+        this.speak(element, record);
+    }
+
+    close(): void {
+        for (const { image } of this.shown) if (image) this.pictures.forget(image);
+    }
+
+    /** A text may reach beyond the window; lines that break do so where they can still be read. */
+    private widthOf(record: ElementRecord): number {
+        return record.wraps ? Math.min(record.width, this.root.offsetWidth - record.left) : record.width;
+    }
+
+    private make(place: number, record: ElementRecord): Shown {
+        const element = new Shown(record, place);
+        const parent = this.shown[record.panel]?.node ?? this.groupOf(record) ?? this.root;
+        parent.append(element.node);
+        return element;
+    }
+
+    /** Radio buttons of one group lie in a node that tells a screen reader so. */
+    private groupOf(record: ElementRecord): HTMLElement | undefined {
+        if (record.kind !== Kind.RadioButton) return undefined;
+        let node = this.groups.get(record.group);
+        if (!node) {
+            node = add(this.root, make('div'));
+            node.setAttribute('role', 'radiogroup');
+            node.setAttribute('aria-label', record.group);
+            this.groups.set(record.group, node);
+        }
+        return node;
+    }
+
+    /** Numbers that change and pictures that tell something are said when they come. */
+    private speak(element: Shown, record: ElementRecord): void {
+        const tells = (record.kind === Kind.Label && record.spoken !== '') || record.kind === Kind.PressPicture;
+        const words = tells && record.visible ? `${record.spoken} ${record.text}` : '';
+        if (words !== element.spokenLast && words !== '') this.notices.speak(words);
+        element.spokenLast = words;
+    }
+}
+
+function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): void {
+    words.textContent = record.text;
+    // The ground of marked texts and frames reaches no further than what stands on it.
+    (record.kind === Kind.Label ? node : words).style.backgroundColor = record.ground;
+    if (record.kind === Kind.GroupFrame) node.style.backgroundColor = record.ground;
+    node.style.fontFamily = families[record.family] ?? record.family;
+    node.style.fontWeight = record.bold ? 'bold' : 'normal';
+    node.style.fontStyle = record.italic ? 'italic' : 'normal';
+    node.style.whiteSpace = record.wraps ? 'pre-wrap' : 'pre';
+    let size = record.points * pixelsPerPoint;
+    node.style.fontSize = `${size}px`;
+    // Browsers may know a larger face than the one that the text was set for.
+    while (record.fitHeight > 0 && words.offsetHeight > record.fitHeight && size > 6) {
+        size = Math.ceil(size) - 1;
+        node.style.fontSize = `${size}px`;
+    }
+}
+
+function makeImage(): HTMLImageElement {
+    const image = make('img');
+    image.draggable = false;
+    image.decoding = 'sync';
+    return image;
+}
+
+export function make<Tag extends keyof HTMLElementTagNameMap>(tag: Tag, className = ''): HTMLElementTagNameMap[Tag] {
+    const node = document.createElement(tag);
+    node.className = className;
+    return node;
+}
+
+export function add<Node extends HTMLElement>(parent: HTMLElement, node: Node): Node {
+    parent.append(node);
+    return node;
+}

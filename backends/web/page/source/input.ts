@@ -1,0 +1,92 @@
+// Mouse, fingers and keys as events of the game. Which element a press meets is found out by the program; elements of the
+// page are asked only where a key or a screen reader clicks them.
+import { EventKind } from './records';
+import type { Waiting } from './waiting';
+
+const leftButton = 1;
+const rightButton = 2;
+const escapeCode = 27;
+const mainWindow = 0;
+
+interface Held {
+    readonly window: number;
+    readonly root: HTMLElement;
+}
+
+export class Input {
+    /** Whether a finger stands for the right button. */
+    fingersPressRight = false;
+    private readonly fingers = new Map<number, Held & { readonly button: number }>();
+    private readonly held = new Map<number, Held>();
+    private pressSeen = false;
+
+    constructor(private readonly waiting: Waiting) {
+        addEventListener('mouseup', (event) => this.release(event));
+        addEventListener('pointerup', (event) => this.liftFinger(event, false));
+        addEventListener('pointercancel', (event) => this.liftFinger(event, true));
+        addEventListener('keydown', (event) => this.key(event));
+    }
+
+    attach(root: HTMLElement, window: number): void {
+        const held = { window, root };
+        root.addEventListener('mousedown', (event) => this.press(event, held));
+        root.addEventListener('mousemove', (event) => this.send(EventKind.Move, held, 0, event));
+        root.addEventListener('pointerdown', (event) => this.putFinger(event, held));
+        root.addEventListener('contextmenu', (event) => event.preventDefault());
+        root.addEventListener('click', (event) => this.click(event, held));
+    }
+
+    private press(event: MouseEvent, held: Held): void {
+        this.pressSeen = true;
+        this.held.set(event.button, held);
+        this.send(EventKind.Press, held, event.button === 0 ? leftButton : rightButton, event);
+    }
+
+    private release(event: MouseEvent): void {
+        const held = this.held.get(event.button);
+        this.held.delete(event.button);
+        if (held) this.send(EventKind.Release, held, event.button === 0 ? leftButton : rightButton, event);
+    }
+
+    /** A second finger is the right button, as is every finger while the switch says so. */
+    private putFinger(event: PointerEvent, held: Held): void {
+        if (event.pointerType !== 'touch') return;
+        event.preventDefault();
+        this.pressSeen = true;
+        const button = this.fingersPressRight || this.fingers.size > 0 ? rightButton : leftButton;
+        this.fingers.set(event.pointerId, { ...held, button });
+        this.send(EventKind.Press, held, button, event);
+    }
+
+    private liftFinger(event: PointerEvent, isLost: boolean): void {
+        const finger = this.fingers.get(event.pointerId);
+        if (!finger) return;
+        this.fingers.delete(event.pointerId);
+        if (isLost) this.waiting.send(EventKind.Release, finger.window, finger.button, -1, -1);
+        else this.send(EventKind.Release, finger, finger.button, event);
+    }
+
+    /** Clicks that come of a press have been seen to already; the program alone says what is marked. */
+    private click(event: MouseEvent, held: Held): void {
+        const element =
+            event.target instanceof HTMLElement ? event.target.closest<HTMLElement>('[data-element]') : null;
+        if (element instanceof HTMLInputElement) event.preventDefault();
+        const isOfPress = event.detail > 0 && this.pressSeen;
+        this.pressSeen = false;
+        if (!element || isOfPress) return;
+        const place = Number(element.dataset['element']);
+        setTimeout(() => this.waiting.send(EventKind.Activate, held.window, place));
+    }
+
+    private key(event: KeyboardEvent): void {
+        if (event.key !== 'Escape') return;
+        event.preventDefault();
+        if (!event.repeat) this.waiting.send(EventKind.Key, mainWindow, escapeCode);
+    }
+
+    private send(kind: EventKind, { window, root }: Held, number: number, event: MouseEvent): void {
+        const box = root.getBoundingClientRect();
+        const scale = box.width / root.offsetWidth;
+        this.waiting.send(kind, window, number, (event.clientX - box.left) / scale, (event.clientY - box.top) / scale);
+    }
+}

@@ -1,0 +1,70 @@
+// Starts the game: loads the program and the pictures of the main menu, shows the progress if that takes a while, runs the
+// program, and then fetches what can wait.
+import { connectControls } from './controls';
+import { Input } from './input';
+import { gameHeight, gameWidth, Layout } from './layout';
+import { Music } from './music';
+import { Notices } from './notices';
+import { keepForOffline, takeNewVersion } from './offline';
+import { Pictures } from './pictures';
+import { loadProgram } from './program';
+import { Settings } from './settings';
+import { Sounds } from './sound';
+import { Surface } from './surface';
+import { Waiting } from './waiting';
+import { Windows } from './windows';
+
+function find<Node extends HTMLElement>(id: string, type: new () => Node): Node {
+    const node = document.getElementById(id);
+    if (!(node instanceof type)) throw new Error(`The page lacks ${id}.`);
+    return node;
+}
+
+async function start(): Promise<void> {
+    const loading = find('loading', HTMLElement);
+    const progress = find('progress', HTMLProgressElement);
+    const notices = new Notices(find('notice', HTMLElement), find('voice', HTMLElement));
+    if (!('WebAssembly' in globalThis)) {
+        loading.textContent = 'Prismfall cannot run in this browser, since it lacks WebAssembly.';
+        return;
+    }
+
+    const layout = new Layout(find('room', HTMLElement));
+    const pictures = new Pictures(layout);
+    const report = () => (progress.value += 1);
+    const newVersion = takeNewVersion();
+    const program = loadProgram();
+    try {
+        await Promise.all([pictures.loadFirst(report), program.then(report)]);
+    } catch {
+        loading.textContent = 'Prismfall could not be loaded. Please see to the network and load the page again.';
+        return;
+    }
+    if (await newVersion) {
+        location.reload();
+        return;
+    }
+    loading.remove();
+
+    const waiting = new Waiting();
+    const input = new Input(waiting);
+    const surface = new Surface(gameWidth, gameHeight);
+    const windows = new Windows(layout, pictures, surface, notices, waiting, input, find('picture', HTMLElement));
+    const sounds = new Sounds(notices);
+    const machine = { waiting, windows, surface, sounds, music: new Music(notices), settings: new Settings(), notices };
+    connectControls(input, find('right', HTMLButtonElement), find('full', HTMLButtonElement));
+    const run = (await program).run(machine);
+    void fetchTheRest(pictures, sounds);
+    await run.catch((error: unknown) => {
+        console.error(error);
+        windows.end('Prismfall has stopped because something went wrong in it.');
+    });
+}
+
+async function fetchTheRest(pictures: Pictures, sounds: Sounds): Promise<void> {
+    await sounds.load();
+    await pictures.loadOthers();
+    await keepForOffline().catch(() => undefined);
+}
+
+void start();

@@ -1,0 +1,75 @@
+// The music player: one track at a time, looping or to its end once, streamed by the browser. Nothing here waits, and a
+// track that cannot be had is silence and a line under the picture.
+import { build } from './build';
+import { onPress } from './gestures';
+import type { Notices } from './notices';
+
+export class Music {
+    private readonly player = new Audio();
+    private readonly notices: Notices;
+    /** Whether the game wants the track to be heard now, whatever the browser says to that. */
+    private wanted = false;
+
+    constructor(notices: Notices) {
+        this.notices = notices;
+        this.player.preload = 'auto';
+        this.player.addEventListener('ended', () => (this.wanted = false));
+        this.player.addEventListener('error', () => this.tellFailure());
+        onPress(() => this.sound());
+        document.addEventListener('visibilitychange', () => this.sound());
+    }
+
+    open(track: string): void {
+        this.close();
+        this.player.src = `${build.music}/${track}`;
+    }
+
+    close(): void {
+        this.stop();
+        if (!this.player.hasAttribute('src')) return;
+        this.player.removeAttribute('src');
+        this.player.load();
+    }
+
+    setVolume(share: number): void {
+        this.player.volume = share;
+    }
+
+    playLooping(): void {
+        this.stop();
+        this.player.loop = true;
+        this.wanted = true;
+        this.sound();
+    }
+
+    /** Plays on to the track's end, once; a track that has ended stays silent. */
+    resume(): void {
+        if (!this.player.hasAttribute('src') || this.player.ended) return;
+        this.player.loop = false;
+        this.wanted = true;
+        this.sound();
+    }
+
+    pause(): void {
+        this.wanted = false;
+        this.sound();
+    }
+
+    stop(): void {
+        this.pause();
+        if (this.player.readyState > 0) this.player.currentTime = 0;
+    }
+
+    private sound(): void {
+        if (!this.wanted || document.hidden || !this.player.hasAttribute('src')) {
+            this.player.pause();
+            return;
+        }
+        // Refused before the first press, and told off when the track changes meanwhile: the next press or track tries again.
+        if (this.player.paused) this.player.play().catch(() => undefined);
+    }
+
+    private tellFailure(): void {
+        if (this.player.hasAttribute('src')) this.notices.show('The music cannot be loaded.');
+    }
+}

@@ -1,0 +1,60 @@
+// The picture files, at single or double size, whichever suits the page. Those of the main menu come before the game
+// starts, the others as soon as it has.
+import { build } from './build';
+import type { Layout } from './layout';
+
+const first = ['Background', 'ImagePrismfall', 'PuzzleUp', 'ArcadeUp', 'OptionsUp', 'ScoresUp', 'AboutUp', 'ExitUp'];
+
+export class Pictures {
+    private readonly shown = new Map<HTMLImageElement, string>();
+    private readonly kept: HTMLImageElement[] = [];
+    private size: '1x' | '2x' = '1x';
+
+    constructor(layout: Layout) {
+        layout.whenChanged(() => this.choose(layout.density > 1 ? '2x' : '1x'));
+    }
+
+    /** Reports each picture of the main menu as it comes, and comes back when all have, or could not be had. */
+    async loadFirst(report: () => void): Promise<void> {
+        await Promise.all(first.map((name) => this.load(name).then(report)));
+    }
+
+    /** So that a button's other face, or a dialog, is there when it is to be shown. */
+    async loadOthers(): Promise<void> {
+        const pattern = new RegExp(`/${this.size}/(\\w+)\\.png$`);
+        for (const file of build.files) {
+            const name = pattern.exec(file)?.[1];
+            if (name && !first.includes(name)) await this.load(name);
+        }
+    }
+
+    /** Shows a picture in an image of the page from now on; an empty name shows nothing. */
+    show(image: HTMLImageElement, name: string): void {
+        if (this.shown.get(image) === name) return;
+        this.shown.set(image, name);
+        this.point(image, name);
+    }
+
+    forget(image: HTMLImageElement): void {
+        this.shown.delete(image);
+    }
+
+    private point(image: HTMLImageElement, name: string): void {
+        image.hidden = name === '';
+        if (name === '') image.removeAttribute('srcset');
+        else image.srcset = `${build.folder}/pictures/${this.size}/${name}.png ${this.size}`;
+    }
+
+    private async load(name: string): Promise<void> {
+        const image = new Image();
+        this.point(image, name);
+        this.kept.push(image);
+        await image.decode().catch(() => undefined);
+    }
+
+    private choose(size: '1x' | '2x'): void {
+        if (size === this.size) return;
+        this.size = size;
+        for (const [image, name] of this.shown) this.point(image, name);
+    }
+}

@@ -1,0 +1,139 @@
+// Brings the program to life: the functions of backends/web/Imports.h, and the two ways in which a program can stand
+// still while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
+// second build that takes its own stack down and puts it up again.
+import { build } from './build';
+import type { Music } from './music';
+import type { Notices } from './notices';
+import { decodeText, readElement, readWindow, writeEvent } from './records';
+import type { Settings } from './settings';
+import type { Sounds } from './sound';
+import type { Surface } from './surface';
+import type { Waiting } from './waiting';
+import type { Windows } from './windows';
+
+export interface Machine {
+    readonly waiting: Waiting;
+    readonly windows: Windows;
+    readonly surface: Surface;
+    readonly sounds: Sounds;
+    readonly music: Music;
+    readonly settings: Settings;
+    readonly notices: Notices;
+}
+
+interface Exports {
+    readonly memory: WebAssembly.Memory;
+    readonly _initialize: () => void;
+    readonly run: () => void;
+    readonly suspendedStack: () => number;
+    readonly asyncify_start_unwind: (stack: number) => void;
+    readonly asyncify_stop_unwind: () => void;
+    readonly asyncify_start_rewind: (stack: number) => void;
+    readonly asyncify_stop_rewind: () => void;
+}
+
+interface Suspension {
+    Suspending: new (waiting: (until: number, forInput: number) => Promise<void>) => WebAssembly.ImportValue;
+    promising: (run: () => void) => () => Promise<void>;
+}
+
+type Wait = (until: number, forInput: number) => Promise<void>;
+
+export interface Program {
+    /** Comes back when the program has ended. */
+    run(machine: Machine): Promise<void>;
+}
+
+/** The build is the browser's choice, unless the address asks for one: `?build=asyncify`. */
+function canSuspend(): boolean {
+    return 'Suspending' in WebAssembly && new URLSearchParams(location.search).get('build') !== 'asyncify';
+}
+
+export async function loadProgram(): Promise<Program> {
+    const suspends = canSuspend();
+    const file = fetch(`${build.folder}/${suspends ? 'prismfall' : 'prismfall-asyncify'}.wasm`);
+    const module = await WebAssembly.compileStreaming(file);
+    return { run: (machine) => (suspends ? runSuspending(module, machine) : runUnwinding(module, machine)) };
+}
+
+async function runSuspending(module: WebAssembly.Module, machine: Machine): Promise<void> {
+    const { Suspending, promising } = WebAssembly as unknown as Suspension;
+    const start = (wait: Wait) => new Suspending(wait);
+    const program = await instantiate(module, machine, start);
+    await promising(program.run)();
+}
+
+/** Each wait goes back all the way to this loop, which calls the program anew when it is over. */
+async function runUnwinding(module: WebAssembly.Module, machine: Machine): Promise<void> {
+    let waited: Promise<void> | undefined;
+    let stack = 0;
+    let isRewinding = false;
+    const program = await instantiate(module, machine, (wait) => (until: number, forInput: number) => {
+        if (isRewinding) {
+            program.asyncify_stop_rewind();
+            isRewinding = false;
+            return;
+        }
+        waited = wait(until, forInput);
+        stack = program.suspendedStack();
+        program.asyncify_start_unwind(stack);
+    });
+    for (;;) {
+        program.run();
+        if (!waited) return;
+        program.asyncify_stop_unwind();
+        await waited;
+        waited = undefined;
+        isRewinding = true;
+        program.asyncify_start_rewind(stack);
+    }
+}
+
+async function instantiate(
+    module: WebAssembly.Module,
+    machine: Machine,
+    suspending: (wait: Wait) => WebAssembly.ImportValue,
+): Promise<Exports> {
+    const { waiting, windows, surface, sounds, music, settings, notices } = machine;
+    const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
+    const wait = suspending((until, forInput) => waiting.wait(until, forInput !== 0));
+    const page = {
+        wait,
+        now: () => performance.now(),
+        takeEvent: (address: number) => {
+            const event = waiting.take();
+            if (event) writeEvent(memory, address, event);
+            return event ? 1 : 0;
+        },
+        isHidden: () => (waiting.isHidden ? 1 : 0),
+        random: () => Math.random(),
+        openWindow: (window: number, record: number) => windows.open(window, readWindow(memory, record)),
+        closeWindow: (window: number) => windows.close(window),
+        showElement: (window: number, element: number, record: number) =>
+            windows.show(window, element, readElement(memory, record)),
+        showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
+            surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
+        showNotice: (address: number, length: number) => notices.show(text(address, length)),
+        openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
+        endProgram: () => windows.end(),
+        openSettings: () => settings.open(),
+        readSettings: (address: number) => settings.copyTo(new Uint8Array(memory.buffer, address)),
+        writeSettings: (address: number, length: number) => (settings.write(text(address, length)) ? 1 : 0),
+        playSound: (id: number) => sounds.play(id),
+        openMusic: (address: number, length: number) => music.open(text(address, length)),
+        closeMusic: () => music.close(),
+        setMusicVolume: (share: number) => music.setVolume(share),
+        playMusicLooping: () => music.playLooping(),
+        resumeMusic: () => music.resume(),
+        pauseMusic: () => music.pause(),
+        stopMusic: () => music.stop(),
+    };
+    // The C library could write to files, if there were any.
+    const badFile = () => 8;
+    const files = { fd_close: badFile, fd_seek: badFile, fd_write: badFile };
+    const instance = await WebAssembly.instantiate(module, { page, wasi_snapshot_preview1: files });
+    const program = instance.exports as unknown as Exports;
+    const memory = program.memory;
+    program._initialize();
+    return program;
+}

@@ -1,0 +1,167 @@
+// The records of backends/web/Imports.h, read from the program's memory field by field.
+
+/** Reads fields of four bytes, one after the other. */
+class FieldReader {
+    private readonly view: DataView;
+    private at: number;
+
+    constructor(memory: WebAssembly.Memory, address: number) {
+        this.view = new DataView(memory.buffer);
+        this.at = address;
+    }
+
+    whole(): number {
+        return this.view.getInt32(this.next(), true);
+    }
+
+    /** Without a sign. */
+    bits(): number {
+        return this.view.getUint32(this.next(), true);
+    }
+
+    flag(): boolean {
+        return this.whole() !== 0;
+    }
+
+    real(): number {
+        return this.view.getFloat32(this.next(), true);
+    }
+
+    text(): string {
+        const address = this.bits();
+        return decodeText(this.view.buffer as ArrayBuffer, address, this.bits());
+    }
+
+    private next(): number {
+        this.at += 4;
+        return this.at - 4;
+    }
+}
+
+const decoder = new TextDecoder();
+
+export function decodeText(memory: ArrayBuffer, address: number, length: number): string {
+    return length === 0 ? '' : decoder.decode(new Uint8Array(memory, address, length));
+}
+
+export interface WindowRecord {
+    readonly isDialog: boolean;
+    readonly left: number;
+    readonly top: number;
+    readonly width: number;
+    readonly height: number;
+    readonly title: string;
+    readonly background: string;
+}
+
+export function readWindow(memory: WebAssembly.Memory, address: number): WindowRecord {
+    const field = new FieldReader(memory, address);
+    return {
+        isDialog: field.flag(),
+        left: field.whole(),
+        top: field.whole(),
+        width: field.whole(),
+        height: field.whole(),
+        title: field.text(),
+        background: field.text(),
+    };
+}
+
+/** As in platform/Element.h. */
+export enum Kind {
+    Picture,
+    Button,
+    PressPicture,
+    Label,
+    RadioButton,
+    CheckBox,
+    GroupFrame,
+    Outline,
+}
+
+export interface ElementRecord {
+    readonly kind: Kind;
+    readonly panel: number;
+    readonly visible: boolean;
+    readonly enabled: boolean;
+    readonly checked: boolean;
+    readonly left: number;
+    readonly top: number;
+    readonly width: number;
+    readonly height: number;
+    readonly colour: string;
+    readonly ground: string;
+    readonly points: number;
+    readonly bold: boolean;
+    readonly italic: boolean;
+    readonly wraps: boolean;
+    readonly fitHeight: number;
+    readonly family: string;
+    readonly picture: string;
+    readonly spoken: string;
+    readonly text: string;
+    readonly group: string;
+}
+
+const noGround = 0xffffffff;
+
+/** From 0xBBGGRR to the form of style sheets. */
+function cssColour(colour: number): string {
+    if (colour === noGround) return 'transparent';
+    return `rgb(${colour & 0xff} ${(colour >> 8) & 0xff} ${(colour >> 16) & 0xff})`;
+}
+
+export function readElement(memory: WebAssembly.Memory, address: number): ElementRecord {
+    const field = new FieldReader(memory, address);
+    return {
+        kind: field.whole(),
+        panel: field.whole(),
+        visible: field.flag(),
+        enabled: field.flag(),
+        checked: field.flag(),
+        left: field.real(),
+        top: field.real(),
+        width: field.whole(),
+        height: field.whole(),
+        colour: cssColour(field.bits()),
+        ground: cssColour(field.bits()),
+        points: field.real(),
+        bold: field.flag(),
+        italic: field.flag(),
+        wraps: field.flag(),
+        fitHeight: field.whole(),
+        family: field.text(),
+        picture: field.text(),
+        spoken: field.text(),
+        text: field.text(),
+        group: field.text(),
+    };
+}
+
+export enum EventKind {
+    Move,
+    Press,
+    Release,
+    Activate,
+    Key,
+    Close,
+}
+
+export interface PageEvent {
+    readonly kind: EventKind;
+    readonly window: number;
+    readonly number: number;
+    readonly x: number;
+    readonly y: number;
+    readonly time: number;
+}
+
+export function writeEvent(memory: WebAssembly.Memory, address: number, event: PageEvent): void {
+    const view = new DataView(memory.buffer, address);
+    view.setFloat64(0, event.time, true);
+    view.setInt32(8, event.kind, true);
+    view.setInt32(12, event.window, true);
+    view.setInt32(16, event.number, true);
+    view.setFloat32(20, event.x, true);
+    view.setFloat32(24, event.y, true);
+}

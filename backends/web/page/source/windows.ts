@@ -1,0 +1,118 @@
+// The windows: the main one is a part of the page, the others are its dialogs, with a frame, a title and a close box.
+import { add, Elements, make } from './elements';
+import type { Input } from './input';
+import { type Layout, place } from './layout';
+import type { Notices } from './notices';
+import type { Pictures } from './pictures';
+import { type ElementRecord, EventKind, type WindowRecord } from './records';
+import type { Surface } from './surface';
+import type { Waiting } from './waiting';
+
+const messageBox = -1;
+
+interface OpenWindow {
+    readonly elements: Elements;
+    readonly dialog?: HTMLDialogElement;
+}
+
+export class Windows {
+    private readonly open_ = new Map<number, OpenWindow>();
+    private readonly picture: HTMLElement;
+
+    constructor(
+        private readonly layout: Layout,
+        private readonly pictures: Pictures,
+        private readonly surface: Surface,
+        private readonly notices: Notices,
+        private readonly waiting: Waiting,
+        private readonly input: Input,
+        picture: HTMLElement,
+    ) {
+        this.picture = picture;
+        layout.whenChanged(() => {
+            place(picture, layout.main);
+            picture.classList.toggle('sharp', layout.isSharp);
+        });
+    }
+
+    open(number: number, record: WindowRecord): void {
+        const dialog = record.isDialog ? this.makeDialog(number, record) : undefined;
+        const root = dialog?.querySelector<HTMLElement>('.inner') ?? this.picture;
+        const background = add(root, make('img', 'background'));
+        background.alt = '';
+        background.draggable = false;
+        this.pictures.show(background, record.background);
+        if (!dialog) add(root, this.surface.canvas);
+        const elements = new Elements(root, this.pictures, this.notices);
+        this.open_.set(number, dialog ? { elements, dialog } : { elements });
+        this.input.attach(root, number);
+        dialog?.showModal();
+    }
+
+    show(number: number, element: number, record: ElementRecord): void {
+        this.open_.get(number)?.elements.show(element, record);
+    }
+
+    close(number: number): void {
+        const window = this.open_.get(number);
+        this.open_.delete(number);
+        window?.elements.close();
+        window?.dialog?.close();
+        window?.dialog?.remove();
+    }
+
+    openMessage(sentence: string): void {
+        const box = add(document.body, make('dialog', 'message'));
+        box.setAttribute('role', 'alertdialog');
+        box.setAttribute('aria-label', 'Prismfall');
+        add(box, make('p')).textContent = sentence;
+        const ok = add(box, make('button', 'plain'));
+        ok.textContent = 'OK';
+        ok.addEventListener('click', () => box.close());
+        box.addEventListener('close', () => {
+            box.remove();
+            this.waiting.send(EventKind.Close, messageBox);
+        });
+        box.showModal();
+    }
+
+    /** The program has ended, or could not go on; the sentence says why. */
+    end(sentence = ''): void {
+        this.picture.inert = true;
+        this.picture.classList.add('ended');
+        if (sentence) this.notices.show(sentence);
+        const again = add(this.picture.parentElement ?? document.body, make('button', 'plain again'));
+        again.textContent = 'Play again';
+        again.addEventListener('click', () => location.reload());
+        again.focus();
+    }
+
+    private makeDialog(number: number, record: WindowRecord): HTMLDialogElement {
+        const dialog = add(document.body, make('dialog', 'dialog'));
+        const inner = add(dialog, make('div', 'inner'));
+        inner.style.width = `${record.width}px`;
+        inner.style.height = `${record.height}px`;
+        inner.id = `inner${number}`;
+        dialog.setAttribute('aria-describedby', inner.id);
+        // The focus is the dialog's own at first, so that its title and texts are read.
+        dialog.autofocus = true;
+        dialog.tabIndex = -1;
+        const header = add(dialog, make('header'));
+        const title = add(header, make('h2'));
+        title.id = `title${number}`;
+        title.textContent = record.title;
+        dialog.setAttribute('aria-labelledby', title.id);
+        const closeBox = add(header, make('button', 'close'));
+        closeBox.setAttribute('aria-label', 'Close');
+        closeBox.addEventListener('click', () => this.waiting.send(EventKind.Close, number));
+        // Some browsers close a dialog by ways of their own, as with a phone's key for going back.
+        dialog.addEventListener('cancel', (event) => {
+            event.preventDefault();
+            this.waiting.send(EventKind.Close, number);
+        });
+        this.layout.whenChanged(() =>
+            place(dialog, this.layout.dialog(record.left, record.top, record.width, record.height)),
+        );
+        return dialog;
+    }
+}

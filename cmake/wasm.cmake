@@ -1,0 +1,10 @@
+# The toolchain of the web build: clang 19 for WebAssembly with WASI's C library, as Debian packages them.
+set(CMAKE_SYSTEM_NAME Generic)
+set(WASI TRUE)
+set(CMAKE_SYSTEM_PROCESSOR wasm32)
+set(CMAKE_CXX_COMPILER clang++-19)
+set(CMAKE_CXX_COMPILER_TARGET wasm32-wasi)
+set(CMAKE_AR llvm-ar-19)
+set(CMAKE_RANLIB llvm-ranlib-19)
+set(CMAKE_CXX_FLAGS_INIT -fno-exceptions)
+set(CMAKE_EXECUTABLE_SUFFIX_CXX .wasm)
