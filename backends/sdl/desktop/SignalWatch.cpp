@@ -4,7 +4,10 @@
 
 #include <SDL.h>
 #include <pthread.h>
+#include <atomic>
+#include <cerrno>
 #include <csignal>
+#include <cstdlib>
 
 #include <thread>
 
@@ -12,30 +15,59 @@ namespace prismfall {
 
 namespace {
 
-sigset_t EndSignals() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&signals, signal);
-    return signals;
+constexpr timespec kPatience{3, 0};  // for an end in good order
+
+std::atomic<bool> takesEvents = false;
+std::atomic<bool> signalCame = false;
+
+bool IsIgnored(int signal) {
+    struct sigaction action {};
+    return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
-[[noreturn]] void WaitForSignals() {
-    const sigset_t signals = EndSignals();
+void PushQuit() {
+    SDL_Event event{};
+    event.type = SDL_QUIT;
+    SDL_PushEvent(&event);
+}
+
+// By the signal's own effect, so that whoever started the program can see what ended it.
+[[noreturn]] void EndBy(int signal) {
+    std::signal(signal, SIG_DFL);
+    sigset_t one;
+    sigemptyset(&one);
+    sigaddset(&one, signal);
+    pthread_sigmask(SIG_UNBLOCK, &one, nullptr);
+    std::raise(signal);
+    std::_Exit(EXIT_FAILURE);
+}
+
+[[noreturn]] void MeetSignals(sigset_t signals) {
+    int first = 0;
+    while (sigwait(&signals, &first) != 0) continue;
+    signalCame = true;
+    if (takesEvents) PushQuit();
     for (;;) {
-        int signal = 0;
-        if (sigwait(&signals, &signal) != 0) continue;
-        SDL_Event event{};
-        event.type = SDL_QUIT;
-        SDL_PushEvent(&event);
+        const int second = sigtimedwait(&signals, nullptr, &kPatience);
+        if (second > 0) EndBy(second);
+        if (errno != EINTR) EndBy(first);  // otherwise the program was stopped, and goes on now
     }
 }
 
 }  // namespace
 
 void WatchEndSignals() {
-    const sigset_t signals = EndSignals();
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        if (!IsIgnored(signal)) sigaddset(&signals, signal);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    std::thread(WaitForSignals).detach();
+    std::thread(MeetSignals, signals).detach();
+}
+
+void DeliverEarlySignal() {
+    takesEvents = true;
+    if (signalCame) PushQuit();
 }
 
 }  // namespace prismfall

@@ -205,6 +205,7 @@ bool OpenDesktop(std::string& failure) {
     // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
     if (OnX11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     IgnoreLateWakeUpErrors();
+    DeliverEarlySignal();
     return true;
 }
 

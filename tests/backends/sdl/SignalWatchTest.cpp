@@ -1,0 +1,43 @@
+// Signals that ask the program to end: the first becomes an event, and nothing that hangs outlives the next.
+#include "backends/sdl/desktop/SignalWatch.h"
+
+#include <SDL.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+#include <csignal>
+
+namespace prismfall {
+namespace {
+
+// Sends a signal to this process and tells whether it has become an event soon after.
+bool BecomesAnEvent(int signal) {
+    kill(getpid(), signal);
+    SDL_Delay(100);
+    SDL_PumpEvents();
+    return SDL_HasEvent(SDL_QUIT) == SDL_TRUE;
+}
+
+TEST(SignalWatchTest, EndsWhatHangsAndLeavesIgnoredSignalsAlone) {
+    const auto watch = [] {
+        signal(SIGHUP, SIG_IGN);
+        WatchEndSignals();
+    };
+    const auto start = [] {
+        SDL_Init(SDL_INIT_EVENTS);
+        DeliverEarlySignal();
+    };
+    const auto sleepLong = [] {
+        sleep(6);
+        _exit(1);
+    };
+    EXPECT_EXIT((watch(), start(), _exit(BecomesAnEvent(SIGHUP) ? 1 : 0)), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT((watch(), BecomesAnEvent(SIGINT), start(), _exit(SDL_HasEvent(SDL_QUIT) ? 0 : 1)),
+                testing::ExitedWithCode(0), "");
+    EXPECT_EXIT((watch(), start(), _exit(BecomesAnEvent(SIGTERM) ? 0 : 1)), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT((watch(), start(), BecomesAnEvent(SIGTERM), BecomesAnEvent(SIGINT), sleepLong()),
+                testing::KilledBySignal(SIGINT), "");
+    EXPECT_EXIT((watch(), start(), BecomesAnEvent(SIGTERM), sleepLong()), testing::KilledBySignal(SIGTERM), "");
+}
+
+}  // namespace
+}  // namespace prismfall
