@@ -25,7 +25,8 @@ constexpr int kTextLeft = 2 * kMargin + kMarkSize;
 constexpr int kInnerWidth = kTextLeft + kTextWidth + kMargin;
 
 // A disc with a cross.
-Image StopMark(int size) {
+Image StopMark(float scale) {
+    const int size = std::max(1, static_cast<int>(std::nearbyint(static_cast<float>(kMarkSize) * scale)));
     Image mark(size, size);
     Canvas canvas(mark.pixels.data(), size, size, size);
     const auto whole = static_cast<float>(size);
@@ -44,16 +45,14 @@ int GamePixels(int displayPixels, const Display& display) {
 }  // namespace
 
 void MakeMessageBox(Window& box, std::string_view text, Display& display, const std::function<void()>& dismiss) {
-    display.pictures.Add(kMarkPicture, StopMark(display.Pixels(kMarkSize)));
-    const auto lines =
-        static_cast<int>(display.text.Lines(text, kFont, display.Pixels(static_cast<float>(kTextWidth))).size());
-    const int lineHeight = display.text.LineHeight(kFont);
-    const int textHeight = GamePixels(lines * lineHeight, display);
+    display.pictures.Add(kMarkPicture, StopMark);
+    const TextLayout layout{.font = kFont, .wrapWidth = display.Pixels(static_cast<float>(kTextWidth))};
+    const int textHeight = GamePixels(display.text.Height(text, layout), display);
     const int bodyHeight = std::max(kMarkSize, textHeight);
     const int buttonTop = kMargin + bodyHeight + kMargin;
     const int buttonLeft = (kInnerWidth - kButtonWidth) / 2;
     const int wordWidth = GamePixels(display.text.Width("OK", kFont), display);
-    const int wordHeight = GamePixels(lineHeight, display);
+    const int wordHeight = GamePixels(display.text.LineHeight(kFont), display);
 
     box.name = "MessageBox";
     box.title = "Prismfall";

@@ -1,5 +1,5 @@
-// The error box: a small dialog of our own with a stop mark, a text and an OK button. It is an ordinary window's data;
-// showing it and closing it by its close box belong to the platform.
+// The error box: a small dialog of our own with a stop mark, a text and an OK button, made as an ordinary window's
+// data.
 #pragma once
 
 #include <functional>

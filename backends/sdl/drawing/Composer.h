@@ -1,5 +1,5 @@
 // Puts one window's picture together: background, painted layer, elements in their stacking order. It finds out by
-// itself which elements have changed since it last looked. Showing the result belongs to the real window.
+// itself which elements have changed since it last looked.
 #pragma once
 
 #include <vector>

@@ -1,4 +1,4 @@
-// Joining of boxes: two become one if the box around them is hardly larger than both.
+// Two boxes become one if the box that holds both is hardly larger than they are.
 #include "backends/sdl/drawing/Damage.h"
 
 namespace prismfall {

@@ -33,20 +33,17 @@ void DrawPicture(Canvas& canvas, const Element& element, const PixelBox& box, Di
     }
     canvas.Fill(box, kPlaceholderGround);
     DrawOutline(canvas, box, PixelOf(kPlaceholderColour), LineWidth(display));
-    display.text.DrawLine(canvas, element.picture, kPlaceholderFont, kPlaceholderColour, box.left + display.Pixels(4),
-                          box.top + display.Pixels(4));
+    display.text.Draw(canvas, element.picture, {.font = kPlaceholderFont}, kPlaceholderColour,
+                      box.left + display.Pixels(4), box.top + display.Pixels(4));
 }
 
 void DrawLabel(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
     if (element.ground) canvas.Fill(box, PixelOf(*element.ground));
-    const int height = display.text.LineHeight(element.font);
+    TextLayout layout{.font = element.font};
     // A box may reach beyond the window; lines that break do so where they can still be read.
-    const int width = element.wraps ? std::min(box.right, canvas.Width()) - box.left : 0;
-    int top = box.top;
-    for (const std::string& line : display.text.Lines(element.text, element.font, width)) {
-        display.text.DrawLine(canvas, line, element.font, element.colour, box.left, top);
-        top += height;
-    }
+    if (element.wraps) layout.wrapWidth = std::max(1, std::min(box.right, canvas.Width()) - box.left);
+    layout.fitHeight = display.Pixels(static_cast<float>(element.fitHeight));
+    display.text.Draw(canvas, element.text, layout, element.colour, box.left, box.top);
 }
 
 void DrawRadioMark(Canvas& canvas, const Element& element, int left, int top, int size, int line) {
@@ -87,8 +84,8 @@ void DrawMarkedText(Canvas& canvas, const Element& element, const PixelBox& box,
                 PixelOf(element.ground.value_or(kBlack)));
     const auto draw = element.kind == ElementKind::RadioButton ? DrawRadioMark : DrawCheckMark;
     draw(canvas, element, box.left, markTop, size, LineWidth(display));
-    display.text.DrawLine(canvas, element.text, element.font, element.colour,
-                          box.left + size + display.Pixels(kMarkGap), textTop);
+    display.text.Draw(canvas, element.text, {.font = element.font}, element.colour,
+                      box.left + size + display.Pixels(kMarkGap), textTop);
 }
 
 void DrawGroupFrame(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
@@ -102,12 +99,13 @@ void DrawGroupFrame(Canvas& canvas, const Element& element, const PixelBox& box,
     const int gap = display.Pixels(2);
     const int right = left + display.text.Width(element.text, element.font);
     canvas.Fill({left - gap, box.top, right + gap, frame.top + LineWidth(display)}, ground);
-    display.text.DrawLine(canvas, element.text, element.font, element.colour, left, box.top);
+    display.text.Draw(canvas, element.text, {.font = element.font}, element.colour, left, box.top);
 }
 
 }  // namespace
 
 void Display::SetScale(float newScale) {
+    if (newScale == scale) return;
     scale = newScale;
     pictures.SetScale(newScale);
     text.SetScale(newScale);

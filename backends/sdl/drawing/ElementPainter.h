@@ -1,5 +1,4 @@
-// Draws the elements of a window: where each stands on the display, and what each kind looks like. When they are drawn
-// belongs to others.
+// Draws the elements of a window: where each stands on the display, and what each kind looks like.
 #pragma once
 
 #include "backends/sdl/drawing/Canvas.h"
@@ -13,6 +12,7 @@ namespace prismfall {
 struct Display {
     explicit Display(PictureStore store) : pictures(std::move(store)) {}
 
+    // Set anew before each window's picture, since windows may differ.
     void SetScale(float newScale);
     // A length or a place in game pixels as pixels of the display, rounded half to even.
     int Pixels(float gamePixels) const;

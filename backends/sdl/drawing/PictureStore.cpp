@@ -3,9 +3,13 @@
 
 #include <png.h>
 
+#include <algorithm>
 #include <bit>
+#include <cerrno>
 #include <cmath>
 #include <cstdio>
+#include <memory>
+#include <utility>
 
 namespace prismfall {
 
@@ -26,16 +30,44 @@ bool Premultiply(std::vector<std::uint32_t>& pixels) {
     return opaque;
 }
 
-// Whatever kind of PNG the file is: libpng brings it to the form of our pixels.
-std::optional<Image> ReadFile(const std::filesystem::path& path) {
+constexpr png_uint_32 kLargestSide = 4096;  // far beyond any picture of the game at double size
+
+struct Reading {
+    std::optional<Image> image = {};
+    std::string fault = {};  // what is wrong with the file, if there is no picture
+};
+
+// Whatever kind of PNG the file is: libpng brings it to our kind of pixels.
+Reading ReadFile(const std::filesystem::path& path) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::fopen(path.string().c_str(), "rb"), std::fclose);
+    if (!stream) return {.fault = errno == ENOENT ? "is missing" : "cannot be opened"};
     png_image file{};
     file.version = PNG_IMAGE_VERSION;
-    if (png_image_begin_read_from_file(&file, path.c_str()) == 0) return std::nullopt;
+    if (png_image_begin_read_from_stdio(&file, stream.get()) == 0) return {.fault = "is damaged"};
+    if (file.width > kLargestSide || file.height > kLargestSide) {
+        png_image_free(&file);
+        return {.fault = "is too large"};
+    }
     file.format = kPixelFormat;
     Image image(static_cast<int>(file.width), static_cast<int>(file.height));
-    if (png_image_finish_read(&file, nullptr, image.pixels.data(), 0, nullptr) == 0) return std::nullopt;
+    if (png_image_finish_read(&file, nullptr, image.pixels.data(), 0, nullptr) == 0) return {.fault = "is damaged"};
     image.opaque = Premultiply(image.pixels);
-    return image;
+    return {.image = std::move(image)};
+}
+
+Reading ReadScaled(const std::filesystem::path& folder, float scale, std::string_view name) {
+    const std::string file = std::string(name) + ".png";
+    float fileScale = scale > 1 ? 2.0F : 1.0F;
+    Reading reading = ReadFile(folder / (scale > 1 ? "2x" : "1x") / file);
+    if (!reading.image && scale > 1) {
+        fileScale = 1;
+        reading = ReadFile(folder / "1x" / file);
+    }
+    if (!reading.image || fileScale == scale) return reading;
+    const auto sized = [&](int size) {
+        return std::max(1, static_cast<int>(std::lround(static_cast<float>(size) * scale / fileScale)));
+    };
+    return {.image = Scaled(*reading.image, sized(reading.image->width), sized(reading.image->height))};
 }
 
 }  // namespace
@@ -46,7 +78,8 @@ void PictureStore::ReadAhead(std::span<const std::string_view> names) {
     readAhead = std::async(std::launch::async, [path = folder, list = std::vector(names.begin(), names.end())] {
         Images read;
         for (const std::string_view name : list) {
-            if (std::optional<Image> image = Load(path, 1, name)) read.emplace(name, std::move(image));
+            if (Reading reading = ReadScaled(path, 1, name); reading.image)
+                read.emplace(name, std::move(reading.image));
         }
         return read;
     });
@@ -55,46 +88,35 @@ void PictureStore::ReadAhead(std::span<const std::string_view> names) {
 void PictureStore::TakeReadAhead() {
     if (!readAhead.valid()) return;
     Images read = readAhead.get();
-    if (scale == 1) images.merge(read);
+    if (sizes[0].scale == 1) sizes[0].images.merge(read);
 }
 
 void PictureStore::SetScale(float displayScale) {
-    if (displayScale == scale) return;
-    scale = displayScale;
-    images.clear();
+    if (displayScale == sizes[0].scale) return;
+    std::swap(sizes[0], sizes[1]);
+    if (displayScale != sizes[0].scale) sizes[0] = {displayScale, {}};
 }
 
-void PictureStore::Add(std::string_view name, Image image) {
-    images.insert_or_assign(std::string(name), std::move(image));
+void PictureStore::Add(std::string_view name, std::function<Image(float scale)> draw) {
+    drawn.insert_or_assign(std::string(name), std::move(draw));
 }
 
 const Image* PictureStore::Find(std::string_view name) {
     TakeReadAhead();
+    Images& images = sizes[0].images;
     auto found = images.find(name);
-    if (found == images.end()) {
-        found = images.emplace(std::string(name), Load(folder, scale, name)).first;
-        if (!found->second && !reported) {
-            reported = true;
-            std::fprintf(stderr, "prismfall: the picture %s is missing in %s, its name stands in its place.\n",
-                         found->first.c_str(), folder.c_str());
-        }
-    }
+    if (found == images.end()) found = images.emplace(std::string(name), Make(std::string(name))).first;
     return found->second ? &*found->second : nullptr;
 }
 
-std::optional<Image> PictureStore::Load(const std::filesystem::path& folder, float scale, std::string_view name) {
-    const std::string file = std::string(name) + ".png";
-    float fileScale = scale > 1 ? 2.0F : 1.0F;
-    std::optional<Image> image = ReadFile(folder / (scale > 1 ? "2x" : "1x") / file);
-    if (!image && scale > 1) {
-        fileScale = 1;
-        image = ReadFile(folder / "1x" / file);
-    }
-    if (!image || fileScale == scale) return image;
-    const auto sized = [&](int size) {
-        return std::max(1, static_cast<int>(std::lround(static_cast<float>(size) * scale / fileScale)));
-    };
-    return Scaled(*image, sized(image->width), sized(image->height));
+std::optional<Image> PictureStore::Make(const std::string& name) {
+    const float scale = sizes[0].scale;
+    if (const auto found = drawn.find(name); found != drawn.end()) return found->second(scale);
+    Reading reading = ReadScaled(folder, scale, name);
+    if (!reading.image && !std::exchange(reported, true))
+        std::fprintf(stderr, "prismfall: the picture %s in %s %s, its name stands in its place.\n", name.c_str(),
+                     folder.string().c_str(), reading.fault.c_str());
+    return std::move(reading.image);
 }
 
 }  // namespace prismfall

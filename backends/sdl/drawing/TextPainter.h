@@ -1,12 +1,10 @@
-// Text on a canvas: opens the font of a family, breaks lines and lays the letters down. Where text goes and in
-// which colour is the caller's.
+// Text on a canvas: opens the font of a family, and has SDL_ttf break lines and draw the letters.
 #pragma once
 
 #include <map>
-#include <string>
+#include <optional>
 #include <string_view>
 #include <tuple>
-#include <vector>
 
 #include "backends/sdl/drawing/Canvas.h"
 #include "backends/sdl/drawing/FontFinder.h"
@@ -16,6 +14,13 @@ struct _TTF_Font;
 
 namespace prismfall {
 
+// How a text is set, in pixels of the display but for the font. It breaks at line feeds in any case.
+struct TextLayout {
+    Font font;
+    int wrapWidth = 0;  // above 0 lines break before this width: between words, or within one that is too long for any
+    int fitHeight = 0;  // above 0 letters are made smaller, pixel by pixel, until the text ends within this height
+};
+
 class TextPainter {
   public:
     TextPainter() = default;
@@ -24,27 +29,28 @@ class TextPainter {
     ~TextPainter();
 
     // How many pixels of the display a game pixel has.
-    void SetScale(float displayScale);
+    void SetScale(float displayScale) { scale = displayScale; }
 
     // All sizes and places from here on are pixels of the display. Without any font there is no text and no height.
     int LineHeight(const Font& font);
     int Width(std::string_view line, const Font& font);
-    // The text's lines: it breaks at line feeds and, if `width` is more than 0, between words before that width.
-    std::vector<std::string> Lines(std::string_view text, const Font& font, int width);
-    void DrawLine(Canvas& canvas, std::string_view line, const Font& font, Colour colour, int left, int top);
+    int Height(std::string_view text, const TextLayout& layout);
+    void Draw(Canvas& canvas, std::string_view text, const TextLayout& layout, Colour colour, int left, int top);
 
   private:
-    using Key = std::tuple<std::string_view, int, bool, bool>;
+    using Face = std::tuple<std::string_view, bool, bool>;
 
-    _TTF_Font* Open(const Font& font);
-    _TTF_Font* Load(const Font& font, int pixels);
-    // How many bytes of a line fit into a width, at least one letter's.
-    std::size_t Fitting(const std::string& line, const Font& font, int width);
+    int Pixels(const Font& font) const;
+    // The font, set to a size. Nothing if there is none.
+    _TTF_Font* Open(const Font& font, int pixels);
+    _TTF_Font* Load(const Font& font);
+    // The letters as their opacity, or nothing where there are none.
+    std::optional<Image> Render(std::string_view text, const TextLayout& layout);
     void Report(const char* what);
 
     float scale = 1;
     FontFinder finder;
-    std::map<Key, _TTF_Font*> fonts;
+    std::map<Face, _TTF_Font*> faces;
     bool reported = false;
 };
 

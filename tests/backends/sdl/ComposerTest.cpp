@@ -27,8 +27,8 @@ class ComposerTest : public ::testing::TestWithParam<float> {
         display.SetScale(GetParam());
         window.innerWidth = kWidth;
         window.innerHeight = kHeight;
-        display.pictures.Add("A", Speckled(display.Pixels(60), display.Pixels(40), random));
-        display.pictures.Add("B", Speckled(display.Pixels(90), display.Pixels(90), random));
+        AddSpeckled("A", 60, 40);
+        AddSpeckled("B", 90, 90);
         std::vector<Element> elements;
         for (int i = 0; i < 8; ++i)
             elements.push_back({.name = "e",
@@ -39,6 +39,11 @@ class ComposerTest : public ::testing::TestWithParam<float> {
                                 .picture = i % 2 ? "A" : "B"});
         window.Own(std::move(elements));
         for (std::size_t i = 4; i < 8; ++i) window.elements[i]->panel = window.elements[0];
+    }
+
+    void AddSpeckled(std::string_view name, float width, float height) {
+        const Image image = Speckled(display.Pixels(width), display.Pixels(height), random);
+        display.pictures.Add(name, [image](float) { return image; });
     }
 
     int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }

@@ -1,0 +1,78 @@
+// Pictures that cannot be had, and text that has to fit.
+#include <gtest/gtest.h>
+#include <png.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "backends/sdl/drawing/ElementPainter.h"
+
+namespace prismfall {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(PictureStoreTest, WhatIsWrongWithAPictureIsToldAsItIs) {
+    const fs::path folder = fs::path(testing::TempDir()) / "prismfall-pictures";
+    fs::create_directories(folder / "1x");
+    std::string whole(4096, ' ');
+    std::ifstream(PRISMFALL_ASSETS "/pictures/1x/Icon.png", std::ios::binary).read(whole.data(), 4096);
+    std::ofstream(folder / "1x/Cut.png", std::ios::binary) << whole.substr(0, 200);
+    std::ofstream(folder / "1x/Text.png") << "no picture";
+    png_image wide{};
+    wide.version = PNG_IMAGE_VERSION;
+    wide.width = 40000;
+    wide.height = 1;
+    wide.format = PNG_FORMAT_RGBA;
+    const std::vector<std::uint32_t> row(wide.width);
+    png_image_write_to_file(&wide, (folder / "1x/Wide.png").c_str(), 0, row.data(), 0, nullptr);
+    const std::map<std::string, std::string> faults = {
+        {"Cut", "is damaged"}, {"Text", "is damaged"}, {"Wide", "is too large"}, {"None", "is missing"}};
+    for (const auto& [name, fault] : faults) {
+        PictureStore store(folder);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(store.Find(name), nullptr);
+        const std::string told = testing::internal::GetCapturedStderr();
+        EXPECT_NE(told.find(name + " in " + folder.string() + " " + fault), std::string::npos) << told;
+    }
+    fs::remove_all(folder);
+}
+
+// The row below the last one with a letter in it.
+int BottomOfText(int fitHeight, float scale) {
+    Display display(PictureStore("/nowhere"));
+    display.SetScale(scale);
+    std::string text;
+    for (int i = 0; i < 40; ++i) text += "beams collide ";
+    const Element label{.name = "",
+                        .kind = ElementKind::Label,
+                        .width = 365,
+                        .height = 600,
+                        .text = text,
+                        .colour = kRed,
+                        .font = {.points = 11.25F},
+                        .wraps = true,
+                        .fitHeight = fitHeight};
+    Image picture(display.Pixels(400), display.Pixels(600));
+    Canvas canvas(picture.pixels.data(), picture.width, picture.height, picture.width);
+    DrawElement(canvas, label, {0, 0, picture.width, picture.height}, display);
+    for (int y = picture.height; y > 0; --y)
+        if (std::count(picture.Row(y - 1), picture.Row(y - 1) + picture.width, 0U) < picture.width) return y;
+    return 0;
+}
+
+TEST(TextPainterTest, TextTakesTheLargestSizeThatEndsWithinItsHeight) {
+    for (const int scale : {1, 2}) {
+        const int free = BottomOfText(0, static_cast<float>(scale));
+        EXPECT_EQ(BottomOfText(500, static_cast<float>(scale)), free) << "it is not made larger";
+        for (const int height : {74, 100, 130}) {
+            const int bottom = BottomOfText(height, static_cast<float>(scale));
+            EXPECT_LT(height * scale, free) << "it has to be made smaller";
+            EXPECT_LE(bottom, height * scale);
+            EXPECT_GT(bottom, height * scale * 3 / 4);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace prismfall
