@@ -29,6 +29,43 @@ class PlainDisplay(harness.WindowTest):
         run.wait_for_main_menu()
         self.end_in_menu(run)
 
+    def resize(self, window, width, height):
+        """What a desktop does that gives no window the size it asks for."""
+        self.desktop.output("xdotool", "windowsize", str(window.number), str(width), str(height))
+
+    def test_a_window_of_another_size_shows_its_whole_picture(self):
+        run = self.start(self.settings(later_run(Effects="False")))
+        run.rest_mouse()
+        before = run.main.pixels(0, 0, 802, 602)
+        for size, left, top in (((802, 760), 0, 79), ((1000, 602), 99, 0)):
+            with self.subTest(size=size):
+                self.resize(run.main, *size)
+
+                def is_whole():
+                    picture = run.main.pixels(left, top, 802, 602)
+                    black = run.main.pixels(0, 0, *size).count(0) - picture.count(0)
+                    return picture == before and black == size[0] * size[1] - 802 * 602
+
+                wait_for(is_whole, 3, "the picture in the middle of the black")
+        x, y = layout.middle("CmdAbout")
+        run.main.click(x, y)
+        run.main.click(50, y)
+        self.assertTrue(holds_for(lambda: not run.desktop.windows(layout.ABOUT), 0.5), "a press beside the button")
+        run.main.click(99 + x, y)
+        dialog = run.desktop.window(layout.ABOUT)
+        self.resize(dialog, 204, 300)
+
+        def is_small():
+            above, picture, below = (dialog.pixels(0, y, 204, h).count(0) for y, h in ((0, 32), (32, 236), (268, 32)))
+            return above == below == 204 * 32 and picture < 1000
+
+        wait_for(is_small, 3, "a dialog of half its size")
+        x, y = layout.ABOUT_OK
+        dialog.click(x // 2, 32 + y // 2)
+        run.wait_for_close(layout.ABOUT)
+        self.resize(run.main, 802, 602)
+        self.end_in_menu(run)
+
 
 class Machine(harness.WindowTest):
     def check_sentence(self, text):

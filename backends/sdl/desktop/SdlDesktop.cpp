@@ -46,16 +46,20 @@ void SdlDesktop::ChooseScale(const Window& window) {
                                     share(usable.h, kNominalFrame.top + kNominalFrame.bottom, window.innerHeight));
         if (fits < scale) scale = fits < 1 ? std::max(fits, 0.25F) : std::floor(fits * 4) / 4;
     }
-    pointsPerGamePixel = scale;
+    scaleToAskFor = scale;
     display.SetScale(scale);
 }
 
+float SdlDesktop::PointsPerGamePixel() const {
+    return windows.empty() ? scaleToAskFor : windows.front().real->PointsPerGamePixel();
+}
+
 int SdlDesktop::Points(int gamePixels) const {
-    return static_cast<int>(std::lround(static_cast<float>(gamePixels) * pointsPerGamePixel));
+    return static_cast<int>(std::lround(static_cast<float>(gamePixels) * PointsPerGamePixel()));
 }
 
 int SdlDesktop::GamePixels(int points) const {
-    return static_cast<int>(std::lround(static_cast<float>(points) / pointsPerGamePixel));
+    return static_cast<int>(std::lround(static_cast<float>(points) / PointsPerGamePixel()));
 }
 
 const SdlDesktop::Shown* SdlDesktop::Find(const Window& window) const {
@@ -73,7 +77,7 @@ SdlDesktop::Shown* SdlDesktop::FindById(std::uint32_t id) {
 bool SdlDesktop::Open(Window& window) {
     if (!scaleChosen) ChooseScale(window);
     SdlWindow::Options options;
-    options.pointsPerGamePixel = pointsPerGamePixel;
+    options.pointsPerGamePixel = PointsPerGamePixel();
     options.doubleClickMilliseconds = facts.doubleClickMilliseconds;
     if (!window.isDialog) options.layer = &layer;
     if (window.isDialog && !windows.empty()) options.owner = windows.back().real->Real();
@@ -112,8 +116,10 @@ void SdlDesktop::Handle(const SDL_Event& event) {
     // Keys go to the topmost window even if the desktop gives the focus to none.
     SdlWindow& active = *windows.back().real;
     if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return active.Input().Key(event.key.keysym.sym);
-    if (event.type == SDL_MOUSEMOTION && event.motion.windowID == active.Id())
-        return active.Input().Move(active.ToGame(event.motion.x), active.ToGame(event.motion.y));
+    if (event.type == SDL_MOUSEMOTION && event.motion.windowID == active.Id()) {
+        const GamePlace place = active.ToGame(event.motion.x, event.motion.y);
+        return active.Input().Move(place.x, place.y);
+    }
     if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) HandleButton(event.button);
 }
 
@@ -125,12 +131,11 @@ void SdlDesktop::HandleButton(const SDL_MouseButtonEvent& event) {
     }
     if (event.button != SDL_BUTTON_LEFT && event.button != SDL_BUTTON_RIGHT) return;
     const MouseButton button = event.button == SDL_BUTTON_LEFT ? MouseButton::Left : MouseButton::Right;
-    const float x = active.ToGame(event.x);
-    const float y = active.ToGame(event.y);
-    if (event.type == SDL_MOUSEBUTTONDOWN) {
-        active.Input().Press(button, x, y, event.timestamp);
-    } else {
-        active.Input().Release(button, x, y);
+    const GamePlace place = active.ToGame(event.x, event.y);
+    if (event.type == SDL_MOUSEBUTTONUP) {
+        active.Input().Release(button, place.x, place.y);
+    } else if (active.IsOnPicture(place)) {
+        active.Input().Press(button, place.x, place.y, event.timestamp);
     }
 }
 
@@ -200,7 +205,8 @@ Place SdlDesktop::Position(const Window& window) {
     int top = 0;
     SDL_GetWindowPosition(shown->real->Real(), &left, &top);
     const FrameBorders borders = shown->real->Borders().value_or(FrameBorders{});
-    return {GamePixels(left - borders.left), GamePixels(top - borders.top)};
+    const Place picture = shown->real->PictureCorner();
+    return {GamePixels(left + picture.left - borders.left), GamePixels(top + picture.top - borders.top)};
 }
 
 void SdlDesktop::SetInnerSize(Window& window, Extent size) {

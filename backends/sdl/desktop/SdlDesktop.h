@@ -68,6 +68,8 @@ class SdlDesktop {
     void HandleButton(const SDL_MouseButtonEvent& event);
     // The nominal frame, where the desktop does not tell of a real one.
     FrameBorders BordersOf(const Window& window) const;
+    // All windows have the scale that the desktop has given the main window.
+    float PointsPerGamePixel() const;
     int Points(int gamePixels) const;
     int GamePixels(int points) const;
 
@@ -76,7 +78,7 @@ class SdlDesktop {
     DesktopFacts facts;
     Display display;
     Surface layer;
-    float pointsPerGamePixel = 1;
+    float scaleToAskFor = 1;  // points a game pixel, for the first window
     bool scaleChosen = false;
     bool frameAwaited = false;
     bool minimisedAsTold = false;

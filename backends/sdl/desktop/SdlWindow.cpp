@@ -1,6 +1,7 @@
 // Making, showing and presenting a window with SDL. The picture is composed in the very pixels that go to the desktop.
 #include "backends/sdl/desktop/SdlWindow.h"
 
+#include <array>
 #include <cmath>
 #include <string>
 
@@ -14,6 +15,7 @@ SdlWindow::SdlWindow(Window& data, Display& target, const Options& wanted)
       options(wanted),
       composer(data, wanted.layer, target),
       input(data, wanted.doubleClickMilliseconds) {
+    fit.scale = wanted.pointsPerGamePixel;
     Create();
     if (!IsReal()) return;
     if (window.isDialog) {
@@ -69,31 +71,77 @@ SDL_Surface* SdlWindow::DrawingSurface(SDL_Surface* shown) {
     return converted.get();
 }
 
+void SdlWindow::Expose() {
+    composer.ForgetAll();
+    marginsLost = true;
+}
+
+// A desktop may tell only now what size it gives the window, and how many pixels a point has.
+void SdlWindow::FitTo(const SDL_Surface& shown) {
+    if (shown.w == shownSize.width && shown.h == shownSize.height) return;
+    shownSize = {shown.w, shown.h};
+    int width = 0;
+    int height = 0;
+    SDL_GetWindowSize(Real(), &width, &height);
+    pixelsPerPoint = width > 0 ? static_cast<float>(shown.w) / static_cast<float>(width) : 1;
+    fit = FitPicture({window.innerWidth, window.innerHeight}, shownSize, options.pointsPerGamePixel * pixelsPerPoint);
+    Expose();
+}
+
+void SdlWindow::BlackenMargins(SDL_Surface& shown) {
+    marginsLost = false;
+    const PixelBox& box = fit.box;
+    const std::array<SDL_Rect, 4> margins = {{{0, 0, shown.w, box.top},
+                                              {0, box.bottom, shown.w, shown.h - box.bottom},
+                                              {0, box.top, box.left, box.bottom - box.top},
+                                              {box.right, box.top, shown.w - box.right, box.bottom - box.top}}};
+    for (const SDL_Rect& margin : margins) {
+        if (SDL_RectEmpty(&margin)) continue;
+        SDL_FillRect(&shown, &margin, SDL_MapRGB(shown.format, 0, 0, 0));
+        presented.push_back(margin);
+    }
+}
+
 void SdlWindow::Refresh() {
     SDL_Surface* shown = SDL_GetWindowSurface(Real());
     if (shown == nullptr) return;
-    if (shown->w != shownWidth) {
-        shownWidth = shown->w;
-        // A desktop may tell only now how many pixels its unit of size has.
-        const float scale = static_cast<float>(shown->w) / static_cast<float>(window.innerWidth);
-        if (!window.isDialog && std::abs(scale - display.scale) > 1.0F / static_cast<float>(window.innerWidth))
-            display.SetScale(scale);
-        Expose();
-    }
+    FitTo(*shown);
+    display.SetScale(fit.scale);
     SDL_Surface* drawn = DrawingSurface(shown);
     if (drawn == nullptr) return;
-    const std::vector<PixelBox>& changes = composer.TakeChanges(drawn->w, drawn->h);
-    if (changes.empty()) return;
 
-    Canvas canvas(static_cast<std::uint32_t*>(drawn->pixels), drawn->w, drawn->h, drawn->pitch / 4);
     presented.clear();
-    for (const PixelBox& box : changes) {
+    if (marginsLost) BlackenMargins(*shown);
+    const int width = fit.box.right - fit.box.left;
+    const int height = fit.box.bottom - fit.box.top;
+    const int stride = drawn->pitch / 4;
+    auto* const corner = static_cast<std::uint32_t*>(drawn->pixels) + fit.box.top * stride + fit.box.left;
+    Canvas canvas(corner, width, height, stride);
+    for (const PixelBox& box : composer.TakeChanges(width, height)) {
         composer.Compose(canvas, box);
-        SDL_Rect area{box.left, box.top, box.right - box.left, box.bottom - box.top};
+        SDL_Rect area{fit.box.left + box.left, fit.box.top + box.top, box.right - box.left, box.bottom - box.top};
         if (drawn != shown) SDL_BlitSurface(drawn, &area, shown, &area);
         presented.push_back(area);
     }
+    if (presented.empty()) return;
     SDL_UpdateWindowSurfaceRects(Real(), presented.data(), static_cast<int>(presented.size()));
+}
+
+Place SdlWindow::PictureCorner() const {
+    const auto points = [&](int pixels) {
+        return static_cast<int>(std::lround(static_cast<float>(pixels) / pixelsPerPoint));
+    };
+    return {points(fit.box.left), points(fit.box.top)};
+}
+
+GamePlace SdlWindow::ToGame(int x, int y) const {
+    return {(static_cast<float>(x) * pixelsPerPoint - static_cast<float>(fit.box.left)) / fit.scale,
+            (static_cast<float>(y) * pixelsPerPoint - static_cast<float>(fit.box.top)) / fit.scale};
+}
+
+bool SdlWindow::IsOnPicture(const GamePlace& place) const {
+    return place.x >= 0 && place.x < static_cast<float>(window.innerWidth) && place.y >= 0 &&
+           place.y < static_cast<float>(window.innerHeight);
 }
 
 std::optional<FrameBorders> SdlWindow::Borders() const {

@@ -1,5 +1,5 @@
 // One real window of the desktop, as long as it is shown: makes it from a Window's data, presents what has changed and
-// hands it its input. Which window may have input, and when, belongs to the platform.
+// hands it its input. Whatever size the desktop gives it, the whole picture is shown.
 #pragma once
 
 #include <SDL.h>
@@ -8,11 +8,18 @@
 #include <optional>
 
 #include "backends/sdl/drawing/Composer.h"
+#include "backends/sdl/drawing/PictureFit.h"
 #include "platform/NominalFrame.h"
 #include "platform/Platform.h"
 #include "platform/WindowInput.h"
 
 namespace prismfall {
+
+// A place in game pixels.
+struct GamePlace {
+    float x = 0;
+    float y = 0;
+};
 
 class SdlWindow {
   public:
@@ -20,7 +27,7 @@ class SdlWindow {
         Surface* layer = nullptr;          // of the main window
         SDL_Window* owner = nullptr;       // of a dialog
         std::optional<Place> frameCorner;  // in points of the desktop; without it the desktop chooses
-        float pointsPerGamePixel = 1;      // the desktop's unit of places and sizes
+        float pointsPerGamePixel = 1;      // the scale to ask for; points are the desktop's unit of places and sizes
         int doubleClickMilliseconds = 500;
     };
 
@@ -36,13 +43,19 @@ class SdlWindow {
     // Presents what has changed since the last call.
     void Refresh();
     // Presents everything at the next call: the desktop has lost what it had.
-    void Expose() { composer.ForgetAll(); }
+    void Expose();
     void HideNow() { SDL_HideWindow(real.get()); }
     void Raise() { SDL_RaiseWindow(real.get()); }
     bool IsMinimised() const { return (SDL_GetWindowFlags(real.get()) & SDL_WINDOW_MINIMIZED) != 0; }
     // The frame that the desktop tells of, in its points, or nothing if it tells of none.
     std::optional<FrameBorders> Borders() const;
-    float ToGame(int points) const { return static_cast<float>(points) / options.pointsPerGamePixel; }
+    // The scale that the desktop has given.
+    float PointsPerGamePixel() const { return fit.scale / pixelsPerPoint; }
+    // Where the picture begins inside the window, in points.
+    Place PictureCorner() const;
+    // A place inside the window, in points, as a place on its picture, or beyond that on the black beside it.
+    GamePlace ToGame(int x, int y) const;
+    bool IsOnPicture(const GamePlace& place) const;
 
   private:
     struct Destroy {
@@ -54,6 +67,8 @@ class SdlWindow {
 
     void Create();
     void SetIcon();
+    void FitTo(const SDL_Surface& shown);
+    void BlackenMargins(SDL_Surface& shown);
     SDL_Surface* DrawingSurface(SDL_Surface* shown);
 
     Window& window;
@@ -64,7 +79,10 @@ class SdlWindow {
     std::unique_ptr<SDL_Window, Destroy> real;
     std::unique_ptr<SDL_Surface, Free> converted;  // only where the desktop's pixels are not 32-bit RGB
     std::vector<SDL_Rect> presented;
-    int shownWidth = 0;
+    Extent shownSize;  // in pixels of the display
+    float pixelsPerPoint = 1;
+    PictureFit fit;
+    bool marginsLost = true;
 };
 
 }  // namespace prismfall
