@@ -18,7 +18,7 @@ using Act = std::function<void(TestGame& game)>;
 
 std::string Looks(TestGame& game) {
     const VMain& main = game.Main();
-    const VirtualTimers& timers = game.Machine().Timers();
+    const auto& timers = game.Machine().Timers();
     std::string looks = std::to_string(main.GameMode) + (main.GameRunning ? " running " : " still ");
     if (timers.IsOn(Timer::LineCreator)) looks += 'C';
     if (timers.IsOn(Timer::LineExtender)) looks += 'E';
@@ -36,15 +36,14 @@ Act Click(std::string_view button) {
 // One beam that has come down to the floor, and one tick.
 void Lose(TestGame& game) {
     game.Main().Lines.clear();
-    game.AddBeam(100, 500, 185, 585, 1);
+    game.Add("100,500 185,585 green");
     game.Machine().Fire(Timer::LineExtender);
 }
 
 // Two beams of one colour before their collision, and time for it.
 void Solve(TestGame& game) {
     game.Main().Lines.clear();
-    game.AddBeam(100, 100, 150, 150, 1);
-    game.AddBeam(220, 100, 170, 150, 1);
+    game.Add("100,100 150,150 green; 220,100 170,150 green");
     game.Machine().Run(2000);
 }
 
@@ -113,21 +112,44 @@ TEST(States, AnArcadeGameBeginsAfresh) {
     VMain& main = game.QuietStore().Load();
     main.StartLevel = 4;
     main.HighScore = 90;
-    main.Score = 70;
-    main.LevelLineCount = 5;
-    main.CollisionLineY = 0;
-    game.AddBeam(21, 100, 31, 110, 0);
+    main.Score = main.LevelLineCount = 70;
+    main.VScore.text = "70";
+    game.Add("21,100 31,110 blue");
     game.Machine().SetPainting(true);
     StartArcade(game);
     EXPECT_EQ(game.TakePrinted(), "sound 7 sync\nclear\nclear\nline 14 60 670 60 0xFF0000 1\n");
     ASSERT_EQ(main.Lines.size(), 3U);
     for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(main.Lines[i]->YStart, 20 + 20 * static_cast<int>(i));
     EXPECT_EQ(main.VScore.text + '/' + main.VLevel.text + '/' + std::to_string(main.Score), "0/4/0");
-    EXPECT_EQ(main.LevelLineCount, 0);
-    EXPECT_EQ(main.GameStartLevel, 4);
-    EXPECT_EQ(main.HighScore, 90);
+    EXPECT_EQ(std::tuple(main.LevelLineCount, main.GameStartLevel, main.HighScore), std::tuple(0, 4, 90));
     EXPECT_EQ(game.Machine().Timers().Interval(Timer::LineExtender), 38);
     EXPECT_EQ(game.Machine().Timers().Interval(Timer::LineCreator), 1280);
+}
+
+// While the steps of a game's end run, nothing of what the player does reaches the game.
+TEST(States, AGamesEndTakesNoInput) {
+    TestGame game;
+    VMain& main = game.QuietStore().Load();
+    StartArcade(game);
+    main.Score = 30;
+    int yields = 0;
+    game.Machine().onYield = [&] {
+        ++yields;
+        const std::string before = InShort(main) + Looks(game);
+        main.window.on.mouseDown(MouseButton::Left, 185, 585);
+        main.window.on.doubleClick();
+        main.window.on.keyDown(kEscapeKey);
+        for (const std::string_view button : {"CommandExit", "cmdPause", "CmdAbout", "CommandPuzzle"})
+            game.Click(button);
+        EXPECT_EQ(InShort(main) + Looks(game), before);
+    };
+    game.TakePrinted();
+    Lose(game);
+    EXPECT_EQ(yields, 291) << "one, then 29 bands of 10 ms";
+    EXPECT_EQ(game.TakePrinted(), "sound 5 sync\ndialog VHighScore2\n");
+    game.Machine().onYield = nullptr;
+    game.Click("CmdAbout");
+    EXPECT_EQ(game.TakePrinted(), "sound 7 sync\ndialog VAbout\n") << "and afterwards it takes it again";
 }
 
 }  // namespace

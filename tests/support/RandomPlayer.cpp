@@ -1,4 +1,3 @@
-// See RandomPlayer.h.
 #include "tests/support/RandomPlayer.h"
 
 #include <cstdlib>
@@ -16,32 +15,25 @@ long FromEnvironment(const char* name, long fallback) {
     return text == nullptr ? fallback : std::atol(text);
 }
 
-RandomPlayer::RandomPlayer(std::uint32_t seed) : main(&game.QuietStore().Load()), random(seed) {
-    main->SoundEffects = false;
-}
+RandomPlayer::RandomPlayer(std::uint32_t seed) : random(seed) { QuietStore().Load().SoundEffects = false; }
 
-void RandomPlayer::StartArcade() {
+void RandomPlayer::StartAGame() {
     ++games;
     main->StartLevel = static_cast<std::int16_t>(Number(1, 12));
-    CommandArcade_Click(*main);
-}
-
-void RandomPlayer::StartPuzzle(std::int16_t puzzle, bool isSolution) {
-    ++games;
-    main->CurrentPuzzle = puzzle;
+    if (Chance(50)) return CommandArcade_Click(*main);
+    const bool isSolution = Chance(20);
+    main->CurrentPuzzle = static_cast<std::int16_t>(Number(isSolution ? 1 : 2, kPuzzleCount));  // 1 has the tutorial
     StartPuzzleGame(*main, false, isSolution);
     if (!isSolution) CmdStart_Click(*main);
 }
 
 void RandomPlayer::PlayATick() {
+    if (main->GameRunning && Number(1, 1000) == 1) CommandExit_Click(*main);  // a puzzle can come to a standstill
+    if (!main->GameRunning) StartAGame();
     if (Chance(12)) Press();
-    game.Machine().Run(game.Machine().Timers().Interval(Timer::LineExtender));
-    game.TakePrinted();
+    machine.Run(machine.Timers().Interval(Timer::LineExtender));
+    TakePrinted();
 }
-
-void RandomPlayer::Leave() { CommandExit_Click(*main); }
-
-int RandomPlayer::Number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); }
 
 // A bend of a beam that stands on a wall leads out of the field, so that is left out.
 void RandomPlayer::Press() {

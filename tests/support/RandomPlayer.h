@@ -12,33 +12,23 @@ namespace prismfall {
 // A whole number from the environment of the test program, or `fallback`.
 long FromEnvironment(const char* name, long fallback);
 
-class RandomPlayer {
+class RandomPlayer : public TestGame {
   public:
     explicit RandomPlayer(std::uint32_t seed);
 
-    // At a random level.
-    void StartArcade();
-    // Not the first one, which belongs to the tutorial, unless as a solution to watch.
-    void StartPuzzle(std::int16_t puzzle, bool isSolution);
-    // Clicks now and then, and lets about one growth tick pass.
+    // Clicks now and then, and lets about one growth tick pass. Between games it starts a puzzle, a replay or an Arcade
+    // game at a random level.
     void PlayATick();
-    void Leave();
 
-    int Number(int from, int to);
-    bool Chance(int percent) { return Number(0, 99) < percent; }
-
-    const VMain& Main() const { return *main; }
-    // Milliseconds that the player has spent.
-    std::int64_t Spent() { return game.Machine().Timers().Now(); }
-    int Games() const { return games; }
+    int games = 0;
 
   private:
+    int Number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); }
+    bool Chance(int percent) { return Number(0, 99) < percent; }
+    void StartAGame();
     void Press();
 
-    TestGame game;
-    VMain* main;
     std::mt19937 random;
-    int games = 0;
 };
 
 }  // namespace prismfall

@@ -1,0 +1,94 @@
+// Everything that stands in a window, as a list to be compared with layout.expected: places, texts, the faces of the
+// buttons, and where the pictures of the tutorial can be pressed. The tests in a real window find their way by that
+// file.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "game/Buttons.h"
+#include "game/HighScores.h"
+#include "game/PuzzleResult.h"
+#include "game/Tutorial.h"
+#include "screens/About.h"
+#include "screens/Options.h"
+#include "tests/support/TestGame.h"
+
+namespace prismfall {
+namespace {
+
+void Describe(std::ostream& out, const Window& window, Element& element) {
+    out << window.name << ' ' << element.name << ' ' << element.left << ',' << element.top << ' ' << element.width
+        << 'x' << element.height;
+    if (element.kind == ElementKind::Button) {
+        window.on.elementMove(element);
+        const std::string_view down = element.picture;
+        window.on.mouseMove(0, 0);
+        out << ' ' << element.picture << ' ' << down;
+    }
+    if (!element.spoken.empty()) out << " spoken=\"" << element.spoken << '"';
+    if (element.picture.empty())
+        out << ' ' << element.font.points << (element.font.bold ? " bold" : "")
+            << (element.font.italic ? " italic" : "") << (element.wraps ? " wraps" : "") << std::hex << std::uppercase
+            << ' ' << element.colour << (element.ground ? " on black" : "") << std::dec << " \"" << element.text << '"';
+    out << (element.fitHeight > 0 ? " fits " + std::to_string(element.fitHeight) : "")
+        << (element.group.empty() ? "" : " of a group") << (element.checked ? " checked" : "")
+        << (element.visible ? "" : " hidden") << '\n';
+}
+
+void Describe(std::ostream& out, TestMachine& machine, const Window& window) {
+    const Place place = machine.Position(window);
+    out << window.name << " \"" << window.title << "\" at " << place.left << ',' << place.top << " inside "
+        << window.innerWidth << 'x' << window.innerHeight << ' ' << window.background
+        << (window.isDialog ? " dialog" : "") << (window.hasIcon ? " icon" : "") << '\n';
+    for (Element* element : window.elements) Describe(out, window, *element);
+}
+
+// Where a picture of the tutorial can be pressed, by either button or by the right one.
+void DescribeSpots(std::ostream& out, TestGame& game, std::size_t picture) {
+    VMain& main = game.Main();
+    for (const bool skips : {true, false}) {
+        int count[2] = {}, left = 999, top = 999, right = 0, bottom = 0;
+        for (int at = 0; at < 2 * 220 * 220; ++at) {
+            const int button = at % 2, x = at / 2 % 220, y = at / 440;
+            main.TutorialActive = true;
+            main.TutorialStep = 1;  // a step that does nothing to the beams
+            PictTut_MouseDown(main, picture, button == 0 ? MouseButton::Left : MouseButton::Right,
+                              static_cast<float>(x), static_cast<float>(y));
+            if (main.TutorialStep != 0 || main.TutorialActive == skips) continue;
+            ++count[button];
+            left = std::min(left, x), right = std::max(right, x), top = std::min(top, y), bottom = std::max(bottom, y);
+        }
+        if (count[1] == 0) continue;
+        out << "spot " << main.PictTut[picture].name << (skips ? " skips " : " goes on ") << left << ',' << top << ' '
+            << right - left + 1 << 'x' << bottom - top + 1 << (count[0] == 0 ? " right button\n" : "\n");
+        EXPECT_EQ(count[1], (right - left + 1) * (bottom - top + 1)) << "a rectangle";
+    }
+}
+
+TEST(Layout, StandsAsItShould) {
+    std::ostringstream out;
+    TestGame game;
+    VMain& main = game.QuietStore().Load();
+    main.platform.SetPosition(main.window, {100, -30});
+    Describe(out, game.Machine(), main.window);
+    for (Element* button : {&main.CmdStart, &main.cmdPause}) {
+        for (const std::string_view tag : {"Restart", "Takeover", "Resume"}) {
+            button->tag = tag;
+            Describe(out, main.window, *button);
+        }
+    }
+    game.Machine().onDialog = [&](Window& dialog) { Describe(out, game.Machine(), dialog); };
+    ShowAbout(main);
+    ShowOptions(main);
+    ShowHighScores(main);
+    ShowPuzzleResult(main, true);
+    for (std::size_t picture = 0; picture < main.PictTut.size(); ++picture) DescribeSpots(out, game, picture);
+    std::ifstream file(PRISMFALL_TESTS "/game/layout.expected");
+    std::ofstream("layout.actual") << out.str();
+    EXPECT_EQ(out.str(), std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+}  // namespace
+}  // namespace prismfall
