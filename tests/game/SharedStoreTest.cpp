@@ -1,0 +1,99 @@
+// What becomes of the store when several runs save to it.
+#include <gtest/gtest.h>
+
+#include <random>
+#include <sstream>
+#include <string>
+
+#include "game/HighScores.h"
+#include "screens/SettingsStore.h"
+#include "tests/support/TestGame.h"
+
+namespace prismfall {
+namespace {
+
+// A store as real machines have it: what it held before is seen by a save, and it can be full.
+class SharedStore : public TestMachine {
+  public:
+    SharedStore() : TestMachine(printed) {}
+
+    bool isFull = false;
+    std::size_t written = 0;  // by the last save
+
+    bool ChangeSettings(std::string_view, const SettingsChange& change) override {
+        const auto values = change([this](std::string_view section, std::string_view key) {
+            const auto found = Store().find({std::string(section), std::string(key)});
+            return found == Store().end() ? std::nullopt : std::optional(found->second);
+        });
+        if (isFull) return false;
+        written = values.size();
+        for (const SettingValue& value : values) PutSetting(value.section, value.key, value.text);
+        return true;
+    }
+
+  private:
+    std::ostringstream printed;
+};
+
+struct GameRun : VMain {
+    explicit GameRun(Platform& machine) : VMain(machine) {
+        ReadStartSettings(*this);
+        ReadAudioSettings(*this);
+        ReadSolvedPuzzles(*this);
+    }
+    void Play(int score) {
+        Score = static_cast<std::int16_t>(score);
+        SaveScore(*this);
+    }
+};
+
+TEST(Settings, RunsThatSaveInTurnLoseNothingOfEachOthers) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    for (int round = 0; round < 100; ++round) {
+        SharedStore shared, ofOne;
+        GameRun first(shared), second(shared), all(ofOne);  // `all` does what both do, with a store of its own
+        for (int step = 0; step < 40; ++step) {
+            GameRun& run = random() % 2 == 0 ? first : second;
+            const std::size_t what = random() % 90;
+            const int score = static_cast<int>(random() % 2000);
+            for (GameRun* player : {&run, &all}) {
+                if (what < 40) player->SolvedPuzzles[what] = true;
+                if (what >= 40 && what < 60) player->Play(score);
+                if (what == 60) (&run == &first ? player->Music : player->SoundEffects) = score % 2 == 0;
+                if (what == 61 && &run == &first) player->StartLevel = static_cast<std::int16_t>(score);
+            }
+            shared.isFull = random() % 3 == 0;
+            if (what >= 62) SaveSettings(run);
+        }
+        shared.isFull = false;
+        for (VMain* run : {&first, &second, &first}) SaveSettings(*run);
+        EXPECT_EQ(shared.written, 0U) << "a save of what is saved";
+        SaveSettings(all);
+        ASSERT_EQ(ofOne.Store().size(), 79U);
+        ASSERT_EQ(shared.Store(), ofOne.Store());
+        ASSERT_TRUE(first.Scores == all.Scores && second.Scores == all.Scores);
+    }
+}
+
+TEST(Settings, AClearedTableTakesWhatItsRunEntersAndNothingElse) {
+    SharedStore shared;
+    GameRun first(shared), second(shared);
+    first.Play(100);
+    SaveSettings(first);
+    second.Play(70);
+    ClearScores(second);
+    second.Play(50);
+    SaveSettings(second);
+    EXPECT_EQ(shared.Store().at({"Scores", "Score1"}), "50");
+    EXPECT_EQ(shared.Store().at({"Scores", "Score2"}), "0");
+    EXPECT_EQ(shared.Store().at({"Scores", "Level2"}), "0");
+    first.Play(60);
+    SaveSettings(first);
+    EXPECT_EQ(shared.Store().at({"Scores", "Score1"}), "60") << "what was entered before the clearing does not return";
+    EXPECT_EQ(shared.Store().at({"Scores", "Score2"}), "50");
+}
+
+}  // namespace
+}  // namespace prismfall
