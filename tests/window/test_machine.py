@@ -63,8 +63,6 @@ class PlainDisplay(harness.WindowTest):
         x, y = layout.ABOUT_OK
         dialog.click(x // 2, 32 + y // 2)
         run.wait_for_close(layout.ABOUT)
-        self.resize(run.main, 802, 602)
-        self.end_in_menu(run)
 
 
 class Machine(harness.WindowTest):

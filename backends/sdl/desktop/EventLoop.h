@@ -1,5 +1,5 @@
 // The one loop that everything runs on: takes events, lets due timers tick, has windows repainted, and sleeps until
-// there is something to do. What events and ticks mean belongs to others.
+// there is something to do.
 #pragma once
 
 #include <functional>

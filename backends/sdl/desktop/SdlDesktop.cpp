@@ -223,7 +223,9 @@ void SdlDesktop::SetPosition(const Window& window, Place place) {
         return;
     }
     const FrameBorders borders = BordersOf(window);
-    SDL_SetWindowPosition(shown->real->Real(), Points(place.left) + borders.left, Points(place.top) + borders.top);
+    const Place picture = shown->real->PictureCorner();
+    SDL_SetWindowPosition(shown->real->Real(), Points(place.left) + borders.left - picture.left,
+                          Points(place.top) + borders.top - picture.top);
 }
 
 }  // namespace prismfall

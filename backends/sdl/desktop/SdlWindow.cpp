@@ -114,9 +114,9 @@ void SdlWindow::Refresh() {
     if (marginsLost) BlackenMargins(*shown);
     const int width = fit.box.right - fit.box.left;
     const int height = fit.box.bottom - fit.box.top;
-    const int stride = drawn->pitch / 4;
+    const std::ptrdiff_t stride = drawn->pitch / 4;
     auto* const corner = static_cast<std::uint32_t*>(drawn->pixels) + fit.box.top * stride + fit.box.left;
-    Canvas canvas(corner, width, height, stride);
+    Canvas canvas(corner, width, height, static_cast<int>(stride));
     for (const PixelBox& box : composer.TakeChanges(width, height)) {
         composer.Compose(canvas, box);
         SDL_Rect area{fit.box.left + box.left, fit.box.top + box.top, box.right - box.left, box.bottom - box.top};
