@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace prismfall {
 
@@ -28,8 +29,8 @@ Letters RenderWith(TTF_Font* font, std::string_view text, int wrapWidth) {
 }  // namespace
 
 TextPainter::~TextPainter() {
-    for (const auto& [face, font] : faces)
-        if (font != nullptr) TTF_CloseFont(font);
+    for (const auto& [face, opened] : faces)
+        if (opened.font != nullptr) TTF_CloseFont(opened.font);
     if (TTF_WasInit() != 0) TTF_Quit();
 }
 
@@ -42,9 +43,11 @@ int TextPainter::Pixels(const Font& font) const {
 _TTF_Font* TextPainter::Open(const Font& font, int pixels) {
     const Face face{font.family, font.bold, font.italic};
     auto found = faces.find(face);
-    if (found == faces.end()) found = faces.emplace(face, Load(font)).first;
-    if (found->second != nullptr) TTF_SetFontSize(found->second, pixels);
-    return found->second;
+    if (found == faces.end()) found = faces.emplace(face, Opened{Load(font), Pixels(font)}).first;
+    Opened& opened = found->second;
+    // Another size costs the letters that SDL_ttf has kept.
+    if (opened.font != nullptr && std::exchange(opened.pixels, pixels) != pixels) TTF_SetFontSize(opened.font, pixels);
+    return opened.font;
 }
 
 _TTF_Font* TextPainter::Load(const Font& font) {

@@ -39,6 +39,10 @@ class TextPainter {
 
   private:
     using Face = std::tuple<std::string_view, bool, bool>;
+    struct Opened {
+        _TTF_Font* font = nullptr;
+        int pixels = 0;  // the size that it is set to
+    };
 
     int Pixels(const Font& font) const;
     // The font, set to a size. Nothing if there is none.
@@ -50,7 +54,7 @@ class TextPainter {
 
     float scale = 1;
     FontFinder finder;
-    std::map<Face, _TTF_Font*> faces;
+    std::map<Face, Opened> faces;
     bool reported = false;
 };
 
