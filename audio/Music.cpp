@@ -26,7 +26,7 @@ constexpr std::array<LevelTrack, 9> kLevelTracks = {{
 
 }  // namespace
 
-void PlayMusicFile(VMain& main, std::string_view file, std::int16_t volume) {
+void PlayMusicFile(const VMain& main, std::string_view file, std::int16_t volume) {
     if (!main.Music) return;
     Platform& player = main.platform;
     player.MusicClose();
@@ -38,27 +38,27 @@ void PlayMusicFile(VMain& main, std::string_view file, std::int16_t volume) {
     player.MusicPlayLooping();
 }
 
-void SetMusicVolume(VMain& main, std::int16_t volume) {
+void SetMusicVolume(const VMain& main, std::int16_t volume) {
     if (main.Music) main.platform.MusicSetVolume(volume);
 }
 
-void PlayLevelMusic(VMain& main, std::int16_t number) {
+void PlayLevelMusic(const VMain& main, std::int16_t number) {
     for (const LevelTrack& track : kLevelTracks)
         if (std::ranges::find(track.numbers, number) != track.numbers.end())
             return PlayMusicFile(main, track.file, kMusicVolume);
 }
 
-void StopMusic(VMain& main) {
+void StopMusic(const VMain& main) {
     if (!main.Music) return;
     main.platform.MusicStop();
     main.platform.MusicClose();
 }
 
-void PauseMusic(VMain& main) {
+void PauseMusic(const VMain& main) {
     if (main.Music) main.platform.MusicPause();
 }
 
-void ResumeMusic(VMain& main) {
+void ResumeMusic(const VMain& main) {
     if (main.Music) main.platform.MusicResume();
 }
 

@@ -10,7 +10,7 @@ constexpr std::int32_t kFirstResource = 101;  // a sound's number is added to it
 
 }  // namespace
 
-void PlaySound2(VMain& main, std::int32_t eName, Boolean sync) {
+void PlaySound2(const VMain& main, std::int32_t eName, Boolean sync) {
     if (!main.SoundEffects) return;
     const int id = eName + kFirstResource;
     main.platform.PlayWave({id, LoadSoundResource(id)}, sync);

@@ -17,7 +17,7 @@ constexpr std::int32_t kSoundButton = 7;
 
 // Plays a sound, cutting off the one that still plays; with `sync` it returns when the sound has ended, and no timer
 // ticks meanwhile. Nothing, not even reading the sound, while effects are off.
-void PlaySound2(VMain& main, std::int32_t eName, Boolean sync);
+void PlaySound2(const VMain& main, std::int32_t eName, Boolean sync);
 
 // Switches the effects on or off. A sound that is playing plays on.
 void SetSoundEffects(VMain& main, Boolean value);

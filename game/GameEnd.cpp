@@ -15,13 +15,13 @@ namespace {
 constexpr int kSweepBand = 20;           // pixels
 constexpr std::int64_t kSweepWait = 10;  // milliseconds a band
 
-void WaitForBand(VMain& main) {
+void WaitForBand(const VMain& main) {
     const std::int64_t start = main.platform.Clock();
     while (main.platform.Clock() - start < kSweepWait) main.platform.LetEventsRun();
 }
 
 // The part of a beam that lies in the band above SweepY.
-void SweepBeam(VMain& main, const CLine& beam) {
+void SweepBeam(const VMain& main, const CLine& beam) {
     if (main.SweepY > beam.YEnd + kSweepBand || main.SweepY < beam.YStart) return;
     const int sideways = beam.Direction == kRightwards ? 1 : -1;
     const int down = main.SweepY - beam.YStart;

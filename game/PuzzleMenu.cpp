@@ -64,7 +64,7 @@ void PlaceMark(VMain& main, const Cell& cell, std::size_t k, std::size_t puzzle)
     mark.visible = isTutorial || main.SolvedPuzzles[puzzle];
 }
 
-void DrawPreviewBeam(VMain& main, const Cell& cell, CatalogueEntry beam) {
+void DrawPreviewBeam(const VMain& main, const Cell& cell, CatalogueEntry beam) {
     const int x1 = Rounded(beam[layout::kX] * kFillAcross * cell.width / kDesignWidth);
     const int y1 = Rounded(beam[layout::kYStart] * kFillDown * cell.height / kDesignHeight);
     const int y2 = Rounded(beam[layout::kYEnd] * kFillDown * cell.height / kDesignHeight);

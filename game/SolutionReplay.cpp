@@ -27,7 +27,7 @@ std::optional<ScriptStep> StepFor(CatalogueEntry script, const CLine& beam) {
     return found;
 }
 
-void SoundIfCleared(VMain& main) {
+void SoundIfCleared(const VMain& main) {
     if (!AllLinesDeleted(main) || main.GameMode != kSolutionReplay) return;
     main.platform.LetEventsRun();
     PlaySound2(main, kSoundPuzzleCleared, true);

@@ -24,7 +24,7 @@ const ButtonRow* FindRow(std::span<const ButtonRow> buttons, std::string_view bu
     return row == buttons.end() ? nullptr : &*row;
 }
 
-void PressElement(VMain& main, const Element& element) {
+void PressElement(const VMain& main, const Element& element) {
     if (element.kind == ElementKind::Button) PlaySound2(main, kSoundButton, true);
 }
 

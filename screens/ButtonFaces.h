@@ -20,7 +20,7 @@ struct ButtonRow {
 const ButtonRow* FindRow(std::span<const ButtonRow> buttons, std::string_view button);
 
 // The press sound of a button, at any mouse button. The click comes when it has ended.
-void PressElement(VMain& main, const Element& element);
+void PressElement(const VMain& main, const Element& element);
 
 // Gives a dialog's buttons their faces, sounds and clicks. `buttons` is a constant table, in the order of its reset:
 // the dialog's coming up and the pointer on its ground put all Up pictures back. A click on any other element goes to

@@ -13,7 +13,7 @@ std::unique_ptr<Window> MakeDialog(std::string_view name, std::string_view title
     return dialog;
 }
 
-void ShowDialog(VMain& main, std::unique_ptr<Window>& dialog) {
+void ShowDialog(const VMain& main, std::unique_ptr<Window>& dialog) {
     Platform& desktop = main.platform;
     const Extent mainSize = desktop.OuterSize(main.window);
     const int frameHeight = mainSize.height - desktop.InnerSize(main.window).height;

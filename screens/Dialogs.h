@@ -18,6 +18,6 @@ std::unique_ptr<Window> MakeDialog(std::string_view name, std::string_view title
 // Centres the dialog across the main window, just below its title bar, and shows it until it has been hidden by its own
 // buttons or closed by its close box; timers go on meanwhile. A closed one is gone afterwards and has to be made anew,
 // a hidden one keeps what its elements hold.
-void ShowDialog(VMain& main, std::unique_ptr<Window>& dialog);
+void ShowDialog(const VMain& main, std::unique_ptr<Window>& dialog);
 
 }  // namespace prismfall

@@ -18,7 +18,7 @@ constexpr float kClickReach = 50;  // pixels; a head at exactly this distance is
 
 // --- The run of a speeded beam.
 
-void EnterPlayfield(VMain& main, CLine& ln, int y) {
+void EnterPlayfield(const VMain& main, CLine& ln, int y) {
     const int limit = main.CollisionLineY + kFastEntryLimit;
     if (y < limit) EraseLine(main, ln);
     if (y == limit) BeginTrail(ln);
@@ -53,7 +53,7 @@ void StrikeAndScore(VMain& main, CLine& ln, CLine& hit) {
     RedrawCollisionLine(main);
 }
 
-void TakeStep(VMain& main, CLine& ln, const Step& step, Boolean Simulate) {
+void TakeStep(const VMain& main, CLine& ln, const Step& step, Boolean Simulate) {
     const std::int16_t prevX = ln.XEnd;
     const std::int16_t prevY = ln.YEnd;
     ln.XEnd = step.x;

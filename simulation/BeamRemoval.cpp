@@ -56,7 +56,7 @@ void StartRemoval(VMain& main, CLine& oLine, Boolean ByFastLine) {
 
 std::int16_t NextThickness(const CLine& beam) { return Saturated(static_cast<std::int64_t>(beam.Thicknes) - 1); }
 
-void RedrawLines(VMain& main) {
+void RedrawLines(const VMain& main) {
     if (main.GameMode == kArcadeGame) RedrawCollisionLine(main);
     for (const CLine* beam : main.Lines)
         if (beam->Thicknes > 0 && beam->YStart >= main.CollisionLineY + kBlueLine)

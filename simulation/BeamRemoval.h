@@ -21,7 +21,7 @@ std::int16_t NextThickness(const CLine& beam);
 
 // Paints all beams again, since a removal has painted out what lay under it. Those that begin above the blue line are
 // left to the growth tick.
-void RedrawLines(VMain& main);
+void RedrawLines(const VMain& main);
 
 // Ends all beams. Nothing is painted.
 void ClearLines(VMain& main);

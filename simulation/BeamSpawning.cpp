@@ -36,7 +36,7 @@ bool AreAllColumnsTaken(const VMain& main) {
     return true;
 }
 
-std::optional<std::int16_t> FindFreeColumn(VMain& main) {
+std::optional<std::int16_t> FindFreeColumn(const VMain& main) {
     if (AreAllColumnsTaken(main)) return std::nullopt;
     for (int tries = 0; tries < kMostTries; ++tries) {
         const double column = std::floor(main.platform.Random() * kSpawnRange / kColumnStep);
@@ -46,12 +46,12 @@ std::optional<std::int16_t> FindFreeColumn(VMain& main) {
     return std::nullopt;
 }
 
-double FreshRandom(VMain& main) {
+double FreshRandom(const VMain& main) {
     main.platform.SeedRandomFromClock();
     return main.platform.Random();
 }
 
-std::int32_t RandomColour(VMain& main) {
+std::int32_t RandomColour(const VMain& main) {
     const double random = FreshRandom(main);
     return static_cast<std::int32_t>(
         std::ranges::count_if(kColourBounds, [random](double bound) { return random >= bound; }));
@@ -68,7 +68,7 @@ void ContinueChain(const VMain& main, CLine& beam, CLine& oLine) {
     if (IsPuzzle(main)) beam.PuzzleLineNr = oLine.PuzzleLineNr;
 }
 
-void StartInColumn(VMain& main, CLine& beam, std::int16_t x, std::int16_t y) {
+void StartInColumn(const VMain& main, CLine& beam, std::int16_t x, std::int16_t y) {
     beam.XStart = x;
     beam.XStartOrg = x;
     beam.YStart = y;
@@ -107,7 +107,7 @@ CLine& SplitLine(VMain& main, CLine& oLine) {
     return *CreateLine(main, &oLine, false, kSpawnHeight);
 }
 
-void SetLevelSpeed(VMain& main) {
+void SetLevelSpeed(const VMain& main) {
     float creator = kCreatorInterval;
     float extender = kExtenderInterval;
     for (std::int16_t level = 2; level <= std::min(main.Level, kTopSpeedLevel); ++level) {

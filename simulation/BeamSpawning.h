@@ -20,7 +20,7 @@ CLine& SplitLine(VMain& main, CLine& oLine);
 
 // Sets the intervals of LineCreator and LineExtender by Level: 2500 and 75 ms at level 1, a fifth less at each level
 // above, never less than 1 ms.
-void SetLevelSpeed(VMain& main);
+void SetLevelSpeed(const VMain& main);
 
 // A new beam for an Arcade game.
 void LineCreator_Timer(VMain& main);

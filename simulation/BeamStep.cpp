@@ -11,7 +11,7 @@ namespace prismfall {
 
 namespace {
 
-void EnterPlayfield(VMain& main, CLine& beam, int y) {
+void EnterPlayfield(const VMain& main, CLine& beam, int y) {
     const int limit = main.CollisionLineY + kEntryLimit;
     if (y < limit && main.GameMode == kArcadeGame) EraseLine(main, beam);
     if (y == limit) BeginTrail(beam);
@@ -35,7 +35,7 @@ void CountHit(VMain& main, const CLine& beam, std::int16_t& hits) {
     main.MultiDirection = beam.Direction;
 }
 
-void SoundOfHit(VMain& main) {
+void SoundOfHit(const VMain& main) {
     if (IsPuzzle(main) && AllLinesDeleted(main)) return PlaySound2(main, kSoundPuzzleCleared, true);
     PlaySound2(main, kSoundDestroyed, false);
 }
@@ -50,7 +50,7 @@ void Strike(VMain& main, CLine& beam, CLine& hit, std::int16_t& hits) {
     SoundOfHit(main);
 }
 
-void TakeStep(VMain& main, CLine& beam, const Step& step) {
+void TakeStep(const VMain& main, CLine& beam, const Step& step) {
     const std::int16_t prevX = beam.XEnd;
     const std::int16_t prevY = beam.YEnd;
     beam.XEnd = step.x;

@@ -28,7 +28,7 @@ void BeginTrail(CLine& beam) {
     beam.YStart = Saturated(beam.YEnd - 1);
 }
 
-void DrawLine(VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, std::int32_t Direction) {
+void DrawLine(const VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, std::int32_t Direction) {
     const auto colour = static_cast<std::size_t>(Color);
     const int outwards = Direction == kRightwards ? kEdgeOffset : -kEdgeOffset;
     Platform& surface = main.platform;
@@ -37,23 +37,27 @@ void DrawLine(VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, s
     surface.SurfaceLine(x1 - outwards, y1, x2, y2 + kEdgeOffset, LineColorsLower[colour], 1);
 }
 
-void EraseLine(VMain& main, const CLine& oLine) {
+void EraseLine(const VMain& main, const CLine& oLine) {
     main.platform.SurfaceLine(oLine.XStart, oLine.YStart, oLine.XEnd, oLine.YEnd, kBlack, kBeamWidth);
     RepairWalls(main, oLine);
 }
 
-void RepairWalls(VMain& main, const CLine& oLine) {
+void RepairWalls(const VMain& main, const CLine& oLine) {
     if (oLine.XEnd < kNearLeftWall) return RepairLeftWall(main, oLine.YEnd);
     if (oLine.XStart < kNearLeftWall) return RepairLeftWall(main, oLine.YStart);
     if (oLine.XEnd > kNearRightWall) return RepairRightWall(main, oLine.YEnd);
     if (oLine.XStart > kNearRightWall) RepairRightWall(main, oLine.YStart);
 }
 
-void RepairLeftWall(VMain& main, int y) { main.platform.SurfaceRestore(7, y - kRepairReach, 14, y + kRepairReach); }
+void RepairLeftWall(const VMain& main, int y) {
+    main.platform.SurfaceRestore(7, y - kRepairReach, 14, y + kRepairReach);
+}
 
-void RepairRightWall(VMain& main, int y) { main.platform.SurfaceRestore(665, y - kRepairReach, 672, y + kRepairReach); }
+void RepairRightWall(const VMain& main, int y) {
+    main.platform.SurfaceRestore(665, y - kRepairReach, 672, y + kRepairReach);
+}
 
-void RedrawCollisionLine(VMain& main) {
+void RedrawCollisionLine(const VMain& main) {
     const int y = main.CollisionLineY + kBlueLine;
     main.platform.SurfaceLine(kLeftWall, y, kRightWall, y, kBlueLineColour, 1);
 }

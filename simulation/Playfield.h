@@ -53,18 +53,18 @@ void BeginTrail(CLine& beam);
 
 // Paints one piece of beam: a core five pixels wide, a bright edge along its upper side, a dark one along its lower.
 // `Color` is an index into LineColors, kGrey included.
-void DrawLine(VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, std::int32_t Direction);
+void DrawLine(const VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, std::int32_t Direction);
 
 // Paints a whole beam out in black and repairs the wall that this cut into.
-void EraseLine(VMain& main, const CLine& oLine);
+void EraseLine(const VMain& main, const CLine& oLine);
 
 // Brings the frame back beside an end of the beam: the first that applies of head left, tail left, head right, tail
 // right.
-void RepairWalls(VMain& main, const CLine& oLine);
-void RepairLeftWall(VMain& main, int y);
-void RepairRightWall(VMain& main, int y);
+void RepairWalls(const VMain& main, const CLine& oLine);
+void RepairLeftWall(const VMain& main, int y);
+void RepairRightWall(const VMain& main, int y);
 
 // Paints the blue line below which beams can collide.
-void RedrawCollisionLine(VMain& main);
+void RedrawCollisionLine(const VMain& main);
 
 }  // namespace prismfall
