@@ -1,5 +1,4 @@
-// Background music: which track plays when. One track at a time, from a file in the folder `music` under the current
-// directory, looping. The player itself is the platform's; with Music off nothing reaches it.
+// Background music: which track plays when. One track at a time, looping. With Music off nothing reaches the machine.
 #pragma once
 
 #include <cstdint>

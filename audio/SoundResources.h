@@ -1,5 +1,5 @@
 // The wave files that the program carries, under their ids 102 to 108. The build makes the definition from
-// assets/sounds (see cmake/EmbedSounds.cmake).
+// assets/sounds with cmake/EmbedSounds.cmake.
 #pragma once
 
 #include <cstddef>

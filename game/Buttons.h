@@ -1,5 +1,4 @@
-// The buttons of the main window: their faces by the state that they stand for, and the three that open a dialog. What
-// the others do is with the game.
+// The buttons of the main window: which faces they show, what their clicks call, and the three that open a dialog.
 #pragma once
 
 #include "state/VMain.h"

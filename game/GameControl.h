@@ -1,5 +1,4 @@
-// The state machine of the program: which screen stands, whether a game is in progress and which of its timers run. The
-// start of a puzzle is with PuzzleStart, the end of a game with the two ticks.
+// The state machine of the program: which screen stands, whether a game is in progress, and which of its timers run.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
-// The content of Puzzle mode: 45 layouts of beams and a script that solves each. Fixed tables that are never changed;
-// laying a puzzle out, drawing its preview and playing its script are left to others.
+// The content of Puzzle mode: 45 layouts of beams, and a script that solves each. The tables never change.
 #pragma once
 
 #include <cstddef>

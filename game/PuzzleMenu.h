@@ -1,5 +1,5 @@
 // The screen from which a puzzle is picked: a page of nine previews, drawn from the layouts, and the buttons that turn
-// the page. The click on a preview is with the other clicks on the playfield (simulation/PlayerInput).
+// the page.
 #pragma once
 
 #include "state/VMain.h"

@@ -1,5 +1,4 @@
-// The dialog at the end of a puzzle: the verdict, and what to do next. What it is that ends a puzzle, and the mark of a
-// solved one, is with the two ticks.
+// The dialog at the end of a puzzle: the verdict, and what to do next.
 #pragma once
 
 #include "state/VMain.h"

@@ -1,5 +1,5 @@
 // The rows of the puzzle catalogue, as text that can be read and compared row by row. PuzzleCatalogue.cpp turns them
-// into numbers while the program is compiled and explains each field; nothing else includes this file.
+// into numbers while the program is compiled; nothing else includes this file.
 #pragma once
 
 #include <array>

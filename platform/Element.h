@@ -1,5 +1,5 @@
-// What a window holds: pictures, labels, buttons and the like, as plain data. The logic changes the data, a backend
-// draws what has changed; nothing here knows how.
+// What a window holds: pictures, labels, buttons and the like, as plain data. The game changes the data, and a backend
+// draws what has changed.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,5 @@
 // The painted layer of the main window: a block of pixels that lies over the background picture and keeps what was
-// painted. Shared by all backends, so that the picture is the same everywhere and a test can look at its pixels.
-// Composing it with pictures and showing it is left to a backend.
+// painted. All backends share it, so that the picture is the same everywhere and a test can look at its pixels.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
-// How a dialog is placed over the main window and shown, and what all dialogs look alike in. What a dialog holds and
-// does belongs to its own topic.
+// How a dialog is placed over the main window and shown, and what all dialogs look like.
 #pragma once
 
 #include <memory>

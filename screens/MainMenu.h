@@ -1,5 +1,5 @@
 // The main menu and the score panels: what is shown and hidden when a screen comes or goes, and the flicker of the
-// logo. It touches neither the music nor the game's timers nor the beams: whoever leaves a game has stopped those.
+// logo. Beams, music and the game's timers are left as they are.
 #pragma once
 
 #include "state/VMain.h"

@@ -1,5 +1,4 @@
-// The removal of beams: a destroyed beam thins out step by step with its whole chain. The timer that carries the
-// removal on stands in RemovalTick; what starts one is the growth tick or a speed-up.
+// Destroyed beams thin out step by step, each with its whole chain, and then leave the playfield.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// How beams come into play: random ones on the spawn grid, and the next segment of a chain at every bend and wall. And
-// how fast all of it happens, by level.
+// How beams come into play: at random columns of the spawn grid, and as the next segment of a chain at every bend and
+// wall. And how fast a level is.
 #pragma once
 
 #include <cstdint>

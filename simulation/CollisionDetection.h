@@ -1,5 +1,4 @@
-// The one geometric question of the game: which beam lies just ahead of a head. What follows from a hit is decided by
-// whoever asks.
+// The one geometric question of the game: which beam lies just ahead of a head?
 #pragma once
 
 #include <cstdint>

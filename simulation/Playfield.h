@@ -9,7 +9,21 @@
 
 namespace prismfall {
 
-// Game pixels.
+// The playfield on the surface, in game pixels (not to scale):
+//
+//       x 14                                        670
+//     y    +----------------------------------------+
+//     20   |  beams begin here, at kSpawnHeight     |
+//          |                                        |   entry zone of an Arcade game: beams are spots that move at
+//          |                                        |   every second tick and cannot collide
+//     60   |========================================|   the blue line, kBlueLine below CollisionLineY (40; 0 in a puzzle)
+//     64   |  a speeded beam begins its trail       |
+//     65   |  a growing beam begins its trail, and  |
+//          |  moves at every tick from here on      |
+//          |                                        |
+//    586   +----------------------------------------+   the ground; a head stands at 585 at the lowest
+//
+// A head moves one pixel down and one sideways at a time. At x 13 or 670 it has met a wall.
 constexpr int kLeftWall = 14;    // a head moving left stops at the first x below it
 constexpr int kRightWall = 670;  // a head moving right stops at the first x that reaches it
 constexpr int kFloor = 586;      // a head that would step onto it ends the game

@@ -1,5 +1,5 @@
-// Keeps beams alive. Beams refer to each other in circles and a beam that has left the playfield is still walked
-// through by those it was joined with, so none of them can own another: the store owns them all.
+// Owns all beams. Beams point at each other in circles, and one that has left the playfield is still walked through by
+// those that it was joined with, so no beam can own another.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
 // The record of one beam: a straight diagonal from its tail to its head. What the player sees as one zig-zag beam is a
-// chain of these, joined through LinkedLines. The rules that move, stop and remove beams stand in files of their own.
+// chain of these, joined through LinkedLines.
 #pragma once
 
 #include <cstddef>

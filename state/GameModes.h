@@ -1,4 +1,4 @@
-// What is asked about the mode of the game in many places.
+// Questions about the mode of the game that many topics ask.
 #pragma once
 
 #include "state/VMain.h"

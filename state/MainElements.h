@@ -1,4 +1,4 @@
-// The elements of the main window, each at its place, in stacking order. The logic reads and changes them by name.
+// The elements of the main window, each at its place. The game reads and changes them by name.
 #pragma once
 
 #include <array>

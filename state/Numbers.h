@@ -1,5 +1,5 @@
-// The game's own ways with numbers: a truth value of 16 bits, sums that stay in 16 bits by stopping at the ends of the
-// range instead of wrapping round, and the one way of rounding.
+// The game's arithmetic: a truth value of 16 bits, sums that stop at the ends of the 16-bit range instead of wrapping,
+// and the one way of rounding.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-// The state of the whole game, shared by all topics. It exists once for a run. It has no behaviour: each topic is a
-// pair of files with free functions on this state.
+// The state of the whole game. There is one for a run of the program, and every topic is a pair of files with free
+// functions on it.
 #pragma once
 
 #include <array>
