@@ -9,19 +9,17 @@
 
 namespace prismfall {
 
-// The playfield on the surface, in game pixels (not to scale):
+// The playfield on the surface, in game pixels, not to scale:
 //
-//       x 14                                        670
-//     y    +----------------------------------------+
-//     20   |  beams begin here, at kSpawnHeight     |
-//          |                                        |   entry zone of an Arcade game: beams are spots that move at
-//          |                                        |   every second tick and cannot collide
-//     60   |========================================|   the blue line, kBlueLine below CollisionLineY (40; 0 in a puzzle)
-//     64   |  a speeded beam begins its trail       |
-//     65   |  a growing beam begins its trail, and  |
-//          |  moves at every tick from here on      |
-//          |                                        |
-//    586   +----------------------------------------+   the ground; a head stands at 585 at the lowest
+//      x 14                                  670
+//    y    +----------------------------------+
+//    20   |  beams begin here                |  entry zone of an Arcade game: beams are spots that move at every
+//         |                                  |  second tick and cannot collide
+//    60   |==================================|  the blue line (20 in a puzzle, where CollisionLineY is 0)
+//    64   |  a speeded beam begins its trail |
+//    65   |  a growing beam begins its trail |  from here on it moves at every tick
+//         |                                  |
+//   586   +----------------------------------+  the ground; a head stands at 585 at the lowest
 //
 // A head moves one pixel down and one sideways at a time. At x 13 or 670 it has met a wall.
 constexpr int kLeftWall = 14;    // a head moving left stops at the first x below it
