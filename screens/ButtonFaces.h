@@ -1,5 +1,5 @@
-// What all buttons of all windows have in common: a button shows one of two pictures, the brighter one while the pointer
-// is over it, and sounds when it is pressed, before its click.
+// What all buttons of all windows have in common: a button shows one of two pictures, the brighter one while the
+// pointer is over it, and sounds when it is pressed, before its click.
 #pragma once
 
 #include <span>
