@@ -52,13 +52,22 @@ SdlPlatform::SdlPlatform(PictureStore pictures)
     : desktop(
           std::move(pictures), [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
       settings(SettingsFile::UsersFile()) {
+    SDL_AddEventWatch(NoteEndBySystem, this);
+    if (SDL_HasEvent(SDL_QUIT) == SDL_TRUE) isEndedBySystem = true;
     WhenSessionEnds([this] {
+        isEndedBySystem = true;
         if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
         std::_Exit(EXIT_SUCCESS);
     });
 }
 
-SdlPlatform::~SdlPlatform() = default;
+SdlPlatform::~SdlPlatform() { SDL_DelEventWatch(NoteEndBySystem, this); }
+
+// A player's ways out are no events of this kind: they are a key, a button and a window's close box.
+int SdlPlatform::NoteEndBySystem(void* self, SDL_Event* event) {
+    if (event->type == SDL_QUIT) static_cast<SdlPlatform*>(self)->isEndedBySystem = true;
+    return 0;
+}
 
 void SdlPlatform::Run(Window& mainWindow) {
     if (!mainWindow.visible) Show(mainWindow);
@@ -179,11 +188,19 @@ std::string SdlPlatform::ReadSetting(std::string_view, std::string_view section,
 }
 
 bool SdlPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
-    const std::vector<SettingValue> values =
-        change([this](std::string_view section, std::string_view key) { return settings.Read(section, key); });
-    const std::string failure = settings.Write(values);
-    if (!failure.empty()) std::fprintf(stderr, "prismfall: %s\n", failure.c_str());
+    const std::string failure = settings.Change(change);
+    if (!failure.empty()) TellOfUnsavedSettings(failure);
     return failure.empty();
+}
+
+// Once: a failure that stays is no news. The box may have to wait for a player, a system that ends does not.
+void SdlPlatform::TellOfUnsavedSettings(const std::string& failure) {
+    if (std::exchange(isFailedSaveTold, true)) return;
+    if (isEndedBySystem) {
+        std::fprintf(stderr, "prismfall: %s\n", failure.c_str());
+    } else {
+        ShowMessageBox(failure);
+    }
 }
 
 void SdlPlatform::PlayWave(Wave wave, bool wait) {

@@ -2,6 +2,9 @@
 // hands every call to the class beside it that knows how.
 #pragma once
 
+#include <SDL.h>
+
+#include <atomic>
 #include <filesystem>
 #include <memory>
 #include <random>
@@ -69,7 +72,10 @@ class SdlPlatform final : public Platform {
   private:
     explicit SdlPlatform(PictureStore pictures);
 
+    // Notes that a signal or the desktop wants the program to end.
+    static int SDLCALL NoteEndBySystem(void* self, SDL_Event* event);
     void CloseProgram();
+    void TellOfUnsavedSettings(const std::string& failure);
 
     SdlDesktop desktop;
     EventLoop loop{desktop};
@@ -77,6 +83,8 @@ class SdlPlatform final : public Platform {
     SettingsFile settings;
     std::mt19937 generator;
     Window* main = nullptr;
+    std::atomic<bool> isEndedBySystem = false;  // events are noted on the thread that they come from
+    bool isFailedSaveTold = false;
 };
 
 }  // namespace prismfall

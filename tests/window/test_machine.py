@@ -146,8 +146,7 @@ class Machine(harness.WindowTest):
         wait_for(lambda: run.face("CommandNext").count(0) < 100, 3, "the puzzle menu")
         run.main.key("Escape")
         run.wait_for_main_menu()
-        run.press("CommandExit")
-        self.assertEqual(run.wait_for_end(), 0)
+        self.assertEqual(run.kill(signal.SIGTERM), 0)
         self.check_sentence(run.said())
 
     def mount_small_disk(self, folder):
@@ -169,9 +168,21 @@ class Machine(harness.WindowTest):
                     filler.write(bytes(4096))
             except OSError:
                 pass
+        ends = {
+            "CommandExit": lambda run: run.press("CommandExit"),
+            "Escape": lambda run: run.main.key("Escape"),
+            "close box": lambda run: run.main.use_close_box(),
+        }
+        for name, end in ends.items():
+            with self.subTest(end=name):
+                run = self.start(settings)
+                end(run)
+                box = run.desktop.window(layout.ERROR, 5)
+                _, _, width, height = box.place()
+                box.click(width // 2, height - 31)
+                self.assertEqual((run.wait_for_end(), run.said()), (0, ""))
         run = self.start(settings)
-        run.press("CommandExit")
-        self.assertEqual(run.wait_for_end(), 0)
+        self.assertEqual(run.kill(signal.SIGTERM), 0)
         self.assertEqual(settings.file.read_bytes(), before)
         self.assertEqual(os.listdir(settings.file.parent), [settings.file.name])
         self.check_sentence(run.said())

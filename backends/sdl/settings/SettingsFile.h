@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <map>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -21,19 +20,15 @@ class SettingsFile {
     // prismfall/settings.ini in the user's folder for settings; empty if the user has no such folder.
     static std::filesystem::path UsersFile();
 
-    // The stored text, or nothing. The file is read once; a write makes it be read again.
+    // The stored text, or nothing. The file is read once; a change makes it be read again.
     std::optional<std::string> Read(std::string_view section, std::string_view key);
-    // Stores the values and leaves everything else in the file as it is. The file is the old or the new one at any
-    // moment, also for another copy of the game. Empty if it went well, else one sentence that tells why not.
-    std::string Write(std::span<const SettingValue> values);
+    // Stores what `change` makes of the values that the file holds now, and leaves everything else in it as it is. No
+    // other copy of the game comes between. Empty if it went well, else one sentence that tells why nothing is stored.
+    std::string Change(const SettingsChange& change);
 
   private:
-    using Name = std::pair<std::string, std::string>;
-
-    void Load();
-
     std::filesystem::path file;
-    std::optional<std::map<Name, std::string>> stored;
+    std::optional<std::map<std::pair<std::string, std::string>, std::string>> values;
 };
 
 }  // namespace prismfall

@@ -1,19 +1,21 @@
-// The settings file under everything that a disk, a crash and an editor can do to it.
+// The settings file under everything that a disk, a crash, an editor and other copies of the game can do to it.
 #include "backends/sdl/settings/SettingsFile.h"
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <random>
 #include <sstream>
 #include <thread>
-
-#include "platform/SettingsText.h"
 
 namespace prismfall {
 namespace {
@@ -25,12 +27,16 @@ std::uint32_t Seed() {
     return given != nullptr ? static_cast<std::uint32_t>(std::strtoul(given, nullptr, 10)) : std::random_device{}();
 }
 
+std::string Write(const fs::path& file, const std::vector<SettingValue>& values) {
+    return SettingsFile(file).Change([&](const SettingsReader&) { return values; });
+}
+
 class SettingsFileTest : public ::testing::Test {
   protected:
     SettingsFileTest() {
         std::string name = (fs::temp_directory_path() / "prismfall-settings-XXXXXX").string();
         folder = mkdtemp(name.data());
-        path = folder / "prismfall" / "settings.ini";
+        path = folder / "made" / "prismfall" / "settings.ini";
     }
     ~SettingsFileTest() override {
         std::error_code ignored;
@@ -46,7 +52,7 @@ class SettingsFileTest : public ::testing::Test {
         text << std::ifstream(path).rdbuf();
         return std::move(text).str();
     }
-    std::string ReadAnew(std::string_view section, std::string_view key) const {
+    std::string Get(std::string_view section, std::string_view key) const {
         return SettingsFile(path).Read(section, key).value_or("(nothing)");
     }
 
@@ -54,28 +60,13 @@ class SettingsFileTest : public ::testing::Test {
     fs::path path;
 };
 
-// As many values as the game keeps, all the same, so that a mixture of two saves shows.
-std::vector<SettingValue> ManyValues(const std::string& text) {
-    std::vector<SettingValue> values;
-    for (int i = 0; i < 79; ++i)
-        values.push_back({i < 40 ? "Scores" : "SolvedPuzzles", "Key" + std::to_string(i), text});
-    return values;
-}
-
-TEST_F(SettingsFileTest, KeepsWhatItDoesNotKnow) {
-    PutText("; mine\n[General]\nMusic = True\nColour=green\n\n[Elsewhere]\nx=1\n");
-    EXPECT_EQ(SettingsFile(path).Write(std::vector<SettingValue>{{"General", "Music", "False"}}), "");
-    EXPECT_EQ(ReadAnew("General", "Music"), "False");
-    EXPECT_EQ(ReadAnew("General", "Colour"), "green");
-    EXPECT_EQ(ReadAnew("Elsewhere", "x"), "1");
-    EXPECT_NE(Text().find("; mine"), std::string::npos);
-}
-
-TEST_F(SettingsFileTest, ADamagedLineCostsItselfAlone) {
-    PutText("[General\nMusic=True\n[General]\n===\nnonsense\n\xff\xfe\nStartLevel=7\nMu\n[Scores]\nScore1=20\n[");
-    EXPECT_EQ(ReadAnew("General", "StartLevel"), "7");
-    EXPECT_EQ(ReadAnew("Scores", "Score1"), "20");
-    EXPECT_EQ(ReadAnew("General", "Mu"), "(nothing)");
+TEST_F(SettingsFileTest, KeepsWhatItDoesNotKnowAndADamagedLineCostsItselfAlone) {
+    PutText(
+        "; mine\n[General\nMu=1\n[General]\n===\nMusic = True\nColour=green\nnonsense\n\xff\xfe\nSt\n[Else]\nx=1\n[");
+    EXPECT_EQ(Write(path, {{"General", "Music", "False"}}), "");
+    EXPECT_EQ(Get("General", "Music") + Get("General", "Colour") + Get("Else", "x"), "Falsegreen1");
+    EXPECT_EQ(Get("General", "Mu") + Get("General", "St"), "(nothing)(nothing)");
+    EXPECT_EQ(Text().find("; mine"), 0U);
 }
 
 TEST_F(SettingsFileTest, AnyTextComesBack) {
@@ -88,78 +79,85 @@ TEST_F(SettingsFileTest, AnyTextComesBack) {
         for (auto length = random() % 8; length > 0; --length) result += letters[random() % letters.size()];
         return result;
     };
-    for (int round = 0; round < 200; ++round) {
-        const SettingValue value{"s" + text(), "k" + text(), text()};
-        ASSERT_EQ(SettingsFile(path).Write(std::span(&value, 1)), "");
-        ASSERT_EQ(ReadAnew(value.section, value.key), value.text) << "seed " << seed << ", round " << round;
+    for (int round = 0; round < 100; ++round) {
+        const SettingValue value{text() + "s", text() + "k", text()};
+        ASSERT_EQ(Write(path, {value}), "");
+        ASSERT_EQ(Get(value.section, value.key), value.text) << "seed " << seed << ", round " << round;
     }
 }
 
-TEST_F(SettingsFileTest, AKillDuringASaveLeavesTheOldOrTheNewFile) {
-    ASSERT_EQ(SettingsFile(path).Write(ManyValues("A")), "");
+// Two copies count their saves in the file, each in a key of its own and in all the others, until they are killed.
+TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
+    using Counts = std::array<std::atomic<int>, 2>;
+    void* shared = mmap(nullptr, sizeof(Counts), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    Counts& done = *new (shared) Counts{};
+    const auto save = [&](const std::string& copy) {
+        return SettingsFile(path).Change([&](const SettingsReader& stored) {
+            const std::string count = std::to_string(std::stoi(stored("Copy", copy).value_or("0")) + 1);
+            std::vector<SettingValue> values = {{"Copy", copy, count}};
+            for (int i = 0; i < 79; ++i) values.push_back({"All", std::to_string(i), copy + count});
+            return values;
+        });
+    };
     std::mt19937 random(Seed());
-    for (int round = 0; round < 40; ++round) {
-        const pid_t writer = fork();
-        if (writer == 0)
-            for (;;) {
-                SettingsFile(path).Write(ManyValues("A"));
-                SettingsFile(path).Write(ManyValues("B"));
-            }
-        std::this_thread::sleep_for(std::chrono::microseconds(500 + random() % 6000));
-        kill(writer, SIGKILL);
-        waitpid(writer, nullptr, 0);
+    for (int round = 0; round < 30; ++round) {
+        std::array<pid_t, 2> copies{};
+        for (std::size_t i = 0; i < copies.size(); ++i) {
+            copies[i] = fork();
+            while (copies[i] == 0)
+                if (save(std::to_string(i)).empty()) ++done[i];
+        }
+        for (const pid_t copy : copies) {
+            std::this_thread::sleep_for(std::chrono::microseconds(2000 + random() % 15000));
+            kill(copy, SIGKILL);
+            waitpid(copy, nullptr, 0);
+        }
         SettingsFile reader(path);
-        const std::string first = reader.Read("Scores", "Key0").value_or("(nothing)");
-        for (const SettingValue& value : ManyValues(first)) ASSERT_EQ(reader.Read(value.section, value.key), first);
-        ASSERT_TRUE(first == "A" || first == "B") << first;
+        const std::string first = reader.Read("All", "0").value_or("");
+        for (int i = 0; i < 79; ++i) ASSERT_EQ(reader.Read("All", std::to_string(i)).value_or(""), first);
+        for (std::size_t i = 0; i < copies.size(); ++i) {
+            const int count = std::stoi(reader.Read("Copy", std::to_string(i)).value_or("0"));
+            ASSERT_TRUE(count == done[i] || count == done[i] + 1) << count << " of " << done[i];
+            done[i] = count;
+        }
     }
+    EXPECT_GT(done[0] + done[1], 10);
 }
 
-TEST_F(SettingsFileTest, TwoCopiesDoNotMixTheirSaves) {
-    std::array<pid_t, 2> writers{};
-    for (std::size_t i = 0; i < writers.size(); ++i) {
-        writers[i] = fork();
-        if (writers[i] != 0) continue;
-        for (int round = 0; round < 100; ++round) SettingsFile(path).Write(ManyValues(i == 0 ? "A" : "B"));
-        _exit(0);
-    }
-    for (const pid_t writer : writers) waitpid(writer, nullptr, 0);
-    SettingsFile reader(path);
-    const std::string first = reader.Read("Scores", "Key0").value_or("(nothing)");
-    for (const SettingValue& value : ManyValues(first)) EXPECT_EQ(reader.Read(value.section, value.key), first);
-    EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), fs::directory_iterator()), 1)
-        << "a temporary file was left";
-}
-
-TEST_F(SettingsFileTest, WithoutRoomTheOldFileStands) {
-    ASSERT_EQ(SettingsFile(path).Write(ManyValues("A")), "");
+TEST_F(SettingsFileTest, WithoutRoomTheOldFileStandsAndNothingIsLeft) {
+    ASSERT_EQ(Write(path, {{"General", "Music", "True"}}), "");
     const pid_t writer = fork();
     if (writer == 0) {
         signal(SIGXFSZ, SIG_IGN);
-        const rlimit little{200, 200};  // bytes, less than a save
+        const rlimit little{200, 200};  // bytes, less than the save
         setrlimit(RLIMIT_FSIZE, &little);
-        _exit(SettingsFile(path).Write(ManyValues("B")).empty() ? 0 : 1);
+        _exit(Write(path, {{"General", "Music", std::string(300, 'x')}}).empty() ? 0 : 1);
     }
     int status = 0;
     waitpid(writer, &status, 0);
     EXPECT_EQ(WEXITSTATUS(status), 1) << "the failure has to be told";
-    EXPECT_EQ(ReadAnew("SolvedPuzzles", "Key78"), "A");
-    EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), fs::directory_iterator()), 1)
-        << "a temporary file was left";
+    EXPECT_EQ(Get("General", "Music"), "True");
+    EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), fs::directory_iterator()), 1);
 }
 
-TEST_F(SettingsFileTest, AFolderThatCannotBeMadeIsTold) {
-    std::ofstream(folder / "prismfall") << "a file where the folder should be";
-    EXPECT_NE(SettingsFile(path).Write(ManyValues("A")), "");
-    EXPECT_EQ(ReadAnew("Scores", "Key0"), "(nothing)");
+TEST_F(SettingsFileTest, NewFoldersAreTheUsersOwnAndWhatCannotBeOneIsTold) {
+    const mode_t old = umask(0);
+    EXPECT_EQ(Write(path, {{"General", "Music", "True"}}), "");
+    umask(old);
+    for (const fs::path& made : {path.parent_path(), path.parent_path().parent_path()})
+        EXPECT_EQ(fs::status(made).permissions(), fs::perms::owner_all) << made;
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_NE(Write(path / "settings.ini", {{"General", "Music", "False"}}), "") << "a file where the folder should be";
+    EXPECT_NE(Write(path.parent_path(), {{"General", "Music", "False"}}), "") << "a folder where the file should be";
+    EXPECT_NE(Write({}, {{"General", "Music", "False"}}), "") << "no folder at all";
 }
 
 TEST_F(SettingsFileTest, ALinkIsFollowed) {
     const fs::path real = folder / "elsewhere.ini";
-    std::ofstream(real) << "[General]\nMusic=True\n";
-    fs::create_directories(path.parent_path());
-    fs::create_symlink(real, path);
-    ASSERT_EQ(SettingsFile(path).Write(std::vector<SettingValue>{{"General", "Music", "False"}}), "");
+    PutText("");
+    fs::remove(path);
+    fs::create_symlink("../../elsewhere.ini", path);
+    ASSERT_EQ(Write(path, {{"General", "Music", "False"}}), "");
     EXPECT_TRUE(fs::is_symlink(path));
     EXPECT_EQ(SettingsFile(real).Read("General", "Music"), "False");
 }
