@@ -4,18 +4,16 @@
 
 #include <dlfcn.h>
 
+#include <cstdlib>
 #include <cstring>
 
 namespace prismfall {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr int kRate = 44100;
-constexpr int kChannels = 2;
+constexpr std::uint8_t kChannels = 2;
 constexpr int kChunk = 2048;  // frames; 46 ms
-constexpr auto kNextTry = 5s;
 
 void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
 
@@ -39,9 +37,10 @@ bool AudioDevice::Open() {
     if (failedAt && now - *failedAt < kNextTry) return false;
     SilenceAlsa();
     SDL_AudioSpec wanted{};
-    wanted.freq = kRate;
+    // What is left open SDL takes from these variables of the user's.
+    if (std::getenv("SDL_AUDIO_FREQUENCY") == nullptr) wanted.freq = kRate;
+    if (std::getenv("SDL_AUDIO_CHANNELS") == nullptr) wanted.channels = kChannels;
     wanted.format = AUDIO_S16SYS;
-    wanted.channels = kChannels;
     wanted.samples = kChunk;
     wanted.callback = Callback;
     wanted.userdata = this;
@@ -69,7 +68,8 @@ void AudioDevice::Callback(void* self, std::uint8_t* samples, int bytes) {
     const auto& device = *static_cast<const AudioDevice*>(self);
     const std::span space(samples, static_cast<std::size_t>(bytes));
     std::memset(space.data(), device.form.silence, space.size());
-    device.fill(space);
+    // SDL goes on asking for a device that has gone. What nobody hears must not count as played.
+    if (!device.IsLost()) device.fill(space);
 }
 
 }  // namespace prismfall

@@ -23,11 +23,15 @@ class AudioDevice {
     AudioDevice& operator=(const AudioDevice&) = delete;
     ~AudioDevice() { Close(); }
 
-    // Opens the device if it is closed. Without a usable one the answer is false, and for a few seconds it is not asked
-    // for again.
+    // How long it takes until a device that could not be opened is asked for again.
+    static constexpr std::chrono::seconds kNextTry{2};
+
+    // Opens the device if it is closed. Without a usable one the answer is false.
     bool Open();
     void Close();
     bool IsOpen() const { return id != 0; }
+    // It was open and has gone: unplugged, or its sound server has ended. Nothing is taken from `Fill` any more.
+    bool IsLost() const { return IsOpen() && SDL_GetAudioDeviceStatus(id) == SDL_AUDIO_STOPPED; }
 
     // How samples have to come. Opening settles it.
     const SDL_AudioSpec& Form() const { return form; }

@@ -1,29 +1,32 @@
-// Decoding by libmpg123.
 #include "backends/sdl/sound/MusicFile.h"
 
 #include <mpg123.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace prismfall {
 
 std::string MusicFile::Open(const std::string& path) {
-    decoder.reset(mpg123_new(nullptr, nullptr));
-    if (!decoder) return "Couldn't play " + path;
+    const auto failure = [&path](const char* reason) { return "Couldn't play " + path + ": " + reason; };
+    int error = MPG123_OK;
+    decoder.reset(mpg123_new(nullptr, &error));
+    if (!decoder) return failure(mpg123_plain_strerror(error));
     mpg123_param(decoder.get(), MPG123_ADD_FLAGS, MPG123_QUIET | MPG123_GAPLESS, 0);
     mpg123_format_none(decoder.get());
     mpg123_format2(decoder.get(), 0, MPG123_MONO | MPG123_STEREO, MPG123_ENC_SIGNED_16);
-    if (mpg123_open(decoder.get(), path.c_str()) != MPG123_OK) {
-        Close();
-        return "Couldn't open " + path;
-    }
     long samplesPerSecond = 0;
     int encoding = 0;
-    if (mpg123_getformat(decoder.get(), &samplesPerSecond, &channels, &encoding) != MPG123_OK) {
+    if (mpg123_open(decoder.get(), path.c_str()) != MPG123_OK ||
+        mpg123_getformat(decoder.get(), &samplesPerSecond, &channels, &encoding) != MPG123_OK) {
+        const std::string told = failure(mpg123_strerror(decoder.get()));
         Close();
-        return "Couldn't play " + path;
+        return told;
     }
     rate = static_cast<int>(samplesPerSecond);
+    // Whatever rate and channels come later are brought to those of the beginning.
+    mpg123_format_none(decoder.get());
+    mpg123_format(decoder.get(), samplesPerSecond, channels, MPG123_ENC_SIGNED_16);
     return {};
 }
 
@@ -37,6 +40,12 @@ std::span<const std::byte> MusicFile::Read() {
 }
 
 void MusicFile::Rewind() { mpg123_seek(decoder.get(), 0, SEEK_SET); }
+
+void MusicFile::StepBack(int samples) {
+    auto place = mpg123_tell(decoder.get()) - samples;
+    if (place < 0) place += mpg123_length(decoder.get());
+    mpg123_seek(decoder.get(), std::max<decltype(place)>(place, 0), SEEK_SET);
+}
 
 void MusicFile::Free::operator()(mpg123_handle_struct* done) const { mpg123_delete(done); }
 

@@ -1,11 +1,6 @@
-// The way from the game's thread to the audio thread, and the rule by which the device is let go.
 #include "backends/sdl/sound/SdlAudio.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <memory>
-#include <string_view>
 
 namespace prismfall {
 
@@ -16,17 +11,6 @@ using namespace std::chrono_literals;
 constexpr auto kSilenceBeforeClosing = 3s;
 constexpr auto kLongestWait = 700ms;  // for the audio thread; a device opens and closes within a tenth of it
 constexpr int kFailureCode = 1;
-
-std::uint32_t Number(std::span<const std::byte> bytes, std::size_t at) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 4; i-- > 0;)
-        value = value << 8 | (at + i < bytes.size() ? std::to_integer<std::uint32_t>(bytes[at + i]) : 0U);
-    return value;
-}
-
-bool HasTag(std::span<const std::byte> bytes, std::size_t at, std::string_view tag) {
-    return at + tag.size() <= bytes.size() && std::memcmp(bytes.data() + at, tag.data(), tag.size()) == 0;
-}
 
 }  // namespace
 
@@ -42,7 +26,7 @@ void SdlAudio::PlayWave(std::span<const std::byte> wave) {
     used = true;
     thread.Post([this, wave] {
         sound.Play(wave);
-        CloseWhenSilent();
+        PlanAhead();
     });
 }
 
@@ -51,7 +35,7 @@ int SdlAudio::MusicOpen(const std::string& path) {
     const auto answer = std::make_shared<std::string>();
     const auto open = [this, path, answer] {
         *answer = music.Open(path);
-        CloseWhenSilent();
+        PlanAhead();
     };
     // With a sound server that hangs nothing will be heard, which is no failure of the file.
     failure = thread.Call(open, kLongestWait) ? *answer : std::string();
@@ -64,26 +48,34 @@ void SdlAudio::DoWithMusic(std::function<void(SdlMusic&)> action) {
     if (!used) return;
     thread.Post([this, action = std::move(action)] {
         action(music);
-        CloseWhenSilent();
+        PlanAhead();
     });
 }
 
 void SdlAudio::DeviceLost() {
     if (!used) return;
     thread.Post([this] {
-        if (!device.IsOpen()) return;
+        if (!device.IsLost()) return;
         sound.Release();
         device.Close();
         music.TakeUp();
-        CloseWhenSilent();
+        PlanAhead();
     });
 }
 
-void SdlAudio::CloseWhenSilent() {
+// Settles when the audio thread wakes by itself: to look for a device while music waits for one, or to let go of a
+// device that nothing has used for a while.
+void SdlAudio::PlanAhead() {
+    if (music.AwaitsDevice()) {
+        return thread.RunLater(AudioDevice::kNextTry, [this] {
+            music.TakeUp();
+            PlanAhead();
+        });
+    }
     // A looping track ends by a call alone, and that call comes by here.
     if (!device.IsOpen() || (music.IsSounding() && music.IsLooping())) return thread.RunLater(std::nullopt, {});
     thread.RunLater(kSilenceBeforeClosing, [this] {
-        if (music.IsSounding() || sound.IsSounding()) return CloseWhenSilent();
+        if (music.IsSounding() || sound.IsSounding()) return PlanAhead();
         sound.Release();
         device.Close();
     });
@@ -97,20 +89,6 @@ bool SdlAudio::Finish() {
         device.Close();
     });
     return thread.Finish(kLongestWait);
-}
-
-std::chrono::nanoseconds WaveLength(std::span<const std::byte> wave) {
-    if (!HasTag(wave, 0, "RIFF") || !HasTag(wave, 8, "WAVE")) return 0ns;
-    std::uint64_t bytesPerSecond = 0;
-    for (std::size_t at = 12; at + 8 <= wave.size();) {
-        const std::size_t content = at + 8;
-        const std::uint64_t size = std::min<std::uint64_t>(Number(wave, at + 4), wave.size() - content);
-        if (HasTag(wave, at, "fmt ")) bytesPerSecond = Number(wave, content + 8);
-        if (HasTag(wave, at, "data"))
-            return std::chrono::nanoseconds(bytesPerSecond > 0 ? size * 1'000'000'000 / bytesPerSecond : 0);
-        at = content + size + size % 2;
-    }
-    return 0ns;
 }
 
 }  // namespace prismfall

@@ -2,7 +2,6 @@
 // when nothing sounds.
 #pragma once
 
-#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <span>
@@ -27,13 +26,13 @@ class SdlAudio {
     int MusicOpen(const std::string& path);
     std::string MusicFailureText(int code) const;
     void DoWithMusic(std::function<void(SdlMusic&)> action);
-    // The device has gone: what played plays on another one, if there is one.
+    // Some device has gone. If it was the one in use, music plays on as soon as there is another one.
     void DeviceLost();
     // Silence, and the end of the audio thread. False if the sound server hangs; only the process's end helps then.
     bool Finish();
 
   private:
-    void CloseWhenSilent();
+    void PlanAhead();
 
     AudioDevice device;
     SdlMusic music;
@@ -42,8 +41,5 @@ class SdlAudio {
     bool used = false;
     AudioThread thread;
 };
-
-// How long a complete WAVE file of plain samples sounds; nothing for bytes that are none.
-std::chrono::nanoseconds WaveLength(std::span<const std::byte> wave);
 
 }  // namespace prismfall

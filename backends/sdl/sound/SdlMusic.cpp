@@ -40,12 +40,17 @@ void SdlMusic::Play(State newState) {
     if (hasDevice) FitStream();
 }
 
-// A stream that fits is kept, for it may hold samples that have not been heard yet.
+// A stream that fits is kept, for it may hold samples that have not been heard yet. Those of another are decoded again.
 void SdlMusic::FitStream() {
     const SDL_AudioSpec& form = device.Form();
     if (stream && streamForm.format == form.format && streamForm.channels == form.channels &&
         streamForm.freq == form.freq)
         return;
+    if (stream) {
+        const int frame = SDL_AUDIO_BITSIZE(streamForm.format) / 8 * streamForm.channels;
+        const std::int64_t unheard = SDL_AudioStreamAvailable(stream.get()) / frame;
+        file.StepBack(static_cast<int>(unheard * file.Rate() / streamForm.freq));
+    }
     streamForm = form;
     stream.reset(SDL_NewAudioStream(AUDIO_S16SYS, static_cast<std::uint8_t>(file.Channels()), file.Rate(), form.format,
                                     form.channels, form.freq));
@@ -86,6 +91,11 @@ bool SdlMusic::IsLooping() {
 bool SdlMusic::IsSounding() {
     const std::lock_guard lock(device);
     return IsPlaying() && device.IsOpen();
+}
+
+bool SdlMusic::AwaitsDevice() {
+    const std::lock_guard lock(device);
+    return IsPlaying() && !device.IsOpen();
 }
 
 void SdlMusic::TakeUp() {

@@ -19,7 +19,7 @@ class SdlMusic {
   public:
     explicit SdlMusic(AudioDevice& soundDevice) : device(soundDevice) {}
 
-    // Nothing if the file can be played, else the reason in the player's words.
+    // Nothing if the file can be played, else its path and the decoder's reason.
     std::string Open(const std::string& path);
     void Close();
     void SetVolume(int newVolume);
@@ -30,7 +30,9 @@ class SdlMusic {
 
     bool IsSounding();
     bool IsLooping();
-    // Plays on after the device has gone, on the one that is there now, if one is.
+    // Is to be heard, and has no device.
+    bool AwaitsDevice();
+    // Plays on where it fell silent, if there is a device now.
     void TakeUp();
 
     // Adds what is to be heard next, in the device's form. To be called with the device locked.

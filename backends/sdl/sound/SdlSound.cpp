@@ -1,4 +1,5 @@
-// Sounds, brought to the device's form anew each time: that takes less than a millisecond, and nothing has to be kept.
+// Sounds, read and brought to the device's form anew each time: that takes less than a millisecond, and nothing has to
+// be kept.
 #include "backends/sdl/sound/SdlSound.h"
 
 #include <SDL.h>
@@ -6,33 +7,41 @@
 #include <algorithm>
 #include <memory>
 #include <mutex>
+#include <utility>
 
 namespace prismfall {
 
 namespace {
 
-struct FreeWave {
+struct Free {
     void operator()(std::uint8_t* samples) const { SDL_FreeWAV(samples); }
+    void operator()(SDL_AudioStream* stream) const { SDL_FreeAudioStream(stream); }
 };
 
-// The samples of a WAVE file in another form; none if it cannot be read.
-std::vector<std::uint8_t> Converted(std::span<const std::byte> wave, const SDL_AudioSpec& form) {
-    SDL_AudioSpec found{};
-    std::uint8_t* samples = nullptr;
+struct WaveSamples {
+    SDL_AudioSpec form{};
+    std::unique_ptr<std::uint8_t, Free> samples;  // none if the file cannot be read
     std::uint32_t bytes = 0;
+};
+
+WaveSamples ReadWave(std::span<const std::byte> wave) {
+    WaveSamples found;
+    std::uint8_t* samples = nullptr;
     SDL_RWops* file = SDL_RWFromConstMem(wave.data(), static_cast<int>(wave.size()));
-    if (file == nullptr || SDL_LoadWAV_RW(file, 1, &found, &samples, &bytes) == nullptr) return {};
-    const std::unique_ptr<std::uint8_t, FreeWave> owner(samples);
-    SDL_AudioCVT conversion{};
-    if (SDL_BuildAudioCVT(&conversion, found.format, found.channels, found.freq, form.format, form.channels,
-                          form.freq) < 0)
-        return {};
-    std::vector<std::uint8_t> sound(static_cast<std::size_t>(bytes) * static_cast<std::size_t>(conversion.len_mult));
-    std::copy_n(samples, bytes, sound.begin());
-    conversion.buf = sound.data();
-    conversion.len = static_cast<int>(bytes);
-    if (SDL_ConvertAudio(&conversion) != 0) return {};
-    sound.resize(static_cast<std::size_t>(conversion.len_cvt));
+    if (file != nullptr && SDL_LoadWAV_RW(file, 1, &found.form, &samples, &found.bytes) != nullptr)
+        found.samples.reset(samples);
+    return found;
+}
+
+std::vector<std::uint8_t> Converted(const WaveSamples& wave, const SDL_AudioSpec& form) {
+    if (!wave.samples) return {};
+    const std::unique_ptr<SDL_AudioStream, Free> stream(SDL_NewAudioStream(
+        wave.form.format, wave.form.channels, wave.form.freq, form.format, form.channels, form.freq));
+    if (!stream || SDL_AudioStreamPut(stream.get(), wave.samples.get(), static_cast<int>(wave.bytes)) != 0) return {};
+    SDL_AudioStreamFlush(stream.get());
+    std::vector<std::uint8_t> sound(static_cast<std::size_t>(SDL_AudioStreamAvailable(stream.get())));
+    const int got = SDL_AudioStreamGet(stream.get(), sound.data(), static_cast<int>(sound.size()));
+    sound.resize(static_cast<std::size_t>(std::max(0, got)));
     return sound;
 }
 
@@ -41,7 +50,7 @@ std::vector<std::uint8_t> Converted(std::span<const std::byte> wave, const SDL_A
 void SdlSound::Play(std::span<const std::byte> wave) {
     Release();
     if (!device.Open()) return;
-    std::vector<std::uint8_t> next = Converted(wave, device.Form());
+    std::vector<std::uint8_t> next = Converted(ReadWave(wave), device.Form());
     const std::lock_guard lock(device);
     sound = std::move(next);
 }
@@ -62,6 +71,13 @@ void SdlSound::MixInto(std::span<std::uint8_t> samples) {
     SDL_MixAudioFormat(samples.data(), sound.data() + place, device.Form().format, static_cast<std::uint32_t>(bytes),
                        SDL_MIX_MAXVOLUME);
     place += bytes;
+}
+
+std::chrono::nanoseconds WaveLength(std::span<const std::byte> wave) {
+    const WaveSamples found = ReadWave(wave);
+    if (!found.samples || found.form.freq <= 0) return {};
+    const std::int64_t frames = found.bytes / (SDL_AUDIO_BITSIZE(found.form.format) / 8U * found.form.channels);
+    return std::chrono::nanoseconds(frames * 1'000'000'000 / found.form.freq);
 }
 
 }  // namespace prismfall

@@ -2,6 +2,7 @@
 // alone.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -28,5 +29,8 @@ class SdlSound {
     std::vector<std::uint8_t> sound;  // in the device's form; locked by the device, as `place` is
     std::size_t place = 0;
 };
+
+// How long a complete WAVE file sounds; nothing for bytes that are none.
+std::chrono::nanoseconds WaveLength(std::span<const std::byte> wave);
 
 }  // namespace prismfall

@@ -1,14 +1,21 @@
 // What the sound device is given to play: music to the sample, over loops, pauses and its end, from files good and bad,
 // and the one voice of the sounds. The device is SDL's dummy, and the test takes the samples in its place.
 #include <gtest/gtest.h>
+#include <mpg123.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <random>
+#include <thread>
 
 #include "audio/SoundResources.h"
+#include "backends/sdl/sound/SdlAudio.h"
 #include "backends/sdl/sound/SdlMusic.h"
 #include "backends/sdl/sound/SdlSound.h"
 
@@ -123,12 +130,13 @@ TEST_F(PlayingTest, AFileThatIsNoMusicIsToldAndSilent) {
     std::ofstream(folder / "text.mp3") << "These are words, and words are no music.\n";
     for (const char* name : {"missing.mp3", "empty.mp3", "text.mp3", ""}) {
         const std::string path = (folder / name).string();
-        EXPECT_NE(music.Open(path).find(path), std::string::npos) << path;
+        EXPECT_NE(music.Open(path).find(path + ": "), std::string::npos) << path;
         music.PlayLooping();
         music.Resume();
         EXPECT_FALSE(music.IsSounding());
         EXPECT_TRUE(IsSilence(Take(music, kChunk)));
     }
+    EXPECT_NE(music.Open("missing.mp3").find(mpg123_plain_strerror(MPG123_BAD_FILE)), std::string::npos);
     EXPECT_EQ(music.Open(kTrack), "") << "a good file after bad ones";
 }
 
@@ -147,6 +155,92 @@ TEST_F(PlayingTest, ADamagedFilePlaysAsFarAsItCan) {
     EXPECT_FALSE(music.IsSounding());
 }
 
+// Frames of silence, 128 kbit/s.
+std::string Frames(int count, int rate, int rateBits, bool isMono) {
+    std::string frame(static_cast<std::size_t>(144 * 128000 / rate), '\0');
+    frame.replace(0, 4,
+                  {'\xFF', '\xFB', static_cast<char>(0x90 | rateBits << 2), static_cast<char>(isMono ? 0xC0 : 0)});
+    std::string frames;
+    while (count-- > 0) frames += frame;
+    return frames;
+}
+
+TEST_F(PlayingTest, AFileThatChangesItsRateAndChannelsKeepsItsLength) {
+    const fs::path path = fs::path(testing::TempDir()) / "changing.mp3";
+    std::ofstream(path, std::ios::binary) << Frames(50, 44100, 0, false) + Frames(100, 32000, 2, true) +
+                                                 Frames(50, 48000, 1, false) + Frames(100, 32000, 2, false);
+    ASSERT_EQ(music.Open(path), "");
+    music.Resume();
+    double length = 0;  // in samples of 44.1 kHz
+    for (; music.IsSounding(); length += kChunk / 2) Take(music, kChunk);
+    EXPECT_NEAR(length, 1152 * (50 + 200 * 44.1 / 32 + 50 * 44.1 / 48), kChunk);
+}
+
+Samples ReadSamples(const fs::path& file) {
+    Samples samples(fs::file_size(file) / 2);
+    std::ifstream(file, std::ios::binary)
+        .read(reinterpret_cast<char*>(samples.data()), static_cast<std::streamsize>(samples.size() * 2));
+    return samples;
+}
+
+bool WaitFor(const std::function<bool()>& holds) {
+    for (int i = 0; i < 1000 && !holds(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return holds();
+}
+
+// SDL's disk driver stands for devices that can be unplugged: its device goes when the file may not grow any more.
+TEST_F(PlayingTest, MusicWaitsForADeviceAndGoesOnWhereItFellSilentInTheFormOfTheNext) {
+    const Samples track = WholeTrack();
+    const fs::path folder = fs::path(testing::TempDir()) / ("devices-" + std::to_string(getpid()));
+    fs::create_directories(folder);
+    const fs::path first = folder / "first", second = folder / "second";
+    const auto size = [](const fs::path& file) { return fs::exists(file) ? fs::file_size(file) : 0; };
+    device.Close();
+    SDL_InitSubSystem(SDL_INIT_EVENTS);
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit room{};
+    getrlimit(RLIMIT_FSIZE, &room);
+    const rlimit little{1'000'000, room.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    setenv("SDL_DISKAUDIODELAY", "2", 1);
+    setenv("SDL_DISKAUDIOFILE", first.c_str(), 1);
+
+    SdlAudio audio;
+    setenv("SDL_AUDIODRIVER", "bogus", 1);
+    EXPECT_EQ(audio.MusicOpen(kTrack), 0);
+    audio.DoWithMusic([](SdlMusic& player) { player.PlayLooping(); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    setenv("SDL_AUDIODRIVER", "disk", 1);
+    ASSERT_TRUE(WaitFor([&] { return size(first) > 300'000; })) << "a device has come";
+    audio.DeviceLost();  // but that was not this one
+    ASSERT_TRUE(WaitFor([] { return SDL_HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE; }));
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    setenv("SDL_DISKAUDIOFILE", second.c_str(), 1);
+    setenv("SDL_AUDIO_FREQUENCY", "88200", 1);
+    setenv("SDL_AUDIO_CHANNELS", "1", 1);
+    audio.DeviceLost();
+    ASSERT_TRUE(WaitFor([&] { return size(second) > 100'000; }));
+    audio.Finish();
+    setrlimit(RLIMIT_FSIZE, &room);
+    unsetenv("SDL_AUDIO_FREQUENCY");
+    unsetenv("SDL_AUDIO_CHANNELS");
+
+    const Samples before = ReadSamples(first), after = ReadSamples(second);
+    fs::remove_all(folder);
+    EXPECT_TRUE(std::equal(before.begin(), before.end(), track.begin()));
+    const auto difference = [&](std::size_t frame) {
+        double sum = 0;
+        for (std::size_t i = 1000; i < 3000; ++i)
+            sum += std::abs((track[2 * (frame + i)] + track[2 * (frame + i) + 1]) / 2 - after[2 * i]);
+        return sum;
+    };
+    std::size_t place = before.size() / 2 - 10'000;
+    for (std::size_t frame = place; frame < before.size() / 2 + 30'000; ++frame)
+        if (difference(frame) < difference(place)) place = frame;
+    EXPECT_NEAR(static_cast<double>(place), static_cast<double>(before.size() / 2), 3 * 2048);
+    EXPECT_LT(difference(place), difference(place + 20) / 4) << "it is that place of the track, at its pitch";
+}
+
 TEST_F(PlayingTest, ANewSoundCutsOffTheOld) {
     const std::span<const std::byte> first = LoadSoundResource(102), second = LoadSoundResource(103);
     sound.Play(second);
@@ -160,6 +254,21 @@ TEST_F(PlayingTest, ANewSoundCutsOffTheOld) {
     EXPECT_FALSE(sound.IsSounding());
     sound.Play(std::as_bytes(std::span("no sound")));
     EXPECT_FALSE(sound.IsSounding());
+}
+
+TEST(WaveLength, GoesByTheSamplesAndNoFurtherThanTheBytes) {
+    using namespace std::string_literals;
+    const auto length = [](const std::string& chunks) {
+        const std::string file = "RIFF\xD8\7\0\0WAVE"s + chunks;
+        return WaveLength(std::as_bytes(std::span(file))).count();
+    };
+    const std::string format = "fmt \x10\0\0\0\1\0\2\0\xE8\3\0\0\xA0\x0F\0\0\4\0\x10\0"s;  // 4000 bytes a second
+    const std::string samples = "\xD0\7\0\0"s + std::string(2000, 'x');
+    EXPECT_EQ(length(format + "data" + samples), 500'000'000);
+    EXPECT_EQ(length("LIST\3\0\0\0odd\0"s + format + "data" + samples), 500'000'000);
+    EXPECT_EQ(length(format + "data\xF0\xFF\xFF\xFF" + samples.substr(4)), 500'000'000);
+    for (const std::string& bad : {format, "data" + samples, "fmt "s, "fmt \xFF\xFF\xFF\xFF"s, ""s})
+        EXPECT_EQ(length(bad), 0) << bad;
 }
 
 }  // namespace
