@@ -198,7 +198,8 @@ bool OpenDesktop(std::string& failure) {
     // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
     // until the first picture stands. Wayland's keyboards would complain of the empty table.
     if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
-    // Before SDL sets a handler of its own: that one asks this one, and gives way to it when the connections are closed.
+    // Before SDL sets a handler of its own: that one asks this one, and gives way to it when the connections are
+    // closed.
     IgnoreLateWakeUpErrors();
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
         failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";

@@ -1,5 +1,4 @@
-// The settings store on disk: one readable INI file, read as a whole and replaced as a whole. What a setting means
-// belongs to the game.
+// The settings store on disk: one readable INI file, read as a whole and replaced as a whole.
 #pragma once
 
 #include <filesystem>

@@ -1,5 +1,5 @@
 // The sound device: opened when there is something to play, closed when nothing has played for a while, so that a
-// silent game is woken by nothing. What is heard is up to who fills it. Used on the audio thread alone.
+// silent game is woken by nothing. Used on the audio thread alone.
 #pragma once
 
 #include <SDL.h>
