@@ -19,7 +19,7 @@ std::string MusicFile::Open(const std::string& path) {
     int encoding = 0;
     if (mpg123_open(decoder.get(), path.c_str()) != MPG123_OK ||
         mpg123_getformat(decoder.get(), &samplesPerSecond, &channels, &encoding) != MPG123_OK) {
-        const std::string told = failure(mpg123_strerror(decoder.get()));
+        std::string told = failure(mpg123_strerror(decoder.get()));
         Close();
         return told;
     }
