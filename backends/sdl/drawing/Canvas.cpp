@@ -16,8 +16,8 @@ std::uint32_t Mix(std::uint32_t a, std::uint32_t b, std::uint32_t shareOfB) {
     return (odd & 0xFF00FF00) | ((even >> 8) & 0xFF00FF);
 }
 
-std::vector<Between> Positions(int from, int to) {
-    std::vector<Between> positions;
+std::vector<Neighbours> Positions(int from, int to) {
+    std::vector<Neighbours> positions;
     const float scale = static_cast<float>(to) / static_cast<float>(from);
     positions.reserve(static_cast<std::size_t>(to));
     for (int i = 0; i < to; ++i) positions.push_back(NeighboursAt(i, scale, from));
@@ -46,7 +46,7 @@ Image::Image(int imageWidth, int imageHeight)
       height(imageHeight),
       pixels(static_cast<std::size_t>(imageWidth) * static_cast<std::size_t>(imageHeight)) {}
 
-Between NeighboursAt(int place, float scale, int size) {
+Neighbours NeighboursAt(int place, float scale, int size) {
     const float exact =
         std::clamp((static_cast<float>(place) + 0.5F) / scale - 0.5F, 0.0F, static_cast<float>(size - 1));
     const int first = static_cast<int>(exact);
@@ -54,7 +54,7 @@ Between NeighboursAt(int place, float scale, int size) {
     return {first, std::min(first + 1, size - 1), share};
 }
 
-std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Between& column,
+std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Neighbours& column,
                       std::uint32_t shareOfLower) {
     return Mix(Mix(upper[column.first], upper[column.second], column.share),
                Mix(lower[column.first], lower[column.second], column.share), shareOfLower);
@@ -63,12 +63,12 @@ std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, co
 Image Scaled(const Image& image, int width, int height) {
     Image result(width, height);
     result.opaque = image.opaque;
-    const std::vector<Between> columns = Positions(image.width, width);
-    const std::vector<Between> rows = Positions(image.height, height);
+    const std::vector<Neighbours> columns = Positions(image.width, width);
+    const std::vector<Neighbours> rows = Positions(image.height, height);
     for (int y = 0; y < height; ++y) {
-        const Between& row = rows[static_cast<std::size_t>(y)];
+        const Neighbours& row = rows[static_cast<std::size_t>(y)];
         std::uint32_t* out = result.Row(y);
-        for (const Between& column : columns)
+        for (const Neighbours& column : columns)
             *out++ = MixFour(image.Row(row.first), image.Row(row.second), column, row.share);
     }
     return result;

@@ -31,16 +31,15 @@ struct Image {
     std::vector<std::uint32_t> pixels;
 };
 
-// The two pixels of a row or column between which a pixel of its scaled likeness lies, and the second one's share of
-// 256.
-struct Between {
+// The two pixels of a row or column that a pixel of the scaled picture lies between.
+struct Neighbours {
     int first = 0;
     int second = 0;
-    std::uint32_t share = 0;
+    std::uint32_t share = 0;  // of the second one, out of 256
 };
-Between NeighboursAt(int place, float scale, int size);
+Neighbours NeighboursAt(int place, float scale, int size);
 // A pixel smoothed from the four around it.
-std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Between& column,
+std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Neighbours& column,
                       std::uint32_t shareOfLower);
 
 // The picture in another size, smoothed.

@@ -25,12 +25,12 @@ void DrawSharpLayer(Canvas& canvas, const Surface& layer, const PixelBox& box, i
 
 void DrawSmoothLayer(Canvas& canvas, const Surface& layer, const PixelBox& box, float scale) {
     for (int y = box.top; y < box.bottom; ++y) {
-        const Between row = NeighboursAt(y, scale, Surface::kHeight);
+        const Neighbours row = NeighboursAt(y, scale, Surface::kHeight);
         const std::uint32_t* upper = layer.Row(row.first);
         const std::uint32_t* lower = layer.Row(row.second);
         std::uint32_t* to = canvas.Row(y);
         for (int x = box.left; x < box.right; ++x) {
-            const Between column = NeighboursAt(x, scale, Surface::kWidth);
+            const Neighbours column = NeighboursAt(x, scale, Surface::kWidth);
             to[x] = Blend(MixFour(upper, lower, column, row.share), to[x]);
         }
     }
