@@ -67,6 +67,22 @@ void DescribeSpots(std::ostream& out, TestGame& game, std::size_t picture) {
     }
 }
 
+// When the pictures of the tutorial come, by the height of the beam that is its clock, and where.
+void DescribeMoments(std::ostream& out, TestGame& game) {
+    VMain& main = game.Main();
+    game.Add("400,20 400,20 red #4; 300,300 324,324 red #4; 300,300 324,324 red #3");
+    for (CLine& clock = game.Beam(1); clock.YEnd < 586; ++clock.YEnd) {
+        main.TutorialStep = 0;
+        main.platform.StartTimer(Timer::LineExtender);
+        TriggerTutorial(main);
+        EXPECT_EQ(game.Machine().Timers().IsOn(Timer::LineExtender), main.TutorialStep == 0);
+        if (main.TutorialStep == 0) continue;
+        const Element& picture = main.PictTut.at(static_cast<std::size_t>(main.TutorialStep) - 1);
+        out << "moment " << clock.YEnd << " at " << picture.left << ',' << picture.top << ' ' << picture.name
+            << (picture.visible ? "\n" : " hidden\n");
+    }
+}
+
 TEST(Layout, StandsAsItShould) {
     std::ostringstream out;
     TestGame game;
@@ -84,6 +100,7 @@ TEST(Layout, StandsAsItShould) {
     ShowOptions(main);
     ShowHighScores(main);
     ShowPuzzleResult(main, true);
+    DescribeMoments(out, game);
     for (std::size_t picture = 0; picture < main.PictTut.size(); ++picture) DescribeSpots(out, game, picture);
     std::ifstream file(PRISMFALL_TESTS "/game/layout.expected");
     std::ofstream("layout.actual") << out.str();

@@ -1,6 +1,5 @@
 """A virtual desktop to play the real program on: a display in memory, a window manager, a mouse, and the pixels.
 
-What the game's screens look like and where things stand on them is in layout.py; what a test expects is in the tests.
 Everything started here is ended here, at the latest when the test program ends.
 """
 import atexit
@@ -77,25 +76,16 @@ class Pixels:
         words = self.words()
         return sum(words.count(colour) for colour in colours)
 
-    def different(self, other):
-        """How many pixels are not those of `other`."""
-        return sum(a != b for a, b in zip(self.words(), other.words()))
-
     def save(self, path):
         def chunk(kind, data):
             return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
-        colours = bytearray(self.width * self.height * 3)
-        for part in range(3):
-            colours[part::3] = self.data[2 - part :: 4]
-        row = self.width * 3
-        lines = b"".join(b"\0" + colours[y * row : (y + 1) * row] for y in range(self.height))
+        rows = [word.to_bytes(3, "big") for word in self.words()]
+        lines = b"".join(b"\0" + b"".join(rows[y * self.width : (y + 1) * self.width]) for y in range(self.height))
         header = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
-        path = pathlib.Path(path)
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_bytes(
-            b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(lines, 6)) + chunk(b"IEND", b"")
-        )
+        packed = chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(lines)) + chunk(b"IEND", b"")
+        pathlib.Path(path).parent.mkdir(parents=True, exist_ok=True)
+        pathlib.Path(path).write_bytes(b"\x89PNG\r\n\x1a\n" + packed)
 
 
 class Screen:
@@ -111,11 +101,8 @@ class Screen:
     def pixels(self, x, y, width, height):
         if x < 0 or y < 0 or x + width > self.width or y + height > self.height:
             raise Missing(f"pixels outside the display: {x}, {y}, {width} x {height}")
-        rows = []
-        for row in range(y, y + height):
-            begin = self.first + row * self.stride + x * 4
-            rows.append(self.memory[begin : begin + width * 4])
-        data = bytearray(b"".join(rows))
+        begins = [self.first + row * self.stride + x * 4 for row in range(y, y + height)]
+        data = bytearray(b"".join(self.memory[begin : begin + width * 4] for begin in begins))
         data[3::4] = bytes(width * height)
         return Pixels(width, height, bytes(data))
 
@@ -130,37 +117,25 @@ class Desktop:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="prismfall-desktop-"))
         self.processes = []
         ENDING.append(self)
+        own = {name: value for name, value in os.environ.items() if not name.startswith(("SDL_", "XDG_", "WAYLAND_"))}
+        # A desktop has a message bus. Without one SDL would search for a program that starts one, at every start.
+        own.update(HOME=str(self.folder), SDL_AUDIODRIVER="dummy", DBUS_SESSION_BUS_ADDRESS=f"unix:path={self.folder}/bus")
+        self.environment = own
         read, write = os.pipe()
-        self.start(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-fbdir", self.folder, "-nocursor"]
-            + ["-nolisten", "tcp", "-noreset"],
-            pass_fds=[write],
-        )
+        options = ["-screen", "0", f"{size}x24", "-fbdir", self.folder, "-nocursor", "-nolisten", "tcp", "-noreset"]
+        self.start(["Xvfb", "-displayfd", str(write), *options], pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as told:
-            number = told.readline().strip()
-        if not number:
-            raise Missing("the virtual display has not started")
-        self.environment = {
-            name: value
-            for name, value in os.environ.items()
-            if not name.startswith(("SDL_", "XDG_")) and name not in ("DISPLAY", "WAYLAND_DISPLAY")
-        }
-        self.environment.update(DISPLAY=f":{number}", HOME=str(self.folder), SDL_AUDIODRIVER="dummy")
-        # A desktop has a message bus. Without one SDL would search for a program that starts one, at every start.
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.folder}/bus"
+            self.environment["DISPLAY"] = ":" + (told.readline().strip() or "the virtual display has not started")
         self.screen = Screen(self.folder / "Xvfb_screen0")
         if manager:
             self.start(["openbox", "--sm-disable"])
             wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), 10, "openbox")
 
     def start(self, command, **options):
-        options.setdefault("stdout", subprocess.DEVNULL)
-        options.setdefault("stderr", subprocess.DEVNULL)
-        options.setdefault("env", getattr(self, "environment", None))
-        process = subprocess.Popen(command, preexec_fn=end_with_me, **options)
-        self.processes.append(process)
-        return process
+        options = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, "env": self.environment} | options
+        self.processes.append(subprocess.Popen(command, preexec_fn=end_with_me, **options))
+        return self.processes[-1]
 
     def settle(self):
         """Gives the window manager time to forget windows that have gone. It could take a new one for an old one, since
@@ -168,7 +143,7 @@ class Desktop:
         end = time.monotonic() + 1
         while "0x" in self.output("xprop", "-root", "_NET_CLIENT_LIST") and time.monotonic() < end:
             time.sleep(PAUSE)
-        time.sleep(0.2)
+        time.sleep(0.1)
 
     def stop(self):
         for process in reversed(self.processes):
@@ -179,8 +154,7 @@ class Desktop:
             ENDING.remove(self)
 
     def output(self, *command):
-        done = subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=20)
-        return done.stdout
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=20).stdout
 
     def mouse(self, *words):
         self.output("xdotool", *[str(word) for word in words])
@@ -208,10 +182,9 @@ class Window:
     def place(self):
         """Left, top, width and height of the inside on the display."""
         facts = self.facts()
-        names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
-        if names[0] not in facts:
+        if "Width" not in facts:
             raise Missing(f"window {self.number} is gone")
-        return tuple(int(facts[name]) for name in names)
+        return tuple(int(facts[n]) for n in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     def frame(self):
         """Widths of the frame: left, right, top, bottom. All 0 without one."""
@@ -239,8 +212,7 @@ class Window:
         self.desktop.mouse("windowfocus", "--sync", self.number, "key", name)
 
     def pixels(self, x, y, width, height):
-        left, top, _, _ = self.place()
-        return self.desktop.screen.pixels(left + x, top + y, width, height)
+        return self.viewer(x, y, width, height)()
 
     def viewer(self, x, y, width, height):
         """A routine that looks at one place quickly, for as long as the window is not moved."""
@@ -248,34 +220,4 @@ class Window:
         return lambda: self.desktop.screen.pixels(left + x, top + y, width, height)
 
     def use_close_box(self):
-        """What a window manager does when the close box is clicked, whatever it would hold back itself."""
-        send_client_message(self.desktop.environment["DISPLAY"], self.number, "WM_PROTOCOLS", "WM_DELETE_WINDOW")
-
-
-class ClientMessage(ctypes.Structure):
-    _fields_ = [
-        ("type", ctypes.c_int),
-        ("serial", ctypes.c_ulong),
-        ("send_event", ctypes.c_int),
-        ("display", ctypes.c_void_p),
-        ("window", ctypes.c_ulong),
-        ("message_type", ctypes.c_ulong),
-        ("format", ctypes.c_int),
-        ("data", ctypes.c_long * 5),
-        ("room", ctypes.c_byte * 128),  # an XEvent is larger than this one kind of it
-    ]
-
-
-def send_client_message(display_name, window, kind, what):
-    x = ctypes.CDLL("libX11.so.6")
-    x.XOpenDisplay.restype = ctypes.c_void_p
-    x.XInternAtom.restype = ctypes.c_ulong
-    x.XInternAtom.argtypes = [ctypes.c_void_p, ctypes.c_char_p, ctypes.c_int]
-    x.XSendEvent.argtypes = [ctypes.c_void_p, ctypes.c_ulong, ctypes.c_int, ctypes.c_long, ctypes.c_void_p]
-    x.XCloseDisplay.argtypes = [ctypes.c_void_p]
-    display = x.XOpenDisplay(display_name.encode())
-    message = ClientMessage(type=33, window=window, format=32)
-    message.message_type = x.XInternAtom(display, kind.encode(), 0)
-    message.data[0] = x.XInternAtom(display, what.encode(), 0)
-    x.XSendEvent(display, window, 0, 0, ctypes.byref(message))
-    x.XCloseDisplay(display)
+        self.desktop.output("wmctrl", "-i", "-c", hex(self.number))

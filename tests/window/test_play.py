@@ -1,0 +1,116 @@
+"""Games played with a real mouse: hover, hold and bend, speed up, pause, lose, the tutorial, a solution watched to its end."""
+import time
+
+import harness
+import layout
+from desktop import holds_for, wait_for
+from game import later_run
+
+ROOM = 100  # pixels to a wall, enough to measure and to bend
+END_SOUND = 1.01  # seconds
+
+
+class Arcade(harness.WindowTest):
+    def line(self, run):
+        """The way of the lowest beam, 1 or -1, and the line on which it runs, x - way * y. Far from the walls."""
+        left, _, width, _ = layout.PLAYFIELD
+        last = wait_for(run.lowest_head, 10, "a beam")
+        while True:
+            x, y = wait_for(lambda: run.lowest_head(last[1] + 4), 10, "a beam that grows")
+            far = left + ROOM < x < left + width - ROOM
+            if far and abs(x - last[0]) == y - last[1]:
+                way = 1 if x > last[0] else -1
+                return way, x - way * y
+            last = x, y
+
+    def test_played_by_hand(self):
+        run = self.start(self.settings(later_run(StartLevel="3")))
+        run.rest_mouse()
+        up = run.face("CommandArcade")
+        run.main.move(*layout.middle("CommandArcade"))
+        wait_for(lambda: run.face("CommandArcade") != up, 2, "the Down face")
+        run.press("CommandArcade")
+        wait_for(lambda: run.coloured(layout.ENTRY_ZONE) > 20, 5, "spots in the entry zone")
+        way, line = self.line(run)
+        run.main.click(*run.lowest_head())
+        self.assertEqual(self.line(run)[0], -way, "a bend")
+        way, line = self.line(run)
+        run.main.click(*run.lowest_head(), times=2, delay=250)
+        new_way, new_line = self.line(run)
+        self.assertEqual(new_way, way, "two bends")
+        self.assertTrue(4 <= abs(new_line - line) < 40, "a line that has shifted by what it ran in between")
+        pause = run.face("cmdPause")
+        run.press("cmdPause")
+        run.rest_mouse()
+        wait_for(run.stands_still, 3, "beams that stand still")
+        resume = run.face("cmdPause")
+        self.assertNotEqual(resume, pause)
+        time.sleep(0.5)  # so that it is no double click
+        run.press("cmdPause")
+        run.wait_for_motion()
+        run.rest_mouse()
+        run.desktop.mouse("windowminimize", "--sync", run.main.number)
+        wait_for(lambda: not run.main.is_visible(), 3, "the window to go")
+        run.desktop.mouse("windowmap", "--sync", run.main.number)
+        wait_for(lambda: run.main.is_visible() and run.face("cmdPause") == resume, 3, "the face of Resume")
+        self.assertTrue(run.stands_still(), "a game that was minimised waits")
+        run.main.key("Escape")
+        run.wait_for_main_menu()
+        self.end_in_menu(run)
+
+    def test_played_to_the_floor(self):
+        settings = self.settings(later_run(StartLevel="10"))
+        run = self.start(settings)
+        run.press("CommandArcade")
+        wait_for(lambda: run.lowest_head(583), 15, "a beam at the floor")
+        at_floor = time.monotonic()
+        field = run.main.viewer(*layout.BELOW_BLUE_LINE)
+        wait_for(lambda: field().count(layout.GREY) > 0, 5, "the grey sweep")
+        self.assertGreater(time.monotonic() - at_floor, END_SOUND - 0.3, "the sweep waits for the sound")
+        run.desktop.window(layout.SCORES)
+        wait_for(lambda: field().count(*layout.CORES) == 0, 2, "an end of all colours")
+        run.answer_dialog(layout.SCORES)
+        run.wait_for_main_menu()
+        self.end_in_menu(run)
+        self.assertEqual(sum(len(values) for values in settings.read().values()), 79)
+
+
+class Puzzles(harness.WindowTest):
+    def test_the_tutorial_leads_to_puzzle_2(self):
+        settings = self.settings({"General": {"Music": "False"}})
+        run = self.start(settings)
+        run.answer_dialog(layout.ABOUT)
+        wait_for(lambda: run.coloured(layout.PLAYFIELD) > 1000, 5, "the beams of puzzle 1")
+        run.press("CmdStart")
+        for spot, button in layout.tutorial():
+            wait_for(run.stands_still, 10, "a picture, behind which beams stand still")
+            run.main.click(*spot, button=button)
+            run.wait_for_motion()
+        run.answer_dialog(layout.RESULT, "CommandNext", 20)
+        wait_for(lambda: run.coloured(layout.PLAYFIELD) > 1000, 5, "the beams of puzzle 2")
+        for _ in range(2):
+            run.main.key("Escape")
+        run.wait_for_main_menu()
+        self.end_in_menu(run)
+        solved = [name for name, value in settings.read()["SolvedPuzzles"].items() if value == "True"]
+        self.assertEqual(solved, ["Puzzle1"])
+
+    def test_a_lost_puzzle_is_watched_being_solved(self):
+        run = self.start()
+        puzzle, head = layout.STRAIGHT_DOWN
+        run.start_puzzle(puzzle)
+        run.main.click(*head, button=3)
+        run.answer_dialog(layout.RESULT, "CommandTryAgain", 10)
+        self.assertTrue(run.stands_still(), "the second try waits")
+        run.press("CmdStart")
+        run.wait_for_motion()
+        run.main.click(*head, button=3)
+        run.answer_dialog(layout.RESULT, "CommandSolution", 10)
+        run.wait_for_motion()
+        run.main.click(*head, button=3)  # no business of the player's in a solution
+        run.answer_dialog(layout.RESULT, "Command1", 30)
+        self.assertTrue(holds_for(run.is_running, 0.2))
+
+
+if __name__ == "__main__":
+    harness.run()
