@@ -5,167 +5,128 @@
 
 #include <cstdlib>
 #include <random>
-#include <string>
 
 namespace prismfall {
 namespace {
 
-constexpr Colour kOrange = 0x1080F0;  // 0xBBGGRR
-constexpr std::uint32_t kOrangePixel = 0xFFF08010;
+constexpr int kWidth = Surface::kWidth;
+constexpr int kHeight = Surface::kHeight;
 
-struct Segment {
-    std::int64_t x1, y1, x2, y2;
-};
-
-std::ostream& operator<<(std::ostream& out, const Segment& s) {
-    return out << s.x1 << ',' << s.y1 << " to " << s.x2 << ',' << s.y2;
+// Whether a pixel lies within half of `width` of a segment, by squares of numbers that are small enough to be squared.
+bool IsCovered(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, std::int64_t width, std::int64_t x,
+               std::int64_t y) {
+    const auto isNear = [width](std::int64_t offX, std::int64_t offY) {
+        return std::abs(offX) < width && std::abs(offY) < width && 4 * (offX * offX + offY * offY) <= width * width;
+    };
+    if (isNear(x - x1, y - y1) || isNear(x - x2, y - y2)) return true;
+    const std::int64_t dx = x2 - x1, dy = y2 - y1;
+    const std::int64_t along = (x - x1) * dx + (y - y1) * dy, length2 = dx * dx + dy * dy;
+    const std::int64_t across = 2 * std::abs((x - x1) * dy - (y - y1) * dx);
+    return length2 != 0 && along >= 0 && along <= length2 && across <= 1'000'000 &&
+           across * across <= width * width * length2;
 }
 
-// 4 (x² + y²) <= width², by squares of numbers that are small enough to be squared.
-bool IsWithin(std::int64_t x, std::int64_t y, std::int64_t width) {
-    return std::abs(x) < width && std::abs(y) < width && 4 * (x * x + y * y) <= width * width;
-}
-
-bool IsCovered(const Segment& s, std::int64_t width, std::int64_t x, std::int64_t y) {
-    if (IsWithin(x - s.x1, y - s.y1, width) || IsWithin(x - s.x2, y - s.y2, width)) return true;
-    const std::int64_t dx = s.x2 - s.x1, dy = s.y2 - s.y1;
-    const std::int64_t along = (x - s.x1) * dx + (y - s.y1) * dy, length2 = dx * dx + dy * dy;
-    const std::int64_t across = 2 * std::abs((x - s.x1) * dy - (y - s.y1) * dx);
-    if (length2 == 0 || along < 0 || along > length2) return false;
-    if (across > 1'000'000) return false;  // the longest segment is shorter than 100,000
-    return across * across <= width * width * length2;
-}
-
-// Tells the first pixel that differs from the expectation; empty if none does.
-template <typename Expected>
-std::string Difference(const Surface& surface, Expected expected) {
-    for (int y = 0; y < Surface::kHeight; ++y)
-        for (int x = 0; x < Surface::kWidth; ++x)
-            if (surface.PixelAt(x, y) != expected(x, y))
-                return "at " + std::to_string(x) + ',' + std::to_string(y) + " stands " +
-                       std::to_string(surface.PixelAt(x, y));
-    return {};
-}
-
-std::string DifferenceFromLine(const Segment& s, int width) {
-    Surface surface;
-    surface.Line(static_cast<int>(s.x1), static_cast<int>(s.y1), static_cast<int>(s.x2), static_cast<int>(s.y2),
-                 kOrange, width);
-    return Difference(surface, [&](int x, int y) {
-        return width > 0 && IsCovered(s, width, x, y) ? kOrangePixel : Surface::kUnpainted;
-    });
-}
-
-TEST(Surface, LinesCoverWhatLiesWithinHalfTheirWidth) {
-    constexpr Segment kSegments[] = {{100, 100, 140, 140},
-                                     {140, 100, 100, 140},
-                                     {30, 300, 30, 300},
-                                     {50, 50, 90, 50},
-                                     {90, 60, 90, 20},
-                                     {100, 100, 161, 117},
-                                     {300, 200, 307, 290},
-                                     {0, 0, 801, 601},
-                                     {-3, -3, 5, 5},
-                                     {799, 599, 810, 610},
-                                     {-50, 300, 900, 310},
-                                     {-32768, -32768, 32767, 32767},
-                                     {32767, -32768, -32768, 32767},
-                                     {-32768, 300, 32767, 301},
-                                     {400, -32768, 401, 32767},
-                                     {-32768, 0, 32767, 601},
-                                     {32767, 32767, 32766, 32767},
-                                     {802, 602, 1300, 1100},
-                                     {-2, 10, -2, 500},
-                                     {803, 10, 803, 500},
-                                     {20, -2, 500, -2},
-                                     {20, 603, 500, 603}};
-    for (const Segment& segment : kSegments)
-        for (int width = 0; width <= 5; ++width)
-            EXPECT_EQ(DifferenceFromLine(segment, width), "") << segment << ", width " << width;
-}
-
-TEST(Surface, RandomLinesCoverWhatLiesWithinHalfTheirWidth) {
-    std::mt19937 random(7);
-    std::uniform_int_distribution<int> place(-60, 860), nearby(-12, 12), width(1, 9);
-    for (int i = 0; i < 60; ++i) {
-        const int x = place(random), y = place(random);
-        const bool isShort = i % 2 == 0;
-        const Segment segment{x, y, isShort ? x + nearby(random) : place(random),
-                              isShort ? y + nearby(random) : place(random)};
-        const int pen = width(random);
-        EXPECT_EQ(DifferenceFromLine(segment, pen), "") << segment << ", width " << pen;
+// A surface and what a plain model of it holds, painted alike.
+class SurfaceTest : public testing::Test {
+  protected:
+    void Set(PixelBox box, auto isMeant, std::uint32_t pixel) {
+        for (int y = std::max(box.top, 0); y < std::min(box.bottom, kHeight); ++y)
+            for (int x = std::max(box.left, 0); x < std::min(box.right, kWidth); ++x)
+                if (isMeant(x, y)) model[static_cast<std::size_t>(y * kWidth + x)] = pixel;
     }
-}
-
-TEST(Surface, PaintsOutlinesRestoresAndClears) {
-    Surface surface;
-    surface.Line(400, 300, 410, 300, 0xFFFFFF, 5);
-    surface.Box(395, 295, 415, 305, kOrange, 3);
-    const auto boxed = [](int x, int y) {
-        return IsCovered({395, 295, 415, 295}, 3, x, y) || IsCovered({395, 305, 415, 305}, 3, x, y) ||
-               IsCovered({395, 295, 395, 305}, 3, x, y) || IsCovered({415, 295, 415, 305}, 3, x, y);
-    };
-    const auto painted = [&](int x, int y) {
-        if (boxed(x, y)) return kOrangePixel;
-        return IsCovered({400, 300, 410, 300}, 5, x, y) ? 0xFFFFFFFFU : Surface::kUnpainted;
-    };
-    EXPECT_EQ(Difference(surface, painted), "");
-    surface.Restore(405, 297, 416, 303);
-    EXPECT_EQ(Difference(surface,
-                         [&](int x, int y) {
-                             const bool isRestored = x >= 405 && x < 416 && y >= 297 && y < 303;
-                             return isRestored ? Surface::kUnpainted : painted(x, y);
-                         }),
-              "");
-    surface.Restore(-100, -100, 32767, 32767);
-    EXPECT_EQ(Difference(surface, [](int, int) { return Surface::kUnpainted; }), "");
-    surface.Line(0, 0, 801, 601, kOrange, 5);
-    surface.Clear();
-    EXPECT_EQ(Difference(surface, [](int, int) { return Surface::kUnpainted; }), "");
-}
-
-void PaintSomething(Surface& surface, std::mt19937& random) {
-    std::uniform_int_distribution<int> place(-40, 840), nearby(0, 60), width(1, 5), choice(0, 99);
-    const int x = place(random), y = place(random), x2 = x + nearby(random), y2 = y + nearby(random);
-    const int what = choice(random);
-    if (what == 0) return surface.Clear();
-    if (what < 10) return surface.Restore(x, y, x2, y2);
-    if (what < 20) return surface.Box(x, y, x2, y2, static_cast<Colour>(x & 255), width(random));
-    surface.Line(x, y, what < 60 ? place(random) : x2, what < 60 ? place(random) : y2, kOrange, width(random));
-}
-
-TEST(Surface, DamageCoversEveryChangedPixelOnce) {
-    std::mt19937 random(11);
-    Surface surface;
-    std::vector<PixelBox> boxes;
-    for (const int operations : {1, 1, 1, 1, 5, 5, 5, 30, 30, 900}) {
-        const Surface before = surface;
-        for (int i = 0; i < operations; ++i) PaintSomething(surface, random);
+    void ModelLine(int x1, int y1, int x2, int y2, int width) {
+        if (width <= 0) return;
+        Set(
+            {std::min(x1, x2) - width, std::min(y1, y2) - width, std::max(x1, x2) + width, std::max(y1, y2) + width},
+            [&](int x, int y) { return IsCovered(x1, y1, x2, y2, width, x, y); }, 0xFF000000U | rgb);
+    }
+    Colour Bgr() const { return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16; }
+    void Line(int x1, int y1, int x2, int y2, int width) {
+        rgb = (rgb * 5 + 0x123457) & 0xFFFFFF;
+        surface.Line(x1, y1, x2, y2, Bgr(), width);
+        ModelLine(x1, y1, x2, y2, width);
+    }
+    void Box(int x1, int y1, int x2, int y2, int width) {
+        surface.Box(x1, y1, x2, y2, Bgr(), width);
+        for (const int y : {y1, y2}) ModelLine(x1, y, x2, y, width);
+        for (const int x : {x1, x2}) ModelLine(x, y1, x, y2, width);
+    }
+    void Restore(PixelBox box) {
+        surface.Restore(box.left, box.top, box.right, box.bottom);
+        Set(
+            box, [](int, int) { return true; }, Surface::kUnpainted);
+    }
+    void Clear() {
+        surface.Clear();
+        model.assign(model.size(), Surface::kUnpainted);
+    }
+    // Also that the damage boxes lie on the surface and hold all that has changed since the last call.
+    void Check(const std::string& after) {
+        std::vector<PixelBox> boxes;
         surface.TakeDamage(boxes);
-        std::vector<bool> isDamaged(static_cast<std::size_t>(Surface::kWidth * Surface::kHeight));
+        std::vector<bool> isDamaged(model.size());
         for (const PixelBox& box : boxes) {
-            ASSERT_TRUE(box.left >= 0 && box.top >= 0 && box.right <= Surface::kWidth &&
-                        box.bottom <= Surface::kHeight);
+            ASSERT_TRUE(box.left >= 0 && box.top >= 0 && box.right <= kWidth && box.bottom <= kHeight);
             for (int y = box.top; y < box.bottom; ++y)
-                for (int x = box.left; x < box.right; ++x)
-                    isDamaged[static_cast<std::size_t>(y * Surface::kWidth + x)] = true;
+                std::fill_n(isDamaged.begin() + y * kWidth + box.left, box.right - box.left, true);
         }
-        EXPECT_EQ(Difference(surface,
-                             [&](int x, int y) {
-                                 const bool mayDiffer = isDamaged[static_cast<std::size_t>(y * Surface::kWidth + x)];
-                                 return mayDiffer ? surface.PixelAt(x, y) : before.PixelAt(x, y);
-                             }),
-                  "")
-            << operations << " operations";
+        for (int i = 0; i < kWidth * kHeight; ++i) {
+            const auto at = static_cast<std::size_t>(i);
+            ASSERT_EQ(surface.PixelAt(i % kWidth, i / kWidth), model[at]) << i % kWidth << ',' << i / kWidth << after;
+            ASSERT_TRUE(isDamaged[at] || model[at] == last[at]) << i % kWidth << ',' << i / kWidth << after;
+        }
+        last = model;
         surface.TakeDamage(boxes);
         EXPECT_TRUE(boxes.empty()) << "damage is told once";
     }
+
+    Surface surface;
+    std::vector<std::uint32_t> model = std::vector<std::uint32_t>(static_cast<std::size_t>(kWidth * kHeight)),
+                               last = model;
+    std::uint32_t rgb = 0;
+};
+
+TEST_F(SurfaceTest, PaintsThinAndThickAnywhere) {
+    constexpr int kEnds[] = {100,   100,    140,    140,   140,    100, 100,   140,  30,     300,    30,    300,
+                             50,    50,     90,     50,    90,     60,  90,    20,   100,    100,    161,   117,
+                             300,   200,    307,    290,   0,      0,   801,   601,  -3,     -3,     5,     5,
+                             799,   599,    810,    610,   -50,    300, 900,   310,  -32768, -32768, 32767, 32767,
+                             32767, -32768, -32768, 32767, -32768, 300, 32767, 301,  400,    -32768, 401,   32767,
+                             32767, 32767,  32766,  32767, 802,    602, 1300,  1100, -2,     10,     -2,    500,
+                             803,   10,     803,    500,   20,     -2,  500,   -2,   20,     603,    500,   603};
+    for (std::size_t i = 0; i < std::size(kEnds); i += 4) {
+        for (int width = 5; width >= 0; --width) Line(kEnds[i], kEnds[i + 1], kEnds[i + 2], kEnds[i + 3], width);
+        Check(" after segment " + std::to_string(i / 4));
+    }
 }
 
-TEST(Surface, DamageOfALongDiagonalStaysNearIt) {
-    Surface surface;
+TEST_F(SurfaceTest, PaintsAndRestoresAtRandom) {
+    std::mt19937 random(7);
+    const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    for (const int operations : {1, 1, 1, 1, 1, 5, 5, 5, 30, 30, 600}) {
+        for (int i = 0; i < operations; ++i) {
+            const int x = below(880) - 40, y = below(680) - 40, x2 = x + below(60) - 10, y2 = y + below(60) - 10;
+            const int what = below(100), width = 1 + below(7);
+            if (what == 0)
+                Clear();
+            else if (what < 10)
+                Restore({x, y, x2, y2});
+            else if (what < 20)
+                Box(x, y, x2, y2, width);
+            else if (what < 30)
+                Line(x, y, below(880) - 40, below(680) - 40, width);
+            else
+                Line(x, y, x2, y2, width);
+        }
+        Check(" after " + std::to_string(operations) + " at random");
+    }
+    Restore({-100, -100, 32767, 32767});
+    Check(" after all of it was restored");
+}
+
+TEST_F(SurfaceTest, DamageOfALongDiagonalStaysNearIt) {
     std::vector<PixelBox> boxes;
-    surface.Line(20, 20, 580, 580, kOrange, 5);
+    surface.Line(20, 20, 580, 580, 0, 5);
     surface.TakeDamage(boxes);
     int area = 0;
     for (const PixelBox& box : boxes) area += (box.right - box.left) * (box.bottom - box.top);

@@ -132,14 +132,18 @@ class Game:
                 return left + at % width, top + at // width
         return None
 
+    @staticmethod
+    def wait_for_rest(look):
+        """Until what is seen has stopped changing."""
+        wait_for(lambda: (lambda before: holds_for(lambda: look() == before, 0.1))(look()), 5, "a picture at rest")
+
     # Dialogs.
 
     def open_dialog(self, button, title):
         """Opens a dialog and waits until it is drawn."""
         self.press(button)
         dialog = self.desktop.window(title)
-        look = dialog.viewer(0, 0, *layout.SIZES[title])
-        wait_for(lambda: look().count(0) < len(look().words()) // 2, 5, f"the dialog {title!r} drawn")
+        self.wait_for_rest(dialog.viewer(0, 0, *layout.SIZES[title]))
         return dialog
 
     def wait_for_close(self, title):
