@@ -49,7 +49,7 @@ void ShowEnd(VMain& main) {
 }  // namespace
 
 void EndGame(VMain& main) {
-    main.GameEnding = true;
+    main.window.takesInput = false;
     StopGameTimers(main);
     SaveScore(main);
     StopMusic(main);
@@ -58,7 +58,7 @@ void EndGame(VMain& main) {
     main.GameRunning = false;
     GameOverSweep(main);
     ShowEnd(main);
-    main.GameEnding = false;
+    main.window.takesInput = true;
 }
 
 void GameOverSweep(VMain& main) {

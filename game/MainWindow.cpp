@@ -44,14 +44,6 @@ void PressElementOfMain(VMain& main, Element& element, MouseButton button, float
     PictTut_MouseDown(main, static_cast<std::size_t>(&element - main.PictTut.data()), button, x, y);
 }
 
-// While the steps of a game's end run, buttons, playfield and keys do nothing; the close box works at once.
-template <typename Handler>
-auto UnlessEnding(VMain& main, Handler handler) {
-    return [&main, handler](auto&&... arguments) {
-        if (!main.GameEnding) handler(main, arguments...);
-    };
-}
-
 void Connect(VMain& main) {
     WindowHandlers& on = main.window.on;
     on.activate = [&main] { Form_Activate(main); };
@@ -60,11 +52,13 @@ void Connect(VMain& main) {
     on.unload = [&main] { Form_Unload(main); };
     on.mouseMove = [&main](float x, float) { Form_MouseMove(main, x); };
     on.elementMove = Button_MouseMove;
-    on.mouseDown = UnlessEnding(main, Form_MouseDown);
-    on.doubleClick = UnlessEnding(main, Form_DblClick);
-    on.keyDown = UnlessEnding(main, Form_KeyDown);
-    on.elementDown = UnlessEnding(main, PressElementOfMain);
-    on.elementClick = UnlessEnding(main, Button_Click);
+    on.mouseDown = [&main](MouseButton button, float x, float y) { Form_MouseDown(main, button, x, y); };
+    on.doubleClick = [&main] { Form_DblClick(main); };
+    on.keyDown = [&main](std::int16_t code) { Form_KeyDown(main, code); };
+    on.elementDown = [&main](Element& element, MouseButton button, float x, float y) {
+        PressElementOfMain(main, element, button, x, y);
+    };
+    on.elementClick = [&main](Element& element) { Button_Click(main, element); };
     main.platform.SetTickHandler([&main](Timer timer) { TickTimer(main, timer); });
 }
 

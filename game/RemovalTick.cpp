@@ -12,19 +12,25 @@ namespace {
 // An entry that is removed moves the following ones up; each entry that stood at the start gets its turn. A beam that
 // stands twice loses two steps and is painted out once more after it has gone.
 void ThinDyingLines(VMain& main) {
-    std::erase_if(main.DyingLines, [&main](CLine* beam) {
-        DeleteLine(main, *beam, NextThickness(*beam), false);
-        return beam->Thicknes <= 0;
-    });
+    for (auto entry = main.DyingLines.begin(); entry != main.DyingLines.end();) {
+        CLine& beam = **entry;
+        DeleteLine(main, beam, NextThickness(beam), false);
+        entry = beam.Thicknes <= 0 ? main.DyingLines.erase(entry) : entry + 1;
+    }
 }
 
 bool RemoveGoneLines(VMain& main) {
-    const std::size_t removed = std::erase_if(main.Lines, [](const CLine* beam) {
-        if (beam->Thicknes > 0) return false;
-        for (CLine* stopped : beam->StoppingLines) stopped->RunMode = kGrowing;
-        return true;
-    });
-    return removed > 0;
+    const std::size_t before = main.Lines.size();
+    for (auto entry = main.Lines.begin(); entry != main.Lines.end();) {
+        const CLine& beam = **entry;
+        if (beam.Thicknes > 0) {
+            ++entry;
+            continue;
+        }
+        for (CLine* stopped : beam.StoppingLines) stopped->RunMode = kGrowing;
+        entry = main.Lines.erase(entry);
+    }
+    return main.Lines.size() < before;
 }
 
 void EndSolvedPuzzle(VMain& main) {

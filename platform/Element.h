@@ -19,9 +19,9 @@ enum class ElementKind {
     Picture,       // shows `picture`
     Button,        // shows `picture`; sounds at a press and has a click
     PressPicture,  // shows `picture`; takes presses with their place, has no click
-    Label,         // shows `text`
-    RadioButton,   // a round mark when `checked`, then `text`; has a click
-    CheckBox,      // a square mark when `checked`, then `text`; has a click
+    Label,         // shows `text`; not there for the mouse, which meets what lies beneath
+    RadioButton,   // a round mark when `checked`, then `text`; has a click, takes fast presses
+    CheckBox,      // a square mark when `checked`, then `text`; has a click, takes fast presses
     GroupFrame,    // a frame with `text` in its upper edge
     Outline,       // a rectangle of one pixel, without a fill
 };
@@ -46,6 +46,7 @@ struct Element {
     int height = 0;
     bool visible = true;
     bool enabled = true;                // a disabled element is not there for the mouse
+    bool fastPresses = false;           // the second press of a double click is a press as well
     std::string_view picture = {};      // name of the picture it shows, empty for none
     std::string_view spoken = {};       // what a screen reader says of it where no text stands, empty for decoration
     std::string text = {};              // starts at the left and top edge; what does not fit is cut off
@@ -66,6 +67,11 @@ inline void ShowNumber(Element& label, int number) { label.text = std::to_string
 
 inline bool IsShown(const Element& element) {
     return element.visible && (element.panel == nullptr || element.panel->visible);
+}
+
+// Labels, and what is hidden or disabled, are not there for the mouse.
+inline bool IsThereForMouse(const Element& element) {
+    return IsShown(element) && element.enabled && element.kind != ElementKind::Label;
 }
 
 }  // namespace prismfall

@@ -74,7 +74,8 @@ class Platform {
     virtual void Show(Window& window) = 0;
     virtual void Hide(Window& window) = 0;
     // Shows a dialog that alone gets the input, runs its `activate`, and returns when it is hidden or closed by its
-    // close box; timers go on meanwhile. True if it was hidden, false if it was closed.
+    // close box; timers go on meanwhile. True if it was hidden, false if it was closed. True at once for a dialog that
+    // stands already.
     virtual bool ShowModally(Window& dialog) = 0;
     // The size with the desktop's frame, the size within it, and the place of the frame's corner on the desktop.
     // A dialog that is not shown yet answers with the frame that it is expected to have.
@@ -83,7 +84,7 @@ class Platform {
     virtual Place Position(const Window& window) = 0;
     virtual void SetOuterSize(Window& window, Extent size) = 0;
     virtual void SetPosition(Window& window, Place place) = 0;
-    // An error box with an OK button; returns when the player has dismissed it.
+    // An error box with an OK button; returns when the player has dismissed it. No timer ticks while it stands.
     virtual void ShowMessageBox(std::string_view text) = 0;
     // Ends the program at once. It may return where a program cannot end its own process, as in a browser; no handler
     // is called after that, and the caller has to return as well.
@@ -92,6 +93,9 @@ class Platform {
     // --- Timers: repeating, each calling the one tick handler with its name.
 
     virtual void SetTickHandler(std::function<void(Timer)> handler) = 0;
+    // "From now" is from the moment of the handler that is running: what it starts together falls due together.
+    // platform/TimerWheel.h tells which moment that is, and what becomes of ticks that are late.
+
     // Starting a running timer changes nothing; a stopped one is due one interval from now.
     virtual void StartTimer(Timer timer) = 0;
     virtual void StopTimer(Timer timer) = 0;
@@ -101,9 +105,10 @@ class Platform {
 
     // --- Time and chance.
 
-    // Lets pending events run: what has changed is painted, due timers tick, input is handled.
+    // Lets pending events run: what has changed is painted, due timers tick, and from the second call in a handler on
+    // input is handled.
     virtual void LetEventsRun() = 0;
-    // Milliseconds from some fixed moment; never runs backwards.
+    // Milliseconds of the machine's clock from some fixed moment; never runs backwards.
     virtual std::int64_t Clock() = 0;
     // Uniform from 0 up to but not including 1.
     virtual double Random() = 0;

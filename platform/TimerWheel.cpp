@@ -1,51 +1,103 @@
-// The timers' rhythm. A timer's phase is fixed by its start: however late a tick is, the next one is due a whole number
-// of intervals after the start.
 #include "platform/TimerWheel.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace prismfall {
 
-void TimerWheel::Start(Timer timer, Nanoseconds now) {
+namespace {
+
+constexpr int kTicksATurn = 64;  // far more than six timers need to make up for lateness below their intervals
+
+}  // namespace
+
+void TimerWheel::Start(Timer timer) {
     State& state = Of(timer);
-    if (state.running) return;
-    state.running = true;
-    state.due = now + state.interval;
+    if (state.isOn) return;
+    state.isOn = true;
+    state.due = Moment() + state.interval;
 }
 
-void TimerWheel::Stop(Timer timer) { Of(timer).running = false; }
-
-void TimerWheel::SetInterval(Timer timer, int milliseconds, Nanoseconds now) {
+void TimerWheel::SetInterval(Timer timer, int milliseconds) {
     State& state = Of(timer);
     const Nanoseconds interval = std::chrono::milliseconds(milliseconds);
     if (interval == state.interval) return;
     state.interval = interval;
-    state.due = now + interval;
+    state.due = Moment() + interval;
 }
 
-std::optional<std::size_t> TimerWheel::First() const {
-    std::optional<std::size_t> first;
-    for (std::size_t i = 0; i < states.size(); ++i) {
-        if (!states[i].MayTick()) continue;
-        if (!first || states[i].due < states[*first].due) first = i;
-    }
-    return first;
+void TimerWheel::StopAll() {
+    for (State& state : states) state.isOn = false;
+}
+
+int TimerWheel::Interval(Timer timer) const {
+    const Nanoseconds interval = states[static_cast<std::size_t>(timer)].interval;
+    return static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(interval).count());
+}
+
+std::optional<Timer> TimerWheel::First() const {
+    const State* first = nullptr;
+    for (const State& state : states)
+        if (state.MayTick() && (first == nullptr || state.due < first->due)) first = &state;
+    if (first == nullptr) return std::nullopt;
+    return static_cast<Timer>(first - states.data());
 }
 
 std::optional<Nanoseconds> TimerWheel::NextDue() const {
-    const std::optional<std::size_t> first = First();
-    if (!first) return std::nullopt;
-    return states[*first].due;
+    const std::optional<Timer> first = First();
+    if (!first || time.StandsStill()) return std::nullopt;
+    return states[static_cast<std::size_t>(*first)].due;
 }
 
-std::optional<Timer> TimerWheel::TakeDue(Nanoseconds now) {
-    const std::optional<std::size_t> first = First();
-    if (!first || states[*first].due > now) return std::nullopt;
-    State& state = states[*first];
-    const auto passed = (now - state.due) / state.interval;
-    state.due += state.interval * (passed + 1);
-    state.ticking = true;
-    return static_cast<Timer>(*first);
+void TimerWheel::Look() {
+    lastLook = time.Now();
+    if (time.StandsStill()) return;
+    const bool isStalled = std::ranges::any_of(
+        states, [this](const State& state) { return state.MayTick() && lastLook - state.due >= state.interval; });
+    if (isStalled) StallUntil(*NextDue());
 }
 
-void TimerWheel::Finish(Timer timer) { Of(timer).ticking = false; }
+void TimerWheel::StallUntil(Nanoseconds moment) {
+    time.Stall(lastLook - moment);
+    lastLook = moment;
+}
+
+bool TimerWheel::TickDue() { return TickWithin(std::nullopt); }
+
+// Without a limit, all that is due by game time.
+bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
+    for (int ticks = 0;; ++ticks) {
+        Look();
+        const std::optional<Nanoseconds> due = NextDue();
+        if (!due || *due > limit.value_or(lastLook)) return ticks > 0;
+        if (ticks == kTicksATurn) {
+            StallUntil(*due - Nanoseconds(1));  // the next turn begins with it
+            return true;
+        }
+        Tick(*First(), *due);
+    }
+}
+
+void TimerWheel::RenewMoment() {
+    if (running) running = Handler{.moment = time.Now(), .hasLetEventsRun = true};
+}
+
+void TimerWheel::TickFirst() { Tick(*First(), time.Now()); }
+
+void TimerWheel::Tick(Timer timer, Nanoseconds moment) {
+    State& state = Of(timer);
+    state.due += state.interval;
+    CallHandler(timer, moment);
+}
+
+void TimerWheel::CallHandler(Timer timer, Nanoseconds moment) {
+    State& state = Of(timer);
+    const bool wasTicking = std::exchange(state.isTicking, true);
+    {
+        const Running handling(*this, moment);
+        if (tick) tick(timer);
+    }
+    state.isTicking = wasTicking;
+}
 
 }  // namespace prismfall

@@ -1,44 +1,124 @@
-// Keeps the six timers: which run, when each is due, and in which order they tick. Time is handed in from outside, so
-// it knows no clock; waiting and calling the tick handler belong to the loop.
+// The six timers on game time, and the moments of all handlers. A handler has one moment: that of a tick is the time at
+// which it was due, that of everything else is game time as it begins. What a handler starts or re-times counts from
+// its moment, so timers that are started together fall due together, however long the handler takes and however late it
+// is.
 #pragma once
 
 #include <array>
-#include <chrono>
+#include <functional>
 #include <optional>
 
+#include "platform/GameTime.h"
 #include "platform/Platform.h"
 
 namespace prismfall {
 
-using Nanoseconds = std::chrono::nanoseconds;
-
 class TimerWheel {
   public:
-    void Start(Timer timer, Nanoseconds now);
-    void Stop(Timer timer);
-    void SetInterval(Timer timer, int milliseconds, Nanoseconds now);
+    explicit TimerWheel(GameTime& gameTime) : time(gameTime) {}
+    TimerWheel(const TimerWheel&) = delete;
+    TimerWheel& operator=(const TimerWheel&) = delete;
 
-    // The earliest moment at which a timer is due that may tick, if there is one.
+    void SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
+
+    // The operations of Platform.h. Outside of all handlers they count from game time.
+    void Start(Timer timer);
+    void Stop(Timer timer) { Of(timer).isOn = false; }
+    void SetInterval(Timer timer, int milliseconds);
+    void StopAll();
+
+    bool IsOn(Timer timer) const { return states[static_cast<std::size_t>(timer)].isOn; }
+    int Interval(Timer timer) const;  // milliseconds
+    // The earliest game time at which a timer is due that may tick: one that runs, has an interval above 0, and whose
+    // handler is not running. Nothing if there is none, and while game time stands still.
     std::optional<Nanoseconds> NextDue() const;
-    // Takes the timer that is due first at `now`, if one is, and moves it on to its next due moment: its rhythm stays,
-    // what it has missed is skipped. It does not come again before Finish is called for it.
-    std::optional<Timer> TakeDue(Nanoseconds now);
-    void Finish(Timer timer);
+
+    // --- For a machine whose clock runs by itself.
+
+    // Lets all that is due tick, in the order of due times, at the same time in the order of Timer. Before each tick
+    // the clock is read once; if a timer that may tick is late by its interval or more, the lateness of the one that is
+    // due first becomes a stall. Where ticks take longer than their timers' intervals a turn ends after some of them.
+    // While game time stands still nothing ticks. Whether anything did.
+    bool TickDue();
+
+    // Runs the handler of an input, an activation or the like, after all that was due by then has ticked.
+    template <typename Call>
+    void Handle(Call handler) {
+        TickDue();
+        const Running handling(*this, lastLook);
+        handler();
+    }
+
+    // For a handler that lets events run. The first time only what is due within 1 ms of its moment ticks, and
+    // `takeInput` is not called; later all that is due ticks, then `takeInput` is called, which may Handle what there
+    // is and tells whether there was anything. Afterwards the handler's moment is game time. Whether anything was done.
+    template <typename TakeInput>
+    bool LetEventsRun(TakeInput takeInput) {
+        const bool isFirst = running && !running->hasLetEventsRun;
+        bool worked = isFirst ? TickWithin(running->moment + kFirstReach) : TickDue();
+        if (!isFirst && takeInput()) worked = true;
+        RenewMoment();
+        return worked;
+    }
+
+    // The running handler's moment is game time from now on: a dialog that it had opened has closed.
+    void RenewMoment();
+
+    // --- For a clock that is moved by hand and never late.
+
+    // Lets the timer that is due first tick, of which there must be one. The tick's moment is game time.
+    void TickFirst();
+    // Calls a timer's handler at game time, due or not; it counts as running, and its due time stays.
+    void Fire(Timer timer) { CallHandler(timer, time.Now()); }
 
   private:
+    static constexpr Nanoseconds kFirstReach = std::chrono::milliseconds(1);
+
     struct State {
-        bool running = false;
-        bool ticking = false;
+        bool isOn = false;
+        bool isTicking = false;
         Nanoseconds interval{0};
         Nanoseconds due{0};
 
-        bool MayTick() const { return running && !ticking && interval.count() > 0; }
+        bool MayTick() const { return isOn && !isTicking && interval.count() > 0; }
+    };
+
+    struct Handler {
+        Nanoseconds moment{0};
+        bool hasLetEventsRun = false;
+    };
+
+    // Makes a handler the running one. They nest where one lets events run or opens a dialog.
+    class Running {
+      public:
+        Running(TimerWheel& owner, Nanoseconds moment) : wheel(owner), outer(owner.running) {
+            wheel.running = Handler{moment};
+        }
+        ~Running() { wheel.running = outer; }
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+
+      private:
+        TimerWheel& wheel;
+        std::optional<Handler> outer;
     };
 
     State& Of(Timer timer) { return states[static_cast<std::size_t>(timer)]; }
-    std::optional<std::size_t> First() const;
+    Nanoseconds Moment() const { return running ? running->moment : time.Now(); }
+    std::optional<Timer> First() const;
+    // Reads the clock into lastLook, and leaves out a stall.
+    void Look();
+    // Makes what lies between `moment` and the last look a stall.
+    void StallUntil(Nanoseconds moment);
+    bool TickWithin(std::optional<Nanoseconds> limit);
+    void Tick(Timer timer, Nanoseconds moment);
+    void CallHandler(Timer timer, Nanoseconds moment);
 
+    GameTime& time;
     std::array<State, kTimerCount> states;
+    std::function<void(Timer)> tick;
+    std::optional<Handler> running;
+    Nanoseconds lastLook{0};
 };
 
 }  // namespace prismfall

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <string_view>
 #include <vector>
@@ -42,6 +44,7 @@ struct Window {
     bool isDialog = false;        // a small frame without minimise and maximise boxes
     bool hasIcon = false;
     bool visible = false;            // set and cleared by the backend's Show and Hide
+    bool takesInput = true;          // without it the close box alone works
     std::vector<Element*> elements;  // stacking order, later ones on top
     WindowHandlers on;
 
@@ -62,10 +65,14 @@ struct Window {
         return nullptr;
     }
 
-    // The element of that name, which must exist.
-    Element& operator[](std::string_view elementName) { return *Find(elementName); }
+    // The element of that name. The program ends here, with a line on standard error, if there is none.
+    Element& operator[](std::string_view elementName) {
+        if (Element* element = Find(elementName)) return *element;
+        std::fprintf(stderr, "no element %.*s\n", static_cast<int>(elementName.size()), elementName.data());
+        std::abort();
+    }
 
-    // The topmost element at a place that the mouse can meet (shown and enabled), or nothing for the surface.
+    // The topmost element at a place that the mouse can meet, or nothing for the surface.
     Element* ElementAt(float x, float y) {
         const auto covers = [x, y](const Element* element) { return Covers(*element, x, y); };
         const auto topmost = std::find_if(elements.rbegin(), elements.rend(), covers);
@@ -74,7 +81,7 @@ struct Window {
 
   private:
     static bool Covers(const Element& element, float x, float y) {
-        if (!IsShown(element) || !element.enabled) return false;
+        if (!IsThereForMouse(element)) return false;
         const float left = element.left + (element.panel != nullptr ? element.panel->left : 0);
         const float top = element.top + (element.panel != nullptr ? element.panel->top : 0);
         return x >= left && x < left + static_cast<float>(element.width) && y >= top &&

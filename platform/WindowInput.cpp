@@ -1,8 +1,8 @@
-// Presses, clicks and double clicks. A double click uses its two presses up, so a third one is a press again.
 #include "platform/WindowInput.h"
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace prismfall {
 
@@ -10,17 +10,29 @@ namespace {
 
 constexpr float kDoubleClickReach = 4;  // game pixels that the pointer may move between the two presses
 
-}  // namespace
-
-WindowInput::WindowInput(Window& target, int doubleClickMilliseconds)
-    : window(target), doubleClickTime(static_cast<std::uint32_t>(doubleClickMilliseconds)) {}
-
-void WindowInput::Forget() {
-    pressed = nullptr;
-    last = {};
+bool TakesFastPresses(const Element& element) {
+    return element.fastPresses || element.kind == ElementKind::RadioButton || element.kind == ElementKind::CheckBox;
 }
 
-void WindowInput::Move(float x, float y) {
+}  // namespace
+
+void WindowInput::Open(Window& window) {
+    windows.push_back(&window);
+    pressed = nullptr;
+}
+
+void WindowInput::Close(const Window& window) {
+    std::erase(windows, &window);
+    pressed = nullptr;
+    if (last.window == &window) last.window = nullptr;  // it was another one than any that comes later
+}
+
+bool WindowInput::HasInput(const Window& window) const {
+    return &window == Front() && window.visible && window.takesInput;
+}
+
+void WindowInput::Move(Window& window, float x, float y) const {
+    if (!HasInput(window)) return;
     if (Element* element = window.ElementAt(x, y); element != nullptr) {
         if (window.on.elementMove) window.on.elementMove(*element);
     } else if (window.on.mouseMove) {
@@ -28,41 +40,70 @@ void WindowInput::Move(float x, float y) {
     }
 }
 
-bool WindowInput::CompletesDoubleClick(float x, float y, std::uint32_t time) {
-    const bool completes = last.counts && time - last.time <= doubleClickTime &&
-                           std::abs(x - last.x) <= kDoubleClickReach && std::abs(y - last.y) <= kDoubleClickReach;
-    last = {x, y, time, !completes};
-    return completes;
-}
-
-void WindowInput::Press(MouseButton button, float x, float y, std::uint32_t time) {
-    const bool left = button == MouseButton::Left;
-    const bool isSecond = left && CompletesDoubleClick(x, y, time);
-    Element* element = window.ElementAt(x, y);
-    if (left) pressed = element;
-    if (element != nullptr) {
-        if (!window.on.elementDown) return;
-        const float inX = x - element->left - (element->panel != nullptr ? element->panel->left : 0);
-        const float inY = y - element->top - (element->panel != nullptr ? element->panel->top : 0);
-        window.on.elementDown(*element, button, inX, inY);
-    } else if (isSecond) {
-        if (window.on.doubleClick) window.on.doubleClick();
-    } else if (window.on.mouseDown) {
-        window.on.mouseDown(button, x, y);
+bool WindowInput::IsNearLast(const Window& window, const PressPlace& place) const {
+    float aside = place.x - last.place.x;
+    float below = place.y - last.place.y;
+    if (&window != last.window) {
+        if (!place.origin || !last.place.origin) return true;
+        aside += static_cast<float>(place.origin->left - last.place.origin->left);
+        below += static_cast<float>(place.origin->top - last.place.origin->top);
     }
+    return std::abs(aside) <= kDoubleClickReach && std::abs(below) <= kDoubleClickReach;
 }
 
-void WindowInput::Release(MouseButton button, float x, float y) {
+void WindowInput::Press(Window& window, MouseButton button, const PressPlace& place) {
+    if (!HasInput(window)) return;
+    Element* const element = window.ElementAt(place.x, place.y);
+    if (button == MouseButton::Left) {
+        const bool isSecond =
+            last.isFirst && place.time - last.place.time <= doubleClickTime && IsNearLast(window, place);
+        const Met first = std::exchange(last, {&window, element, place, !isSecond});
+        pressed = nullptr;
+        if (isSecond && (first.window != &window || first.element != element)) return;
+        if (isSecond && element == nullptr) return DoubleClickSurface(window);
+        if (isSecond && !TakesFastPresses(*element)) return;
+        pressed = element;
+    }
+    if (element == nullptr) return PressSurface(window, button, place.x, place.y);
+    const float x = place.x - element->left - (element->panel != nullptr ? element->panel->left : 0);
+    const float y = place.y - element->top - (element->panel != nullptr ? element->panel->top : 0);
+    PressOn(window, *element, button, x, y);
+}
+
+void WindowInput::Release(Window& window, MouseButton button, float x, float y) {
     if (button != MouseButton::Left) return;
-    Element* const element = pressed;
-    pressed = nullptr;
-    if (element == nullptr || !HasClick(*element) || window.ElementAt(x, y) != element) return;
-    if (window.on.elementClick) window.on.elementClick(*element);
+    Element* const element = std::exchange(pressed, nullptr);
+    if (element != nullptr && window.ElementAt(x, y) == element) Click(window, *element);
 }
 
-void WindowInput::Key(std::int32_t code) const {
-    if (code > std::numeric_limits<std::int16_t>::max() || !window.on.keyDown) return;
-    window.on.keyDown(static_cast<std::int16_t>(code));
+void WindowInput::Key(const Window& window, std::int32_t code) const {
+    using Limits = std::numeric_limits<std::int16_t>;
+    if (!HasInput(window) || code < Limits::min() || code > Limits::max()) return;
+    if (window.on.keyDown) window.on.keyDown(static_cast<std::int16_t>(code));
+}
+
+void WindowInput::PressSurface(const Window& window, MouseButton button, float x, float y) const {
+    if (HasInput(window) && window.on.mouseDown) window.on.mouseDown(button, x, y);
+}
+
+void WindowInput::DoubleClickSurface(const Window& window) const {
+    if (HasInput(window) && window.on.doubleClick) window.on.doubleClick();
+}
+
+void WindowInput::PressOn(const Window& window, Element& element, MouseButton button, float x, float y) const {
+    if (!HasInput(window) || !IsThereForMouse(element)) return;
+    if (window.on.elementDown) window.on.elementDown(element, button, x, y);
+}
+
+void WindowInput::PressAndClick(const Window& window, Element& element) const {
+    if (!HasClick(element)) return;
+    PressOn(window, element, MouseButton::Left, 0, 0);
+    Click(window, element);
+}
+
+void WindowInput::Click(const Window& window, Element& element) const {
+    if (!HasInput(window) || !HasClick(element) || !IsThereForMouse(element)) return;
+    if (window.on.elementClick) window.on.elementClick(element);
 }
 
 }  // namespace prismfall

@@ -50,6 +50,7 @@ MainElements::MainElements() {
         PictTut[i].spoken = picture.spoken;
         PictTut[i].visible = false;
     }
+    CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to leaf through the pages
     ImagePrismfall.spoken = "Prismfall";
     LabelPuzzlePage.picture = {};
 }

@@ -57,7 +57,6 @@ struct VMain : MainElements {
     std::int32_t GameMode = kMainMenu;
     Boolean GameRunning;
     Boolean PuzzleWaiting;  // a puzzle is laid out and waits for CmdStart
-    Boolean GameEnding;     // a beam has reached the floor and the steps of the game's end are running
     Boolean TutorialActive;
     std::int16_t TutorialStep = 0;  // the tutorial picture that stands, 0 for none
     float LastClickX = 0;           // of the last press, game pixels

@@ -1,5 +1,6 @@
-// See HeadlessPlatform.h.
 #include "backends/headless/HeadlessPlatform.h"
+
+#include <algorithm>
 
 #include "backends/headless/PrintFormat.h"
 #include "platform/NominalFrame.h"
@@ -11,25 +12,26 @@ namespace {
 constexpr int kFirstSoundResource = 101;  // a sound's number is what its resource id stands above it
 constexpr int kCannotOpen = 1;
 
-// A press and a click of the left button.
-void Answer(Window& dialog, const std::string& name) {
-    Element* element = dialog.Find(name);
-    if (element == nullptr || !IsShown(*element) || !element->enabled || !HasClick(*element)) return;
-    if (dialog.on.elementDown) dialog.on.elementDown(*element, MouseButton::Left, 0, 0);
-    if (dialog.on.elementClick) dialog.on.elementClick(*element);
-}
+constexpr Nanoseconds kLatest = Nanoseconds::max() / 2;  // of the clock; no script plays for so many years
 
 }  // namespace
 
 void HeadlessPlatform::Run(std::int64_t milliseconds) {
-    const std::int64_t end = timers.Now() + milliseconds;
-    FireDue(end);
-    timers.MoveTo(end);
+    const Nanoseconds end = clock + std::min<Nanoseconds>(std::chrono::milliseconds(milliseconds), kLatest - clock);
+    TickUntil(end);
+    MoveClockTo(end);
 }
 
-void HeadlessPlatform::Fire(Timer timer) {
-    const VirtualTimers::Running running(timers, timer);
-    tick(timer);
+// Handlers that let events run may have carried it further.
+void HeadlessPlatform::MoveClockTo(Nanoseconds moment) { clock = std::max(clock, moment); }
+
+void HeadlessPlatform::TickUntil(Nanoseconds moment) {
+    while (!hasEnded) {
+        const std::optional<Nanoseconds> due = timers.NextDue();
+        if (!due || *due > moment) return;
+        MoveClockTo(*due);
+        timers.TickFirst();
+    }
 }
 
 void HeadlessPlatform::PutSetting(const std::string& section, const std::string& key, const std::string& text) {
@@ -38,18 +40,15 @@ void HeadlessPlatform::PutSetting(const std::string& section, const std::string&
 
 void HeadlessPlatform::BeginRun() {
     timers.StopAll();
+    input = WindowInput();
     surface.Clear();
     places.clear();
     hasEnded = false;
 }
 
-void HeadlessPlatform::FireDue(std::int64_t until) {
-    while (!hasEnded) {
-        const std::optional<Timer> timer = timers.NextDue(until);
-        if (!timer) return;
-        timers.TakeDue(*timer);
-        Fire(*timer);
-    }
+void HeadlessPlatform::Open(Window& window) {
+    window.visible = true;
+    input.Open(window);
 }
 
 // --- Surface.
@@ -83,23 +82,25 @@ void HeadlessPlatform::SurfaceClear() {
 // --- Windows.
 
 void HeadlessPlatform::Show(Window& window) {
-    window.visible = true;
+    Open(window);
     if (window.on.activate) window.on.activate();
 }
 
 void HeadlessPlatform::Hide(Window& window) { window.visible = false; }
 
 bool HeadlessPlatform::ShowModally(Window& dialog) {
+    if (dialog.visible) return true;
     out << "dialog " << DialogTitle(dialog) << '\n';
-    dialog.visible = true;
+    Open(dialog);
     if (dialog.on.activate) dialog.on.activate();
     while (dialog.visible && !queuedAnswers.empty()) {
         const std::string name = std::move(queuedAnswers.front());
         queuedAnswers.pop_front();
-        Answer(dialog, name);
+        if (Element* element = dialog.Find(name)) input.PressAndClick(dialog, *element);
     }
     const bool wasHidden = !dialog.visible;
     dialog.visible = false;
+    input.Close(dialog);
     return wasHidden;
 }
 
@@ -131,7 +132,7 @@ void HeadlessPlatform::EndProgram() {
 
 // --- Timers, time and chance.
 
-void HeadlessPlatform::SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
+void HeadlessPlatform::SetTickHandler(std::function<void(Timer)> handler) { timers.SetTickHandler(std::move(handler)); }
 
 void HeadlessPlatform::StartTimer(Timer timer) { timers.Start(timer); }
 
@@ -140,9 +141,12 @@ void HeadlessPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
 void HeadlessPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
 
 void HeadlessPlatform::LetEventsRun() {
-    timers.MoveTo(timers.Now() + 1);
-    FireDue(timers.Now());
+    MoveClockTo(clock + std::chrono::milliseconds(1));
+    TickUntil(clock);
+    timers.RenewMoment();
 }
+
+std::int64_t HeadlessPlatform::Clock() { return std::chrono::duration_cast<std::chrono::milliseconds>(clock).count(); }
 
 double HeadlessPlatform::Random() {
     if (!queuedRandoms.empty()) {

@@ -10,9 +10,10 @@
 #include <string>
 #include <utility>
 
-#include "backends/headless/VirtualTimers.h"
 #include "platform/Platform.h"
 #include "platform/Surface.h"
+#include "platform/TimerWheel.h"
+#include "platform/WindowInput.h"
 
 namespace prismfall {
 
@@ -26,17 +27,21 @@ class HeadlessPlatform : public Platform {
     // Lets time pass until `milliseconds` from now; handlers that yield may carry the clock further.
     void Run(std::int64_t milliseconds);
     // Calls a timer's handler now, as a running handler, and leaves its due time alone.
-    void Fire(Timer timer);
+    void Fire(Timer timer) { timers.Fire(timer); }
     void QueueRandom(double number) { queuedRandoms.push_back(number); }
     void QueueAnswer(std::string element) { queuedAnswers.push_back(std::move(element)); }
     void SetMusicPresent(bool isPresent) { isMusicPresent = isPresent; }
     void SetPainting(bool isPrinted) { isPaintPrinted = isPrinted; }
     void PutSetting(const std::string& section, const std::string& key, const std::string& text);
-    // Forgets what belongs to one run of the program: timers and surface. Clock, generator, queues and store go on.
+    // Forgets what belongs to one run of the program: timers, windows and surface. Clock, generator, queues and store
+    // go on.
     void BeginRun();
+    // Lets a window stand in front, as Show does, without its activation.
+    void Open(Window& window);
     bool HasEnded() const { return hasEnded; }
 
-    const VirtualTimers& Timers() const { return timers; }
+    const WindowInput& Input() const { return input; }
+    const TimerWheel& Timers() const { return timers; }
     const std::map<std::pair<std::string, std::string>, std::string>& Store() const { return store; }
     Surface& Painted() { return surface; }
 
@@ -64,7 +69,7 @@ class HeadlessPlatform : public Platform {
     void SetTimerInterval(Timer timer, int milliseconds) override;
 
     void LetEventsRun() override;
-    std::int64_t Clock() override { return timers.Now(); }
+    std::int64_t Clock() override;
     double Random() override;
     void SeedRandomFromClock() override {}
 
@@ -85,12 +90,15 @@ class HeadlessPlatform : public Platform {
 
   private:
     void PrintStroke(const char* operation, int x1, int y1, int x2, int y2, Colour colour, int width);
-    void FireDue(std::int64_t until);
+    void MoveClockTo(Nanoseconds moment);
+    void TickUntil(Nanoseconds moment);
 
     std::ostream& out;
     Surface surface;
-    VirtualTimers timers;
-    std::function<void(Timer)> tick;
+    Nanoseconds clock{0};
+    GameTime time{[this] { return clock; }};
+    TimerWheel timers{time};
+    WindowInput input;
     std::deque<double> queuedRandoms;
     std::deque<std::string> queuedAnswers;
     std::uint32_t generator = 1;

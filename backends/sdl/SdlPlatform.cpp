@@ -109,7 +109,9 @@ void SdlPlatform::Show(Window& window) {
     }
     window.visible = true;
     main = &window;
-    if (window.on.activate) window.on.activate();
+    loop.Timers().Handle([&window] {
+        if (window.on.activate) window.on.activate();
+    });
 }
 
 void SdlPlatform::Hide(Window& window) {
@@ -120,10 +122,20 @@ void SdlPlatform::Hide(Window& window) {
 }
 
 bool SdlPlatform::ShowModally(Window& dialog) {
-    if (dialog.visible || !desktop.Open(dialog)) return false;
+    if (dialog.visible) return true;
+    if (!OpenDialog(dialog)) return false;
+    loop.RunWhile([&] { return IsStanding(dialog); });
+    return CloseDialog(dialog);
+}
+
+bool SdlPlatform::OpenDialog(Window& dialog) {
+    if (!desktop.Open(dialog)) return false;
     dialog.visible = true;
     if (dialog.on.activate) dialog.on.activate();
-    loop.RunWhile([&] { return dialog.visible && !desktop.CloseBoxUsed(dialog); });
+    return true;
+}
+
+bool SdlPlatform::CloseDialog(Window& dialog) {
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
     if (!wasHidden && dialog.on.unload) dialog.on.unload();
@@ -132,6 +144,7 @@ bool SdlPlatform::ShowModally(Window& dialog) {
     return wasHidden;
 }
 
+// No timer ticks behind an error box.
 void SdlPlatform::ShowMessageBox(std::string_view text) {
     Window box;
     MakeMessageBox(box, text, desktop.Screen(), [&] { Hide(box); });
@@ -141,7 +154,9 @@ void SdlPlatform::ShowMessageBox(std::string_view text) {
         const Extent size = OuterSize(box);
         SetPosition(box, {corner.left + (outer.width - size.width) / 2, corner.top + (outer.height - size.height) / 2});
     }
-    ShowModally(box);
+    if (!OpenDialog(box)) return;
+    loop.StandStillWhile([&] { return IsStanding(box); });
+    CloseDialog(box);
 }
 
 Extent SdlPlatform::OuterSize(const Window& window) { return desktop.OuterSize(window); }
@@ -155,15 +170,15 @@ void SdlPlatform::SetOuterSize(Window& window, Extent size) { desktop.SetInnerSi
 
 void SdlPlatform::SetPosition(Window& window, Place place) { desktop.SetPosition(window, place); }
 
-void SdlPlatform::SetTickHandler(std::function<void(Timer)> handler) { loop.SetTickHandler(std::move(handler)); }
+void SdlPlatform::SetTickHandler(std::function<void(Timer)> handler) {
+    loop.Timers().SetTickHandler(std::move(handler));
+}
 
-void SdlPlatform::StartTimer(Timer timer) { loop.Timers().Start(timer, EventLoop::Now()); }
+void SdlPlatform::StartTimer(Timer timer) { loop.Timers().Start(timer); }
 
 void SdlPlatform::StopTimer(Timer timer) { loop.Timers().Stop(timer); }
 
-void SdlPlatform::SetTimerInterval(Timer timer, int milliseconds) {
-    loop.Timers().SetInterval(timer, milliseconds, EventLoop::Now());
-}
+void SdlPlatform::SetTimerInterval(Timer timer, int milliseconds) { loop.Timers().SetInterval(timer, milliseconds); }
 
 void SdlPlatform::LetEventsRun() { loop.LetEventsRun(); }
 

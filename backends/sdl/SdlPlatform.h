@@ -76,9 +76,13 @@ class SdlPlatform final : public Platform {
     static int SDLCALL NoteEndBySystem(void* self, SDL_Event* event);
     void CloseProgram();
     void TellOfUnsavedSettings(const std::string& failure);
+    bool OpenDialog(Window& dialog);
+    bool IsStanding(const Window& dialog) const { return dialog.visible && !desktop.CloseBoxUsed(dialog); }
+    // Whether the dialog had been hidden already.
+    bool CloseDialog(Window& dialog);
 
     SdlDesktop desktop;
-    EventLoop loop{desktop};
+    EventLoop loop{desktop, [this] { CloseProgram(); }};
     SdlAudio audio;
     SettingsFile settings;
     std::mt19937 generator;

@@ -136,9 +136,10 @@ TEST(States, AGamesEndTakesNoInput) {
     game.Machine().onYield = [&] {
         ++yields;
         const std::string before = InShort(main) + Looks(game);
-        main.window.on.mouseDown(MouseButton::Left, 185, 585);
-        main.window.on.doubleClick();
-        main.window.on.keyDown(kEscapeKey);
+        const WindowInput& input = game.Machine().Input();
+        input.PressSurface(main.window, MouseButton::Left, 185, 585);
+        input.DoubleClickSurface(main.window);
+        input.Key(main.window, kEscapeKey);
         for (const std::string_view button : {"CommandExit", "cmdPause", "CmdAbout", "CommandPuzzle"})
             game.Click(button);
         EXPECT_EQ(InShort(main) + Looks(game), before);

@@ -1,76 +1,166 @@
-// What the timers do when the machine is late, and in which order they come.
+// Game time and the timers on it, under a clock that the test sets: what ticks when the machine is late, and from which
+// moment on that counts which a handler starts.
 #include "platform/TimerWheel.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace prismfall {
 namespace {
 
-using namespace std::chrono_literals;
-
-std::vector<Timer> TakeAll(TimerWheel& wheel, Nanoseconds now) {
-    std::vector<Timer> taken;
-    while (const auto timer = wheel.TakeDue(now)) {
-        taken.push_back(*timer);
-        wheel.Finish(*timer);
+struct Bench {
+    Bench() {
+        wheel.SetTickHandler([this](Timer timer) {
+            ticks += "DECMAP"[static_cast<std::size_t>(timer)];
+            if (onTick) onTick(timer);
+        });
     }
-    return taken;
-}
 
-TEST(TimerWheelTest, LateTicksAreSkippedAndTheRhythmStays) {
-    struct Case {
-        Nanoseconds firstLook;
-        Nanoseconds nextDue;
+    void Start(Timer timer, int interval) {
+        wheel.SetInterval(timer, interval);
+        wheel.Start(timer);
+    }
+
+    // What ticks when the loop comes round at that time of the clock.
+    std::string At(int milliseconds) {
+        clock = std::chrono::milliseconds(milliseconds);
+        ticks.clear();
+        wheel.TickDue();
+        return ticks;
+    }
+
+    // What ticks when the running handler lets events run; "+" stands for input.
+    void LetEventsRun() {
+        wheel.LetEventsRun([this] {
+            ticks += '+';
+            return true;
+        });
+    }
+
+    Nanoseconds clock{0};
+    GameTime time{[this] { return clock; }};
+    TimerWheel wheel{time};
+    std::string ticks;
+    std::function<void(Timer)> onTick;
+};
+
+TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsMadeUpFor) {
+    struct Look {
+        int clock;
+        const char* ticks;
     };
-    for (const Case& c : {Case{10ms, 20ms}, Case{19ms, 20ms}, Case{20ms, 30ms}, Case{57ms, 60ms}}) {
-        TimerWheel wheel;
-        wheel.SetInterval(Timer::LineExtender, 10, 0ms);
-        wheel.Start(Timer::LineExtender, 0ms);
-        EXPECT_EQ(TakeAll(wheel, 9999us).size(), 0U);
-        EXPECT_EQ(TakeAll(wheel, c.firstLook).size(), 1U);
-        EXPECT_EQ(wheel.NextDue(), c.nextDue);
+    struct Case {
+        int deleter, extender;  // intervals
+        std::vector<Look> looks;
+    };
+    const Case kCases[] = {{0, 10, {{9, ""}, {10, "E"}, {19, ""}, {20, "E"}}},
+                           {0, 10, {{19, "E"}, {20, "E"}, {20, ""}, {30, "E"}}},
+                           {0, 10, {{20, "E"}, {29, ""}, {30, "E"}}},
+                           {0, 10, {{510, "E"}, {519, ""}, {529, "E"}, {530, "E"}}},
+                           {100, 60, {{110, "ED"}, {119, ""}, {120, "E"}}},
+                           {100, 60, {{120, "E"}, {159, ""}, {160, "D"}, {180, "E"}}},
+                           {50, 75, {{149, "D"}, {174, "E"}, {199, "D"}, {249, "DE"}}}};
+    for (const Case& c : kCases) {
+        Bench bench;
+        bench.Start(Timer::LineExtender, c.extender);
+        bench.Start(Timer::LineDeleter, c.deleter);
+        for (const Look& look : c.looks) EXPECT_EQ(bench.At(look.clock), look.ticks) << look.clock;
     }
+    Bench bench;
+    bench.Start(Timer::LineDeleter, 100);
+    bench.At(99);
+    bench.Start(Timer::LineExtender, 5);
+    EXPECT_EQ(bench.At(109), "D") << "one timer is late by its interval, another was due first";
+    EXPECT_EQ(bench.At(112) + bench.At(113), "E");
 }
 
-TEST(TimerWheelTest, EarlierComesFirstAndTiesGoByTheTimersOrder) {
-    TimerWheel wheel;
-    for (const Timer timer : {Timer::TimerPlayIntro, Timer::TimerMulti, Timer::LineCreator, Timer::LineDeleter}) {
-        wheel.SetInterval(timer, timer == Timer::TimerMulti ? 9 : 10, 0ms);
-        wheel.Start(timer, 0ms);
+TEST(TimerWheel, WhatAHandlerStartsCountsFromItsMoment) {
+    Bench bench;
+    bench.Start(Timer::LineExtender, 10);
+    bench.Start(Timer::TimerMulti, 12);
+    bench.onTick = [&](Timer timer) {
+        if (timer != Timer::LineExtender) return;
+        bench.clock += std::chrono::milliseconds(3);
+        bench.Start(Timer::TimerA, 20);  // due at 30, however late it is
+        bench.wheel.Stop(Timer::LineExtender);
+        bench.wheel.SetInterval(Timer::TimerMulti, 20);
+    };
+    EXPECT_EQ(bench.At(15), "E");
+    EXPECT_EQ(bench.At(29), "");
+    EXPECT_EQ(bench.At(30), "MA");
+    bench.clock = std::chrono::milliseconds(55);
+    bench.ticks.clear();
+    bench.wheel.Handle([&] {
+        bench.ticks += '+';
+        bench.clock += std::chrono::milliseconds(9);
+        bench.Start(Timer::LineDeleter, 4);
+    });
+    EXPECT_EQ(bench.ticks, "MA+") << "what was due comes before input";
+    EXPECT_EQ(bench.wheel.NextDue(), std::chrono::milliseconds(59));
+}
+
+TEST(TimerWheel, TheFirstTimeEventsRunOnlyWhatIsCloseTicks) {
+    Bench bench;
+    bench.Start(Timer::LineExtender, 10);
+    bench.Start(Timer::LineDeleter, 11);
+    bench.Start(Timer::LineCreator, 12);
+    bench.onTick = [&](Timer timer) {
+        if (timer != Timer::LineExtender || bench.ticks != "E") return;
+        bench.LetEventsRun();
+        bench.ticks += '|';
+        bench.LetEventsRun();
+        bench.Start(Timer::TimerA, 5);
+    };
+    EXPECT_EQ(bench.At(14), "ED|C+");
+    EXPECT_EQ(bench.At(18), "") << "the second time its moment was 14";
+    EXPECT_EQ(bench.At(19), "A");
+}
+
+TEST(TimerWheel, NothingTicksWhileGameTimeStandsStill) {
+    Bench bench;
+    bench.Start(Timer::LineExtender, 10);
+    bench.clock = std::chrono::milliseconds(4);
+    {
+        const GameTime::Standstill box(bench.time);
+        EXPECT_EQ(bench.At(100), "");
+        const GameTime::Standstill sound(bench.time);
+        EXPECT_EQ(bench.wheel.NextDue(), std::nullopt);
+        bench.wheel.Handle([&] { bench.Start(Timer::TimerA, 6); });
     }
-    EXPECT_EQ(TakeAll(wheel, 10ms),
-              (std::vector{Timer::TimerMulti, Timer::LineDeleter, Timer::LineCreator, Timer::TimerPlayIntro}));
+    EXPECT_EQ(bench.At(105), "");
+    EXPECT_EQ(bench.At(106), "EA");
 }
 
-TEST(TimerWheelTest, ATimerDoesNotTickWithinItsOwnTick) {
-    TimerWheel wheel;
-    wheel.SetInterval(Timer::TimerA, 10, 0ms);
-    wheel.Start(Timer::TimerA, 0ms);
-    ASSERT_EQ(wheel.TakeDue(10ms), Timer::TimerA);
-    EXPECT_EQ(wheel.NextDue(), std::nullopt);
-    EXPECT_EQ(wheel.TakeDue(25ms), std::nullopt);
-    wheel.Finish(Timer::TimerA);
-    EXPECT_EQ(TakeAll(wheel, 25ms).size(), 1U);
-    EXPECT_EQ(wheel.NextDue(), 30ms);
+TEST(TimerWheel, ATurnEndsThoughTicksTakeLongerThanTheirInterval) {
+    Bench bench;
+    bench.Start(Timer::LineExtender, 1);
+    bench.onTick = [&](Timer) { bench.clock += std::chrono::milliseconds(2); };
+    const std::string turn = bench.At(1);
+    EXPECT_GT(turn.size(), 10U);
+    EXPECT_EQ(bench.time.Now() + Nanoseconds(1), bench.wheel.NextDue());
 }
 
-TEST(TimerWheelTest, OnlyAnotherIntervalRestartsAndZeroNeverTicks) {
-    TimerWheel wheel;
-    wheel.SetInterval(Timer::LineCreator, 10, 0ms);
-    wheel.Start(Timer::LineCreator, 0ms);
-    wheel.SetInterval(Timer::LineCreator, 10, 4ms);
-    wheel.Start(Timer::LineCreator, 4ms);
-    EXPECT_EQ(wheel.NextDue(), 10ms);
-    wheel.SetInterval(Timer::LineCreator, 8, 4ms);
-    EXPECT_EQ(wheel.NextDue(), 12ms);
-    wheel.SetInterval(Timer::LineCreator, 0, 5ms);
-    EXPECT_EQ(wheel.NextDue(), std::nullopt);
-    wheel.SetInterval(Timer::LineCreator, 8, 6ms);
-    EXPECT_EQ(wheel.NextDue(), 14ms);
-    wheel.Stop(Timer::LineCreator);
-    EXPECT_EQ(TakeAll(wheel, 1s).size(), 0U);
+TEST(TimerWheel, OrderIntervalsAndHandlersThatRun) {
+    Bench bench;
+    for (const Timer timer : {Timer::TimerPlayIntro, Timer::TimerMulti, Timer::LineCreator, Timer::LineDeleter})
+        bench.Start(timer, timer == Timer::TimerMulti ? 9 : 10);
+    bench.onTick = [&](Timer timer) {
+        if (timer == Timer::LineCreator) bench.wheel.Stop(Timer::TimerPlayIntro);
+        if (timer == Timer::LineDeleter) bench.wheel.Handle([] {});
+    };
+    EXPECT_EQ(bench.At(10), "MDC") << "earlier first, then in the timers' order; none inside itself";
+    bench.wheel.StopAll();
+    bench.Start(Timer::LineCreator, 20);
+    EXPECT_EQ(bench.At(15), "");
+    bench.Start(Timer::LineCreator, 20);
+    EXPECT_EQ(bench.At(30), "C") << "neither start nor the same interval begins anew";
+    bench.wheel.SetInterval(Timer::LineCreator, 8);
+    EXPECT_EQ(bench.At(37) + bench.At(38), "C");
+    bench.wheel.SetInterval(Timer::LineCreator, 0);
+    EXPECT_EQ(bench.At(99), "") << "an interval of 0 never ticks";
 }
 
 }  // namespace

@@ -16,6 +16,7 @@ VMain& TestGame::Load() {
     machine.BeginRun();
     main = std::make_unique<VMain>(machine);
     MakeMainWindow(*main);
+    machine.Open(main->window);
     return *main;
 }
 
@@ -25,10 +26,6 @@ TestGame& TestGame::QuietStore() {
     return *this;
 }
 
-void TestGame::Click(std::string_view element) {
-    Element& button = main->window[element];
-    main->window.on.elementDown(button, MouseButton::Left, 0, 0);
-    main->window.on.elementClick(button);
-}
+void TestGame::Click(std::string_view element) { machine.Input().PressAndClick(main->window, main->window[element]); }
 
 }  // namespace prismfall

@@ -82,16 +82,19 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
         {"random", 1, kAnyNumber, false, [](Driver& driver, const Words& words) { driver.QueueRandoms(words); }},
         {"music", 1, 1, false, [](Driver& driver, const Words& words) { driver.ChooseMusic(words); }},
         {"load", 0, 0, false, [](Driver& driver, const Words&) { driver.Load(); }},
-        {"activate", 0, 0, true, [](Driver& driver, const Words&) { Form_Activate(*driver.main); }},
+        {"activate", 0, 0, true, [](Driver& driver, const Words&) { driver.main->window.on.activate(); }},
         {"move", 2, 2, true, [](Driver& driver, const Words& words) { driver.Move(words); }},
         {"press", 3, 3, true, [](Driver& driver, const Words& words) { driver.Press(words); }},
-        {"dblclick", 0, 0, true, [](Driver& driver, const Words&) { Form_DblClick(*driver.main); }},
+        {"dblclick", 0, 0, true,
+         [](Driver& driver, const Words&) { driver.platform.Input().DoubleClickSurface(driver.main->window); }},
         {"click", 1, 1, true, [](Driver& driver, const Words& words) { driver.Click(words); }},
         {"picture", 4, 4, true, [](Driver& driver, const Words& words) { driver.PressPicture(words); }},
         {"key", 1, 1, true,
-         [](Driver& driver, const Words& words) { Form_KeyDown(*driver.main, ShortNumberOf(words[1])); }},
-        {"minimise", 0, 0, true, [](Driver& driver, const Words&) { Form_Resize(*driver.main, true); }},
-        {"restore", 0, 0, true, [](Driver& driver, const Words&) { Form_Resize(*driver.main, false); }},
+         [](Driver& driver, const Words& words) {
+             driver.platform.Input().Key(driver.main->window, ShortNumberOf(words[1]));
+         }},
+        {"minimise", 0, 0, true, [](Driver& driver, const Words&) { driver.main->window.on.resize(true); }},
+        {"restore", 0, 0, true, [](Driver& driver, const Words&) { driver.main->window.on.resize(false); }},
         {"close", 0, 0, true, [](Driver& driver, const Words&) { driver.Close(); }},
         {"answer", 1, kAnyNumber, false, [](Driver& driver, const Words& words) { driver.QueueAnswers(words); }},
         {"run", 1, 1, true,
@@ -133,11 +136,12 @@ void HeadlessDriver::Load() {
     platform.BeginRun();
     main = std::make_unique<VMain>(platform);
     MakeMainWindow(*main);
+    platform.Open(main->window);
 }
 
 void HeadlessDriver::Close() {
-    Form_QueryUnload(*main);
-    Form_Unload(*main);
+    main->window.on.queryUnload();
+    main->window.on.unload();
     main.reset();
 }
 
@@ -166,25 +170,18 @@ void HeadlessDriver::ChoosePainting(const Words& words) { platform.SetPainting(C
 
 void HeadlessDriver::Move(const Words& words) {
     const float x = PlaceOf(words[1]);
-    const float y = PlaceOf(words[2]);
-    if (Element* element = main->window.ElementAt(x, y)) {
-        main->window.on.elementMove(*element);
-    } else {
-        main->window.on.mouseMove(x, y);
-    }
+    platform.Input().Move(main->window, x, PlaceOf(words[2]));
 }
 
 void HeadlessDriver::Press(const Words& words) {
     const MouseButton button = ButtonOf(words[1]);
-    Form_MouseDown(*main, button, PlaceOf(words[2]), PlaceOf(words[3]));
+    platform.Input().PressSurface(main->window, button, PlaceOf(words[2]), PlaceOf(words[3]));
 }
 
 void HeadlessDriver::Click(const Words& words) {
     Element* element = main->window.Find(words[1]);
     if (element == nullptr) throw ScriptError("no such element: " + words[1]);
-    if (!IsShown(*element) || !element->enabled || !HasClick(*element)) return;
-    main->window.on.elementDown(*element, MouseButton::Left, 0, 0);
-    main->window.on.elementClick(*element);
+    platform.Input().PressAndClick(main->window, *element);
 }
 
 void HeadlessDriver::PressPicture(const Words& words) {
@@ -192,7 +189,7 @@ void HeadlessDriver::PressPicture(const Words& words) {
     const MouseButton button = ButtonOf(words[2]);
     const float x = PlaceOf(words[3]);
     const float y = PlaceOf(words[4]);
-    if (main->PictTut[picture].visible) PictTut_MouseDown(*main, picture, button, x, y);
+    platform.Input().PressOn(main->window, main->PictTut[picture], button, x, y);
 }
 
 // --- The game.

@@ -46,7 +46,7 @@ void PrintState(std::ostream& out, const VMain& main) {
         << '/' << main.TutorialStep << " liney=" << main.CollisionLineY << '\n';
 }
 
-void PrintTimers(std::ostream& out, const VirtualTimers& timers) {
+void PrintTimers(std::ostream& out, const TimerWheel& timers) {
     out << "timers";
     for (const TimerName& row : kTimerNames)
         out << ' ' << row.name << '=' << (timers.IsOn(row.timer) ? "on" : "off") << ':' << timers.Interval(row.timer);
@@ -73,7 +73,7 @@ void PrintElement(std::ostream& out, const Element& element) {
 
 }  // namespace
 
-void PrintDump(std::ostream& out, const VMain& main, const VirtualTimers& timers) {
+void PrintDump(std::ostream& out, const VMain& main, const TimerWheel& timers) {
     PrintState(out, main);
     PrintTimers(out, timers);
     for (const CLine* beam : main.Lines) PrintBeam(out, main, *beam);

@@ -8,7 +8,7 @@
 
 namespace prismfall {
 
-void PrintDump(std::ostream& out, const VMain& main, const VirtualTimers& timers);
+void PrintDump(std::ostream& out, const VMain& main, const TimerWheel& timers);
 // The visible elements of the main window, sorted by name.
 void PrintElements(std::ostream& out, const VMain& main);
 // The settings in memory and the score table, with the time of the clock.

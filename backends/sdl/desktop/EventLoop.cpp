@@ -30,68 +30,86 @@ void SleepUntil(Nanoseconds moment) {
 
 Nanoseconds EventLoop::Now() { return std::chrono::steady_clock::now().time_since_epoch(); }
 
-bool EventLoop::HandlePending() {
+bool EventLoop::HandleEvent() {
+    bool wasThere = false;
+    timers.Handle([&] {
+        SDL_Event event;
+        wasThere = SDL_PeepEvents(&event, 1, SDL_GETEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) > 0;
+        if (wasThere) desktop.Handle(event);
+    });
+    return wasThere;
+}
+
+// One event after the other: each may close the window that the next one was meant for, or end what we wait for.
+bool EventLoop::HandleEvents(const std::function<bool()>& goesOn) {
     SDL_PumpEvents();
-    SDL_Event event;
     int handled = 0;
-    while (handled < kEventsAtOnce && SDL_PeepEvents(&event, 1, SDL_GETEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) > 0) {
-        desktop.Handle(event);
-        ++handled;
-    }
+    while (handled < kEventsAtOnce && goesOn() && HandleEvent()) ++handled;
     return handled > 0;
 }
 
-bool EventLoop::TickDue() {
-    const Nanoseconds now = Now();
-    bool ticked = false;
-    while (const std::optional<Timer> timer = timers.TakeDue(now)) {
-        if (tick) tick(*timer);
-        timers.Finish(*timer);
-        ticked = true;
-    }
-    return ticked;
+bool EventLoop::Work(const std::function<bool()>& goesOn) {
+    const bool ticked = timers.TickDue();
+    const bool handled = HandleEvents(goesOn);
+    desktop.Refresh();
+    return ticked || handled;
 }
 
 void EventLoop::Rest() {
     const std::optional<Nanoseconds> due = timers.NextDue();
-    const Nanoseconds left = due ? *due - Now() : kLongestWait;
+    const Nanoseconds left = due ? *due - time.Now() : kLongestWait;
     using std::chrono::milliseconds;
     const auto listening = left < kNearby ? std::chrono::floor<milliseconds>(left - kSleptByClock)
                                           : std::chrono::ceil<milliseconds>(std::min(left, kLongestWait));
-    if (listening < 1ms) return SleepUntil(*due);
-    SDL_Event event;
-    if (SDL_WaitEventTimeout(&event, static_cast<int>(listening.count())) == 1) desktop.Handle(event);
-}
-
-bool EventLoop::Work() {
-    const bool handled = HandlePending();
-    const bool ticked = TickDue();
-    desktop.Refresh();
-    return handled || ticked;
+    if (listening < 1ms) return SleepUntil(Now() + left);
+    SDL_WaitEventTimeout(nullptr, static_cast<int>(listening.count()));
 }
 
 void EventLoop::Run() {
+    const auto always = [] { return true; };
     for (;;) {
-        Work();
-        if (desktop.DeliverMinimised()) desktop.Refresh();
+        Work(always);
+        bool told = false;
+        timers.Handle([&] { told = desktop.DeliverMinimised(); });
+        if (told) desktop.Refresh();
         Rest();
     }
 }
 
+void EventLoop::WorkWhile(const std::function<bool()>& goesOn) {
+    for (Work(goesOn); goesOn(); Work(goesOn)) Rest();
+}
+
 void EventLoop::RunWhile(const std::function<bool()>& goesOn) {
-    for (Work(); goesOn(); Work()) Rest();
+    WorkWhile(goesOn);
+    timers.RenewMoment();
+}
+
+void EventLoop::StandStillWhile(const std::function<bool()>& goesOn) {
+    const GameTime::Standstill standstill(time);
+    WorkWhile(goesOn);
+}
+
+void EventLoop::MeetEnd() {
+    if (desktop.IsEndWaiting()) endAsked();
 }
 
 void EventLoop::LetEventsRun() {
-    if (Work()) return;
-    const Nanoseconds end = Now() + kYieldRest;
-    SleepUntil(std::min(end, timers.NextDue().value_or(end)));
+    const bool worked = timers.LetEventsRun([this] { return HandleEvents([] { return true; }); });
+    SDL_PumpEvents();
+    MeetEnd();
+    desktop.Refresh();
+    if (worked) return;
+    const Nanoseconds now = time.Now();
+    SleepUntil(Now() + std::min(kYieldRest, timers.NextDue().value_or(now + kYieldRest) - now));
 }
 
 void EventLoop::PaintFor(Nanoseconds length) {
+    const GameTime::Standstill standstill(time);
     const Nanoseconds end = Now() + length;
     while (Now() < end) {
         SDL_PumpEvents();
+        MeetEnd();
         desktop.Refresh();
         SleepUntil(std::min(end, Now() + kPaintPause));
     }

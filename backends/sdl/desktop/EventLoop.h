@@ -11,32 +11,39 @@ namespace prismfall {
 
 class EventLoop {
   public:
-    explicit EventLoop(SdlDesktop& shownWindows) : desktop(shownWindows) {}
+    // `whenEndAsked` is called when the player or the system wants the program to end while nothing else may happen.
+    EventLoop(SdlDesktop& shownWindows, std::function<void()> whenEndAsked)
+        : desktop(shownWindows), endAsked(std::move(whenEndAsked)) {}
 
     static Nanoseconds Now();
 
-    void SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
     TimerWheel& Timers() { return timers; }
 
     // Runs for good: the outermost level, which alone tells the main window that it was minimised or restored.
     [[noreturn]] void Run();
     // Runs inside a handler as long as `goesOn` holds.
     void RunWhile(const std::function<bool()>& goesOn);
+    // The same, but game time stands still and no timer ticks.
+    void StandStillWhile(const std::function<bool()>& goesOn);
     // Handles what is pending. If nothing is, rests for a moment, so that a caller may wait by calling it again.
     void LetEventsRun();
-    // Waits for a length of time in which nothing happens but painting.
+    // Waits for a length of time in which game time stands still and nothing happens but painting and the program's
+    // end.
     void PaintFor(Nanoseconds length);
 
   private:
     // These tell whether there was anything to do.
-    bool Work();
-    bool HandlePending();
-    bool TickDue();
+    bool Work(const std::function<bool()>& goesOn);
+    bool HandleEvents(const std::function<bool()>& goesOn);
+    bool HandleEvent();
+    void WorkWhile(const std::function<bool()>& goesOn);
+    void MeetEnd();
     void Rest();
 
     SdlDesktop& desktop;
-    TimerWheel timers;
-    std::function<void(Timer)> tick;
+    std::function<void()> endAsked;
+    GameTime time{Now};
+    TimerWheel timers{time};
 };
 
 }  // namespace prismfall

@@ -18,6 +18,7 @@ SdlDesktop::SdlDesktop(PictureStore pictures, std::function<void()> whenEndAsked
     : endAsked(std::move(whenEndAsked)),
       soundLost(std::move(whenSoundLost)),
       facts(AskDesktop()),
+      input(facts.doubleClickMilliseconds),
       display(std::move(pictures)) {
     SDL_AddEventWatch(NoteExposure, this);
 }
@@ -78,20 +79,20 @@ bool SdlDesktop::Open(Window& window) {
     if (!scaleChosen) ChooseScale(window);
     SdlWindow::Options options;
     options.pointsPerGamePixel = PointsPerGamePixel();
-    options.doubleClickMilliseconds = facts.doubleClickMilliseconds;
     if (!window.isDialog) options.layer = &layer;
     if (window.isDialog && !windows.empty()) options.owner = windows.back().real->Real();
     if (const auto place = wantedPlaces.find(&window); place != wantedPlaces.end())
         options.frameCorner = Place{Points(place->second.left), Points(place->second.top)};
     auto real = std::make_unique<SdlWindow>(window, display, options);
     if (!real->IsReal()) return false;
-    if (!windows.empty()) windows.back().real->Input().Forget();
     windows.push_back({std::move(real)});
+    input.Open(window);
     return true;
 }
 
 void SdlDesktop::Close(const Window& window) {
     std::erase_if(windows, [&](const Shown& shown) { return &shown.real->Data() == &window; });
+    input.Close(window);
     wantedPlaces.erase(&window);
 }
 
@@ -108,34 +109,54 @@ void SdlDesktop::HideAll() {
     std::for_each(windows.rbegin(), windows.rend(), [](const Shown& shown) { shown.real->HideNow(); });
 }
 
+bool SdlDesktop::AsksForEnd(const SDL_Event& event) const {
+    if (event.type == SDL_QUIT) return true;
+    if (event.type != SDL_WINDOWEVENT || event.window.event != SDL_WINDOWEVENT_CLOSE || windows.empty()) return false;
+    const SdlWindow& front = *windows.back().real;
+    return event.window.windowID == front.Id() && !front.Data().isDialog;
+}
+
+bool SdlDesktop::IsEndWaiting() {
+    struct Search {
+        const SdlDesktop& desktop;
+        bool found = false;
+    } search{*this};
+    const auto look = [](void* found, SDL_Event* event) {
+        auto& result = *static_cast<Search*>(found);
+        if (result.desktop.AsksForEnd(*event)) result.found = true;
+        return 1;  // it stays in the queue
+    };
+    SDL_FilterEvents(look, &search);
+    return search.found;
+}
+
 void SdlDesktop::Handle(const SDL_Event& event) {
-    if (event.type == SDL_QUIT) return endAsked();
+    if (AsksForEnd(event)) return endAsked();
     if (event.type == SDL_AUDIODEVICEREMOVED && event.adevice.iscapture == 0) return soundLost();
     if (windows.empty()) return;
     if (event.type == SDL_WINDOWEVENT) return HandleWindowEvent(event.window);
     // Keys go to the topmost window even if the desktop gives the focus to none.
-    SdlWindow& active = *windows.back().real;
-    if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return active.Input().Key(event.key.keysym.sym);
-    if (event.type == SDL_MOUSEMOTION && event.motion.windowID == active.Id()) {
-        const GamePlace place = active.ToGame(event.motion.x, event.motion.y);
-        return active.Input().Move(place.x, place.y);
+    SdlWindow& front = *windows.back().real;
+    if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return input.Key(front.Data(), event.key.keysym.sym);
+    if (event.type == SDL_MOUSEMOTION && event.motion.windowID == front.Id()) {
+        const GamePlace place = front.ToGame(event.motion.x, event.motion.y);
+        return input.Move(front.Data(), place.x, place.y);
     }
     if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) HandleButton(event.button);
 }
 
 void SdlDesktop::HandleButton(const SDL_MouseButtonEvent& event) {
-    SdlWindow& active = *windows.back().real;
-    if (event.windowID != active.Id()) {
-        if (event.type == SDL_MOUSEBUTTONDOWN) active.Raise();
+    SdlWindow& front = *windows.back().real;
+    if (event.windowID != front.Id()) {
+        if (event.type == SDL_MOUSEBUTTONDOWN) front.Raise();
         return;
     }
-    if (event.button != SDL_BUTTON_LEFT && event.button != SDL_BUTTON_RIGHT) return;
     const MouseButton button = event.button == SDL_BUTTON_LEFT ? MouseButton::Left : MouseButton::Right;
-    const GamePlace place = active.ToGame(event.x, event.y);
+    const GamePlace place = front.ToGame(event.x, event.y);
     if (event.type == SDL_MOUSEBUTTONUP) {
-        active.Input().Release(button, place.x, place.y);
-    } else if (active.IsOnPicture(place)) {
-        active.Input().Press(button, place.x, place.y, event.timestamp);
+        input.Release(front.Data(), button, place.x, place.y);
+    } else if (front.IsOnPicture(place)) {
+        input.Press(front.Data(), button, {place.x, place.y, event.timestamp, front.Origin()});
     }
 }
 
@@ -155,9 +176,7 @@ void SdlDesktop::HandleFocus(Shown& shown) {
 }
 
 void SdlDesktop::HandleCloseBox(Shown& shown) {
-    if (&shown != &windows.back()) return;
-    if (!shown.real->Data().isDialog) return endAsked();
-    shown.closeBoxUsed = true;
+    if (&shown == &windows.back()) shown.closeBoxUsed = true;
 }
 
 bool SdlDesktop::DeliverMinimised() {

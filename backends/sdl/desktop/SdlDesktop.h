@@ -1,5 +1,5 @@
-// The windows that are shown, the topmost last, and the way of every event to the window that may have it: while a
-// dialog stands, that is the dialog alone. When events are taken and when timers tick belongs to the loop.
+// The windows that are shown, the topmost last, and the way of every event to WindowInput, which knows the window that
+// may have it. When events are taken and when timers tick belongs to the loop.
 #pragma once
 
 #include <SDL.h>
@@ -15,6 +15,7 @@
 #include "backends/sdl/drawing/ElementPainter.h"
 #include "platform/Platform.h"
 #include "platform/Surface.h"
+#include "platform/WindowInput.h"
 
 namespace prismfall {
 
@@ -40,6 +41,8 @@ class SdlDesktop {
     // Takes the windows off the display at once, dialogs first.
     void HideAll();
     void Handle(const SDL_Event& event);
+    // Whether an event is waiting by which the player or the system wants the program to end.
+    bool IsEndWaiting();
     // Tells the main window whether it is minimised, if that has changed since it was told last. Whether it has.
     bool DeliverMinimised();
 
@@ -66,6 +69,7 @@ class SdlDesktop {
     void HandleFocus(Shown& shown);
     void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
+    bool AsksForEnd(const SDL_Event& event) const;
     // The nominal frame, where the desktop does not tell of a real one.
     FrameBorders BordersOf(const Window& window) const;
     // All windows have the scale that the desktop has given the main window.
@@ -76,6 +80,7 @@ class SdlDesktop {
     std::function<void()> endAsked;
     std::function<void()> soundLost;
     DesktopFacts facts;
+    WindowInput input;
     Display display;
     Surface layer;
     float scaleToAskFor = 1;  // points a game pixel, for the first window

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <string>
 
 #include "backends/sdl/desktop/DesktopHints.h"
@@ -10,11 +11,7 @@
 namespace prismfall {
 
 SdlWindow::SdlWindow(Window& data, Display& target, const Options& wanted)
-    : window(data),
-      display(target),
-      options(wanted),
-      composer(data, wanted.layer, target),
-      input(data, wanted.doubleClickMilliseconds) {
+    : window(data), display(target), options(wanted), composer(data, wanted.layer, target) {
     fit.scale = wanted.pointsPerGamePixel;
     Create();
     if (!IsReal()) return;
@@ -142,6 +139,16 @@ GamePlace SdlWindow::ToGame(int x, int y) const {
 bool SdlWindow::IsOnPicture(const GamePlace& place) const {
     return place.x >= 0 && place.x < static_cast<float>(window.innerWidth) && place.y >= 0 &&
            place.y < static_cast<float>(window.innerHeight);
+}
+
+std::optional<Place> SdlWindow::Origin() const {
+    const char* driver = SDL_GetCurrentVideoDriver();
+    if (driver != nullptr && std::strcmp(driver, "wayland") == 0) return std::nullopt;
+    int left = 0;
+    int top = 0;
+    SDL_GetWindowPosition(Real(), &left, &top);
+    const GamePlace corner = ToGame(-left, -top);  // of the desktop, seen from the picture
+    return Place{static_cast<int>(std::lround(-corner.x)), static_cast<int>(std::lround(-corner.y))};
 }
 
 std::optional<FrameBorders> SdlWindow::Borders() const {

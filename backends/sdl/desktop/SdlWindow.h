@@ -1,5 +1,5 @@
-// One real window of the desktop, as long as it is shown: makes it from a Window's data, presents what has changed and
-// hands it its input. Whatever size the desktop gives it, the whole picture is shown.
+// One real window of the desktop, as long as it is shown: makes it from a Window's data and presents what has changed.
+// Whatever size the desktop gives it, the whole picture is shown. What it does with input is WindowInput's business.
 #pragma once
 
 #include <SDL.h>
@@ -11,7 +11,6 @@
 #include "backends/sdl/drawing/PictureFit.h"
 #include "platform/NominalFrame.h"
 #include "platform/Platform.h"
-#include "platform/WindowInput.h"
 
 namespace prismfall {
 
@@ -28,7 +27,6 @@ class SdlWindow {
         SDL_Window* owner = nullptr;       // of a dialog
         std::optional<Place> frameCorner;  // in points of the desktop; without it the desktop chooses
         float pointsPerGamePixel = 1;      // the scale to ask for; points are the desktop's unit of places and sizes
-        int doubleClickMilliseconds = 500;
     };
 
     // Makes the window and shows it. If the desktop refuses, IsReal is false and the error is SDL_GetError's.
@@ -38,7 +36,7 @@ class SdlWindow {
     SDL_Window* Real() const { return real.get(); }
     std::uint32_t Id() const { return SDL_GetWindowID(real.get()); }
     Window& Data() { return window; }
-    WindowInput& Input() { return input; }
+    const Window& Data() const { return window; }
 
     // Presents what has changed since the last call.
     void Refresh();
@@ -56,6 +54,8 @@ class SdlWindow {
     // A place inside the window, in points, as a place on its picture, or beyond that on the black beside it.
     GamePlace ToGame(int x, int y) const;
     bool IsOnPicture(const GamePlace& place) const;
+    // Where the picture begins on the desktop, in game pixels; nothing on desktops that do not tell.
+    std::optional<Place> Origin() const;
 
   private:
     struct Destroy {
@@ -75,7 +75,6 @@ class SdlWindow {
     Display& display;
     Options options;
     Composer composer;
-    WindowInput input;
     std::unique_ptr<SDL_Window, Destroy> real;
     std::unique_ptr<SDL_Surface, Free> converted;  // only where the desktop's pixels are not 32-bit RGB
     std::vector<SDL_Rect> presented;

@@ -1,0 +1,41 @@
+// The virtual clock, which is never late, and its random numbers.
+#include "backends/headless/HeadlessPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace prismfall {
+namespace {
+
+TEST(HeadlessPlatform, TimersAreNeverLateAndCatchUpWithHandlersThatLetEventsRun) {
+    std::ostringstream printed;
+    HeadlessPlatform machine(printed);
+    std::ostringstream fired;
+    machine.SetTickHandler([&](Timer timer) {
+        fired << machine.Clock() << ':' << "DE"[static_cast<std::size_t>(timer)] << ' ';
+        while (timer == Timer::LineExtender && machine.Clock() < 40) machine.LetEventsRun();
+    });
+    machine.SetTimerInterval(Timer::LineExtender, 10);
+    machine.SetTimerInterval(Timer::LineDeleter, 15);
+    machine.StartTimer(Timer::LineExtender);
+    machine.StartTimer(Timer::LineDeleter);
+    machine.Run(9);
+    EXPECT_EQ(fired.str(), "");
+    machine.Run(31);
+    EXPECT_EQ(fired.str(), "10:E 15:D 30:D 40:E 40:E 40:E ");
+}
+
+TEST(HeadlessPlatform, RandomNumbersComeFromTheQueueFirst) {
+    std::ostringstream printed;
+    HeadlessPlatform machine(printed);
+    machine.QueueRandom(0.25);
+    EXPECT_EQ(machine.Random(), 0.25);
+    EXPECT_EQ(machine.Random(), 1103527590.0 / 2147483648.0);
+    machine.QueueRandom(0.75);
+    EXPECT_EQ(machine.Random(), 0.75) << "queued ones leave the generator alone";
+    EXPECT_EQ(machine.Random(), 377401575.0 / 2147483648.0);
+}
+
+}  // namespace
+}  // namespace prismfall
