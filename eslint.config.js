@@ -33,10 +33,18 @@ export default tseslint.config(
                 ),
                 // What is said to a page in a test runs there.
                 ...Object.fromEntries(
-                    ['document', 'window', 'location', 'localStorage', 'navigator', 'caches'].map((name) => [
-                        name,
-                        'readonly',
-                    ]),
+                    [
+                        'document',
+                        'window',
+                        'location',
+                        'localStorage',
+                        'navigator',
+                        'caches',
+                        'crypto',
+                        'innerWidth',
+                        'innerHeight',
+                        'sessionStorage',
+                    ].map((name) => [name, 'readonly']),
                 ),
             },
         },

@@ -48,7 +48,7 @@ struct Element {
     bool enabled = true;                // a disabled element is not there for the mouse
     bool fastPresses = false;           // the second press of a double click is a press as well
     std::string_view picture = {};      // name of the picture it shows, empty for none
-    std::string_view spoken = {};       // what a screen reader says of it where no text stands, empty for decoration
+    std::string_view spoken = {};       // what a screen reader says of it, before its text; empty for decoration
     std::string text = {};              // starts at the left and top edge; what does not fit is cut off
     std::string_view tag = {};          // which of several pairs of faces a button has
     Colour colour = kBlack;             // of text, marks and outlines

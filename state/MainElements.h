@@ -50,10 +50,12 @@ inline void ShowFace(Element& button, const ButtonFace& face) {
 }
 
 // A number in red on a panel's picture.
-inline Element MakeNumber(std::string_view name, const Element& panel, int left, int top, int width, int height) {
+inline Element MakeNumber(std::string_view name, const Element& panel, int left, int top, int width, int height,
+                          std::string_view spoken) {
     Element number = MakePicture(name, left, top, width, height);
     number.kind = ElementKind::Label;
     number.picture = {};
+    number.spoken = spoken;
     number.colour = kRed;
     number.font = {.family = "Arial", .points = 14.25F};
     number.panel = &panel;
@@ -69,11 +71,11 @@ struct MainElements {
     Element CommandNext = MakeButton("CommandNext", 693, 71, 97, 33, "NextUp", "Next page");
     Element LabelPuzzlePage = MakePicture("LabelPuzzlePage", 680, 110, 129, 57);
     Element PictureScores = MakePicture("PictureScores", 682, -1, 120, 114);
-    Element VScore = MakeNumber("VScore", PictureScores, 57, 22, 57, 23);
-    Element VLevel = MakeNumber("VLevel", PictureScores, 57, 52, 56, 22);
-    Element VHighScore = MakeNumber("VHighScore", PictureScores, 57, 80, 57, 23);
+    Element VScore = MakeNumber("VScore", PictureScores, 57, 22, 57, 23, "Score");
+    Element VLevel = MakeNumber("VLevel", PictureScores, 57, 52, 56, 22, "Level");
+    Element VHighScore = MakeNumber("VHighScore", PictureScores, 57, 80, 57, 23, "High score");
     Element PictureScores2 = MakePicture("PictureScores2", 682, -1, 120, 114);
-    Element LabelPuzzleNr = MakeNumber("LabelPuzzleNr", PictureScores2, 76, 22, 23, 21);
+    Element LabelPuzzleNr = MakeNumber("LabelPuzzleNr", PictureScores2, 76, 22, 23, 21, "Puzzle");
     Element CmdStart = MakeButton("CmdStart", 690, 223, 100, 54, "StartUp", "Start");
     Element cmdPause = MakeButton("cmdPause", 695, 294, 89, 38, "PauseUp", "Pause");
     Element CmdOptions = MakeButton("CmdOptions", 696, 362, 97, 39, "OptionsUp", "Options");

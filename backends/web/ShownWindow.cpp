@@ -2,16 +2,12 @@
 
 #include <algorithm>
 
+#include "platform/NominalFrame.h"
+
 namespace prismfall {
 
-namespace {
-
-constexpr int kDoubleClickMilliseconds = 500;  // no browser tells the desktop's own
-
-}  // namespace
-
-ShownWindow::ShownWindow(Window& shown, std::int32_t pageNumber, Place place)
-    : window(shown), number(pageNumber), input(shown, kDoubleClickMilliseconds) {
+ShownWindow::ShownWindow(Window& shown, std::int32_t pageNumber, Place place) : window(shown), number(pageNumber) {
+    if (window.isDialog) origin = {place.left + kNominalFrame.left, place.top + kNominalFrame.top};
     page::WindowRecord record;
     record.isDialog = window.isDialog ? 1 : 0;
     record.left = place.left;
@@ -61,24 +57,6 @@ void ShownWindow::Send(std::size_t place) const {
     record.text = std::string_view(element.text);
     record.group = element.group;
     page::ShowElement(number, static_cast<std::int32_t>(place), &record);
-}
-
-void ShownWindow::Handle(const page::Event& event) {
-    const auto button = static_cast<MouseButton>(event.number);
-    switch (event.kind) {
-        case page::EventKind::Move:
-            return input.Move(event.x, event.y);
-        case page::EventKind::Press:
-            return input.Press(button, event.x, event.y, static_cast<std::uint32_t>(event.time));
-        case page::EventKind::Release:
-            return input.Release(button, event.x, event.y);
-        case page::EventKind::Activate:
-            return;
-        case page::EventKind::Key:
-            return input.Key(event.number);
-        case page::EventKind::Close:
-            closeBoxUsed = true;
-    }
 }
 
 }  // namespace prismfall

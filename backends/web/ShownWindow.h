@@ -1,39 +1,36 @@
-// One window on the page: tells the page what its elements look like whenever they have changed, and brings the
-// player's input to the window's handlers.
+// One window on the page: tells the page what its elements look like whenever they have changed.
 #pragma once
 
 #include <vector>
 
 #include "backends/web/Imports.h"
 #include "platform/Platform.h"
-#include "platform/WindowInput.h"
 
 namespace prismfall {
 
 class ShownWindow {
   public:
-    // Opens the window on the page under a number. `place` is that of a dialog's frame.
+    // Opens the window on the page under a number. `place` is that of a dialog's frame, from the corner of the main
+    // window's inner area.
     ShownWindow(Window& shown, std::int32_t pageNumber, Place place);
     ~ShownWindow();
     ShownWindow(const ShownWindow&) = delete;
     ShownWindow& operator=(const ShownWindow&) = delete;
 
-    std::int32_t Number() const { return number; }
-    bool Shows(const Window& other) const { return &window == &other; }
-    bool CloseBoxUsed() const { return closeBoxUsed; }
+    Window& Content() const { return window; }
+    // Where the inner area begins, for a dialog and the main window alike.
+    Place Origin() const { return origin; }
 
     // Sends the page every element that is not as it was last sent.
     void Refresh();
-    void Handle(const page::Event& event);
 
   private:
     void Send(std::size_t place) const;
 
     Window& window;
     std::int32_t number;
-    WindowInput input;
+    Place origin;
     std::vector<Element> sent;
-    bool closeBoxUsed = false;
 };
 
 }  // namespace prismfall

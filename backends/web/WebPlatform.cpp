@@ -3,25 +3,22 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/NominalFrame.h"
 #include "platform/SettingsText.h"
 
 namespace prismfall {
 
 namespace {
 
-constexpr Extent kNominalFrame{4, 27};  // both sides together
-constexpr Place kNominalCorner{2, 25};  // of the inner area in the frame
 constexpr int kFullVolume = 1000;
 constexpr double kYieldRest = 1;  // milliseconds
 constexpr double kLongestWait = 60'000;
 constexpr std::size_t kRateAt = 28;    // in a wave file of plain samples: bytes a second
 constexpr std::size_t kLengthAt = 40;  // and bytes in all
 
-Nanoseconds ToNanoseconds(double milliseconds) { return Nanoseconds(static_cast<std::int64_t>(milliseconds * 1e6)); }
+Nanoseconds PageTime() { return Nanoseconds(static_cast<std::int64_t>(page::Now() * 1e6)); }
 
-double ToMilliseconds(Nanoseconds time) { return static_cast<double>(time.count()) / 1e6; }
-
-Nanoseconds Now() { return ToNanoseconds(page::Now()); }
+double Milliseconds(Nanoseconds time) { return static_cast<double>(time.count()) / 1e6; }
 
 // From 0xAARRGGBB to red, green, blue and opacity in memory.
 std::uint32_t PagePixel(std::uint32_t pixel) {
@@ -50,59 +47,74 @@ SettingsText StoredSettings() {
 
 // --- The loop.
 
+WebPlatform::WebPlatform() : time(PageTime), timers(time) {}
+
 void WebPlatform::Run(Window& mainWindow) {
     Show(mainWindow);
     while (!ended) {
         Work();
-        DeliverMinimised();
+        timers.Handle([this] { DeliverMinimised(); });
+        Refresh();
         Rest();
     }
 }
 
-bool WebPlatform::Work() {
+void WebPlatform::Work() {
     NoteVisibility();
-    const bool handled = HandlePending();
-    const bool ticked = TickDue();
+    timers.TickDue();
+    HandleEvents();
     Refresh();
-    return handled || ticked;
 }
 
-bool WebPlatform::HandlePending() {
+// One event after the other: each may close the window that the next one was meant for.
+bool WebPlatform::HandleEvents() {
     page::Event event;
     bool handled = false;
     while (!ended && page::TakeEvent(&event) != 0) {
+        timers.Handle([&] { Handle(event); });
         handled = true;
-        if (!shown.empty() && shown.back()->Number() == event.window) shown.back()->Handle(event);
     }
     return handled;
 }
 
-bool WebPlatform::TickDue() {
-    const Nanoseconds now = Now();
-    bool ticked = false;
-    while (!ended) {
-        const std::optional<Timer> timer = timers.TakeDue(now);
-        if (!timer) break;
-        if (tick) tick(*timer);
-        timers.Finish(*timer);
-        ticked = true;
+void WebPlatform::Handle(const page::Event& event) {
+    if (ended || shown.empty() || event.window != static_cast<std::int32_t>(shown.size()) - 1) return;
+    ShownWindow& front = *shown.back();
+    Window& window = front.Content();
+    switch (event.kind) {
+        case page::EventKind::Move:
+            return input.Move(window, event.x, event.y);
+        case page::EventKind::Press:
+            return input.Press(window, static_cast<MouseButton>(event.number),
+                               {event.x, event.y, static_cast<std::uint32_t>(event.time), front.Origin()});
+        case page::EventKind::Release:
+            return input.Release(window, static_cast<MouseButton>(event.number), event.x, event.y);
+        case page::EventKind::Activate:
+            return input.PressAndClick(window, *window.elements[static_cast<std::size_t>(event.number)]);
+        case page::EventKind::Key:
+            return input.Key(window, event.number);
+        case page::EventKind::Close:
+            closeBoxUsed = true;
     }
-    return ticked;
 }
 
 void WebPlatform::Rest() {
     if (ended) return;
-    const double latest = page::Now() + kLongestWait;
     const std::optional<Nanoseconds> due = timers.NextDue();
-    page::Wait(due ? std::min(ToMilliseconds(*due), latest) : latest, 1);
+    const double rest = due ? Milliseconds(*due - time.Now()) : kLongestWait;
+    page::Wait(page::Now() + std::min(rest, kLongestWait), 1);
 }
 
 void WebPlatform::LetEventsRun() {
-    if (ended || Work()) return;
-    page::Wait(page::Now() + kYieldRest, 1);
+    if (ended) return;
+    NoteVisibility();
+    const bool worked = timers.LetEventsRun([this] { return HandleEvents(); });
+    Refresh();
+    if (!worked && !ended) page::Wait(page::Now() + kYieldRest, 1);
 }
 
 void WebPlatform::PaintFor(double length) {
+    const GameTime::Standstill standstill(time);
     Refresh();
     const double end = page::Now() + length;
     while (!ended && page::Now() < end) {
@@ -123,7 +135,6 @@ void WebPlatform::DeliverMinimised() {
     if (ended || hidden == minimised) return;
     minimised = hidden;
     if (main->on.resize) main->on.resize(minimised);
-    Refresh();
 }
 
 // --- The picture.
@@ -161,36 +172,43 @@ void WebPlatform::SurfaceClear() { layer.Clear(); }
 
 // --- Windows.
 
+void WebPlatform::Open(Window& window, Place place) {
+    window.visible = true;
+    shown.push_back(std::make_unique<ShownWindow>(window, static_cast<std::int32_t>(shown.size()), place));
+    input.Open(window);
+}
+
 void WebPlatform::Show(Window& window) {
     if (window.visible || ended) return;
     main = &window;
-    window.visible = true;
-    shown.push_back(std::make_unique<ShownWindow>(window, page::kMainWindow, Place{}));
+    Open(window, {});
     Refresh();
-    if (window.on.activate) window.on.activate();
+    timers.Handle([&window] {
+        if (window.on.activate) window.on.activate();
+    });
 }
 
 void WebPlatform::Hide(Window& window) { window.visible = false; }
 
 bool WebPlatform::ShowModally(Window& dialog) {
-    if (dialog.visible || ended) return false;
-    dialog.visible = true;
-    const Place place{dialogPlace.left - kNominalCorner.left, dialogPlace.top - kNominalCorner.top};
-    shown.push_back(std::make_unique<ShownWindow>(dialog, static_cast<std::int32_t>(shown.size()), place));
-    const ShownWindow& window = *shown.back();
+    if (dialog.visible) return true;
+    if (ended) return false;
+    Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
+    closeBoxUsed = false;
     if (dialog.on.activate) dialog.on.activate();
-    for (Work(); !ended && dialog.visible && !window.CloseBoxUsed(); Work()) Rest();
+    for (Work(); !ended && dialog.visible && !closeBoxUsed; Work()) Rest();
+    timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
     if (!wasHidden && dialog.on.unload) dialog.on.unload();
     dialog.visible = false;
+    input.Close(dialog);
     shown.pop_back();
+    closeBoxUsed = false;
     return wasHidden;
 }
 
-Extent WebPlatform::OuterSize(const Window& window) {
-    return {window.innerWidth + kNominalFrame.width, window.innerHeight + kNominalFrame.height};
-}
+Extent WebPlatform::OuterSize(const Window& window) { return WithFrame(InnerSize(window), kNominalFrame); }
 
 Extent WebPlatform::InnerSize(const Window& window) { return {window.innerWidth, window.innerHeight}; }
 
@@ -198,8 +216,9 @@ Extent WebPlatform::InnerSize(const Window& window) { return {window.innerWidth,
 Place WebPlatform::Position(const Window& window) { return window.isDialog ? dialogPlace : Place{}; }
 
 void WebPlatform::SetOuterSize(Window& window, Extent size) {
-    window.innerWidth = size.width - kNominalFrame.width;
-    window.innerHeight = size.height - kNominalFrame.height;
+    const Extent inner = WithoutNominalFrame(size);
+    window.innerWidth = inner.width;
+    window.innerHeight = inner.height;
 }
 
 void WebPlatform::SetPosition(Window& window, Place place) {
@@ -207,10 +226,12 @@ void WebPlatform::SetPosition(Window& window, Place place) {
 }
 
 void WebPlatform::ShowMessageBox(std::string_view text) {
+    if (ended) return;
+    const GameTime::Standstill standstill(time);
     page::OpenMessage(text.data(), static_cast<std::uint32_t>(text.size()));
     Refresh();
     page::Event event;
-    while (!ended) {
+    for (;;) {
         while (page::TakeEvent(&event) != 0)
             if (event.window == page::kMessageBox) return;
         page::Wait(page::Now() + kLongestWait, 1);
@@ -221,18 +242,21 @@ void WebPlatform::ShowMessageBox(std::string_view text) {
 void WebPlatform::EndProgram() {
     Refresh();
     ended = true;
+    timers.StopAll();
     page::EndProgram();
 }
 
 // --- Timers, time and chance.
 
-void WebPlatform::SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
+void WebPlatform::SetTickHandler(std::function<void(Timer)> handler) { timers.SetTickHandler(std::move(handler)); }
 
-void WebPlatform::StartTimer(Timer timer) { timers.Start(timer, Now()); }
+void WebPlatform::StartTimer(Timer timer) {
+    if (!ended) timers.Start(timer);
+}
 
 void WebPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
 
-void WebPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds, Now()); }
+void WebPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
 
 std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()); }
 

@@ -12,11 +12,14 @@
 #include "platform/Platform.h"
 #include "platform/Surface.h"
 #include "platform/TimerWheel.h"
+#include "platform/WindowInput.h"
 
 namespace prismfall {
 
 class WebPlatform final : public Platform {
   public:
+    WebPlatform();
+
     // Shows the main window and lets events run until the program ends.
     void Run(Window& main);
 
@@ -62,17 +65,16 @@ class WebPlatform final : public Platform {
     std::string MusicFailureText(int code) override;
 
   private:
-    // These tell whether there was anything to do.
-    bool Work();
-    bool HandlePending();
-    bool TickDue();
-
+    void Work();
+    bool HandleEvents();  // whether there were any
+    void Handle(const page::Event& event);
     void Rest();
-    void Refresh();
-    void SendSurface();
+    void PaintFor(double length);
     void NoteVisibility();
     void DeliverMinimised();
-    void PaintFor(double length);
+    void Open(Window& window, Place place);
+    void Refresh();
+    void SendSurface();
 
     Surface layer;
     std::vector<PixelBox> damage;
@@ -81,9 +83,11 @@ class WebPlatform final : public Platform {
     Window* main = nullptr;
     std::vector<std::unique_ptr<ShownWindow>> shown;  // the main window, then dialogs in the order of their opening
     Place dialogPlace;                                // where the next dialog's frame will stand
+    bool closeBoxUsed = false;                        // of the dialog in front
 
+    WindowInput input;
+    GameTime time;
     TimerWheel timers;
-    std::function<void(Timer)> tick;
     bool ended = false;
     bool hidden = false;     // as the page was last seen
     bool minimised = false;  // as the main window was last told

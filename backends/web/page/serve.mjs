@@ -1,6 +1,7 @@
 // Serves build/web on this machine alone, for trying the page and for its tests:
-//   node serve.mjs [FOLDER]
-// prints the address and goes on until it is stopped.
+//   node serve.mjs [FOLDER [open]]
+// prints the address, opens it in a browser if asked to and if there is one, and goes on until it is stopped.
+import { spawn } from 'node:child_process';
 import { createReadStream, existsSync, statSync } from 'node:fs';
 import { createServer } from 'node:http';
 import { dirname, extname, join, normalize } from 'node:path';
@@ -18,11 +19,12 @@ const types = {
     '.webmanifest': 'application/manifest+json',
 };
 
-/** A server of the folder, on a free port. `refuses` says which paths cannot be had. */
+/** A server on a free port, of a folder that may be changed meanwhile. `refuses` says which paths cannot be had. */
 export async function serve(folder, refuses = () => false) {
-    const server = createServer((request, response) => {
+    const site = { folder };
+    site.server = createServer((request, response) => {
         const path = normalize(decodeURIComponent(new URL(request.url, 'http://x').pathname));
-        const file = join(folder, path.endsWith('/') ? `${path}index.html` : path);
+        const file = join(site.folder, path.endsWith('/') ? `${path}index.html` : path);
         if (!existsSync(file) || !statSync(file).isFile() || refuses(path)) {
             response.writeHead(404).end();
             return;
@@ -41,12 +43,14 @@ export async function serve(folder, refuses = () => false) {
         response.writeHead(range ? 206 : 200, headers);
         createReadStream(file, { start: first, end: last }).pipe(response);
     });
-    await new Promise((resolve) => server.listen(0, '127.0.0.1', resolve));
-    return { server, address: `http://127.0.0.1:${server.address().port}/` };
+    await new Promise((resolve) => site.server.listen(0, '127.0.0.1', resolve));
+    site.address = `http://127.0.0.1:${site.server.address().port}/`;
+    return site;
 }
 
 if (argv[1] === fileURLToPath(import.meta.url)) {
     const root = join(dirname(fileURLToPath(import.meta.url)), '../../..');
     const { address } = await serve(argv[2] ?? join(root, 'build/web'));
-    console.log(address);
+    console.log(`Prismfall is at ${address} (Ctrl+C ends it)`);
+    if (argv[3] === 'open') spawn('xdg-open', [address], { stdio: 'ignore' }).on('error', () => undefined);
 }

@@ -53,7 +53,7 @@ class Shown {
             case Kind.Outline:
                 this.node = make('div', 'outline');
         }
-        (this.input ?? this.node).dataset['element'] = String(place);
+        this.node.dataset['element'] = String(place);
     }
 }
 

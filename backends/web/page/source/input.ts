@@ -48,12 +48,14 @@ export class Input {
         if (held) this.send(EventKind.Release, held, event.button === 0 ? leftButton : rightButton, event);
     }
 
-    /** A second finger is the right button, as is every finger while the switch says so. */
+    /** A second finger is the right button, as is every finger while the switch says so; buttons want the left one. */
     private putFinger(event: PointerEvent, held: Held): void {
         if (event.pointerType !== 'touch') return;
         event.preventDefault();
         this.pressSeen = true;
-        const button = this.fingersPressRight || this.fingers.size > 0 ? rightButton : leftButton;
+        const isOnButton = event.target instanceof Element && event.target.closest('button, label') !== null;
+        const isRight = !isOnButton && (this.fingersPressRight || this.fingers.size > 0);
+        const button = isRight ? rightButton : leftButton;
         this.fingers.set(event.pointerId, { ...held, button });
         this.send(EventKind.Press, held, button, event);
     }
@@ -70,7 +72,7 @@ export class Input {
     private click(event: MouseEvent, held: Held): void {
         const element =
             event.target instanceof HTMLElement ? event.target.closest<HTMLElement>('[data-element]') : null;
-        if (element instanceof HTMLInputElement) event.preventDefault();
+        if (element instanceof HTMLLabelElement) event.preventDefault();
         const isOfPress = event.detail > 0 && this.pressSeen;
         this.pressSeen = false;
         if (!element || isOfPress) return;

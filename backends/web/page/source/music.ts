@@ -9,12 +9,14 @@ export class Music {
     private readonly notices: Notices;
     /** Whether the game wants the track to be heard now, whatever the browser says to that. */
     private wanted = false;
+    private told = '';
 
     constructor(notices: Notices) {
         this.notices = notices;
         this.player.preload = 'auto';
         this.player.addEventListener('ended', () => (this.wanted = false));
-        this.player.addEventListener('error', () => this.tellFailure());
+        this.player.addEventListener('error', () => this.tell('The music cannot be loaded.'));
+        this.player.addEventListener('playing', () => this.tell(''));
         onPress(() => this.sound());
         document.addEventListener('visibilitychange', () => this.sound());
     }
@@ -69,7 +71,9 @@ export class Music {
         if (this.player.paused) this.player.play().catch(() => undefined);
     }
 
-    private tellFailure(): void {
-        if (this.player.hasAttribute('src')) this.notices.show('The music cannot be loaded.');
+    private tell(sentence: string): void {
+        if (sentence === this.told || !this.player.hasAttribute('src')) return;
+        this.told = sentence;
+        this.notices.show(sentence);
     }
 }

@@ -2,7 +2,8 @@
 // used from the next start on at which nobody plays the old one any more.
 import { build } from './build';
 
-const takeOverLimit = 1000; // milliseconds
+const takeOverLimit = 1500; // milliseconds
+const takeOverPause = 100;
 
 /** Whether a new version has just taken over, so that this page has to be loaded anew. */
 export async function takeNewVersion(): Promise<boolean> {
@@ -10,9 +11,16 @@ export async function takeNewVersion(): Promise<boolean> {
     const waiting = (await workers?.getRegistration().catch(() => undefined))?.waiting;
     if (!workers || !waiting) return false;
     return new Promise((resolve) => {
-        workers.addEventListener('controllerchange', () => resolve(true));
-        setTimeout(() => resolve(false), takeOverLimit);
-        waiting.postMessage('take over');
+        // The page before this one may take a moment to go.
+        const ask = () => waiting.postMessage('take over');
+        const asking = setInterval(ask, takeOverPause);
+        const end = (hasTakenOver: boolean) => {
+            clearInterval(asking);
+            resolve(hasTakenOver);
+        };
+        workers.addEventListener('controllerchange', () => end(true));
+        setTimeout(() => end(false), takeOverLimit);
+        ask();
     });
 }
 

@@ -1,0 +1,88 @@
+// What a player sees and does: buttons by their words, places by game pixels, all with a real mouse.
+import assert from 'node:assert';
+import { createHash } from 'node:crypto';
+import { sleep } from './browsers.mjs';
+
+export class Game {
+    constructor(page) {
+        this.page = page;
+    }
+
+    async open(address) {
+        await this.page.go(address);
+        await this.until('the first picture', () => document.querySelector('#picture img') !== null);
+        return this;
+    }
+
+    /** Waits until a question put to the page is answered by something true, and returns that. */
+    async until(what, question, ...values) {
+        for (const end = Date.now() + 60_000; Date.now() < end; await sleep(50)) {
+            const answer = await this.page.evaluate(question, ...values);
+            if (answer) return answer;
+        }
+        assert.fail(`waited in vain for ${what}`);
+    }
+
+    /** The middle of a button or of a marked choice in the window in front. */
+    placeOf(words) {
+        const find = (text) => {
+            const front = [...document.querySelectorAll('dialog[open]')].at(-1) ?? document;
+            const shown = [...front.querySelectorAll('button, label')].filter((node) => node.offsetParent !== null);
+            const named = shown.find(
+                (node) =>
+                    (node.querySelector('img')?.alt ?? node.getAttribute('aria-label') ?? node.textContent) === text,
+            );
+            const box = named?.getBoundingClientRect();
+            return box && [box.left + box.width / 2, box.top + box.height / 2];
+        };
+        return this.until(`“${words}”`, find, words);
+    }
+
+    click = async (words) => this.page.click(...(await this.placeOf(words)));
+
+    /** A place of the main window on the page. */
+    async at(x, y) {
+        const find = () => {
+            const { left, top, width } = document.getElementById('picture').getBoundingClientRect();
+            return [left, top, width / 802];
+        };
+        const [left, top, scale] = await this.page.evaluate(find);
+        return [left + x * scale, top + y * scale];
+    }
+
+    press = async (x, y, button) => this.page.click(...(await this.at(x, y)), button);
+
+    dialog = (title) =>
+        this.until(
+            `the dialog ${title}`,
+            (text) => document.querySelector('dialog[open] h2')?.textContent === text,
+            title,
+        );
+
+    noDialog = () => this.until('the dialog to go', () => document.querySelector('dialog') === null);
+
+    /** The painted layer, as a hash of its pixels: red, green, blue and opacity, row by row. */
+    async surface() {
+        const read = async () => {
+            const canvas = document.querySelector('canvas');
+            const { data } = canvas.getContext('2d').getImageData(0, 0, canvas.width, canvas.height);
+            const digest = new Uint8Array(await crypto.subtle.digest('SHA-256', data));
+            return [...digest].map((byte) => byte.toString(16).padStart(2, '0')).join('');
+        };
+        return this.page.evaluate(read);
+    }
+
+    async untilMoved() {
+        const before = await this.surface();
+        for (let i = 0; i < 100; ++i, await sleep(50)) if ((await this.surface()) !== before) return;
+        assert.fail('nothing moves');
+    }
+
+    stored = (key) =>
+        this.page.evaluate(
+            (name) => new RegExp(`^${name}=(.*)$`, 'm').exec(localStorage.getItem('prismfall') ?? '')?.[1],
+            key,
+        );
+}
+
+export const hashOf = (bytes) => createHash('sha256').update(bytes).digest('hex');

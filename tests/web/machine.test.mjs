@@ -1,0 +1,237 @@
+// What a browser does to a page: fingers, small screens, tabs, hidden pages, no network, new versions, files and storage
+// that cannot be had; and whether people who do not see or do not use a mouse can play. In Chromium.
+import assert from 'node:assert';
+import { cpSync, readdirSync, readFileSync, renameSync, rmSync, writeFileSync } from 'node:fs';
+import { after, afterEach, before, beforeEach, test } from 'node:test';
+import { serve } from '../../backends/web/page/serve.mjs';
+import { sleep, startBrowser } from './browsers.mjs';
+import { Game } from './game.mjs';
+
+let browser, site, profile;
+let missing = () => false;
+
+before(async () => {
+    site = await serve('build/web', (path) => missing(path));
+    browser = await startBrowser('chromium');
+});
+beforeEach(async () => {
+    missing = () => false;
+    profile = await browser.newProfile();
+});
+afterEach(() => profile.close());
+after(async () => {
+    await browser.close();
+    site.server.closeAllConnections();
+    site.server.close();
+});
+
+const laterRun = "localStorage.setItem('prismfall', `[General]\\nPlayFirstTime=False\\n${SETTINGS}`)";
+
+/** A page of a later run, with these settings and after this preparation. */
+async function openGame({
+    settings = 'Music=False\n[Scores]\nScore1=340\n',
+    prepare = '',
+    size = [900, 760],
+    ...options
+} = {}) {
+    const page = await browser.newPage(profile);
+    await page.size(...size, options);
+    const stored = laterRun.replace('SETTINGS', JSON.stringify(settings));
+    await page.page.evaluateOnNewDocument(`if (!sessionStorage.begun) ${stored}; sessionStorage.begun = 1; ${prepare}`);
+    return new Game(page).open(site.address);
+}
+
+const focused = () => document.activeElement.querySelector('img')?.alt ?? document.activeElement.type;
+
+async function tabTo(game, words) {
+    for (let i = 0; i < 20; ++i) {
+        if ((await game.page.evaluate(focused)) === words) return;
+        await game.page.key('Tab');
+    }
+    assert.fail(`no way to ${words} by the keyboard`);
+}
+
+test('all buttons can be reached and pressed by keys, and options outlast the page', async () => {
+    const game = await openGame();
+    await tabTo(game, 'Options');
+    await game.page.key('Enter');
+    await game.dialog('Options');
+    await tabTo(game, 'radio');
+    for (let i = 0; i < 6; ++i) await game.page.key('ArrowDown');
+    await tabTo(game, 'checkbox');
+    await game.page.key('Space');
+    await game.page.key('Escape');
+    await tabTo(game, 'OK');
+    await game.page.key('Enter');
+    await game.noDialog();
+    await game.page.page.reload();
+    await game.click('Options');
+    await game.dialog('Options');
+    const checked = await game.page.evaluate(() =>
+        [...document.querySelectorAll('input:checked')].map((input) => input.closest('label').textContent),
+    );
+    assert.deepEqual(checked, ['Level 7']);
+});
+
+test('screen readers meet no obstacle', async () => {
+    const axe = readFileSync('node_modules/axe-core/axe.min.js', 'utf8');
+    const game = await openGame();
+    const check = async (where) => {
+        await game.page.evaluate(axe);
+        const { violations } = await game.page.evaluate(() => globalThis.axe.run());
+        assert.deepEqual(
+            violations.map(({ id, nodes }) => [id, nodes[0].html]),
+            [],
+            where,
+        );
+    };
+    await check('menu');
+    for (const [button, title] of [
+        ['About', 'About Prisfall v1.1'],
+        ['Scores', 'Highscore'],
+        ['Options', 'Options'],
+    ]) {
+        await game.click(button);
+        await game.dialog(title);
+        await check(title);
+        await game.click('OK');
+        await game.noDialog();
+    }
+    await game.click('Arcade');
+    await game.untilMoved();
+    await check('Arcade');
+    assert.match(
+        await game.page.evaluate(() => document.getElementById('voice').textContent),
+        /Score 0.*High score 340/,
+    );
+    assert.deepEqual(game.page.faults, []);
+});
+
+test('fingers on a phone press both buttons', async () => {
+    const game = await openGame({ size: [390, 780], deviceScaleFactor: 3, hasTouch: true, isMobile: true });
+    const touch = game.page.page.touchscreen;
+    const tap = async (words) => game.page.tap(...(await game.placeOf(words)));
+    await tap('Puzzle');
+    for (let i = 0; i < 4; ++i) await tap('Next page');
+    await game.page.tap(...(await game.at(120, 120)));
+    await tap('Start');
+    await tap('Speed up');
+    await game.page.tap(...(await game.at(334, 340)));
+    await game.dialog('Puzzle Result');
+    await tap('Try again');
+    await game.noDialog();
+    await tap('Speed up');
+    await tap('Start');
+    const resting = await touch.touchStart(...(await game.at(60, 560)));
+    const second = await touch.touchStart(...(await game.at(334, 340)));
+    await second.end();
+    await resting.end();
+    await game.dialog('Puzzle Result');
+    const fits = () =>
+        [...document.querySelectorAll('dialog, #picture')].every((node) => {
+            const { left, right, top, bottom } = node.getBoundingClientRect();
+            return left >= 0 && top >= 0 && right <= innerWidth && bottom <= innerHeight;
+        });
+    assert.ok(await game.page.evaluate(fits));
+});
+
+test('a hidden page stands still, and two tabs lose nothing of each other', async () => {
+    const first = await openGame({ settings: 'Music=False\n[SolvedPuzzles]\nPuzzle9=True\n' });
+    const second = await openGame({ settings: 'Music=False\n[SolvedPuzzles]\nPuzzle9=True\n' });
+    await second.click('Options');
+    await second.click('Effects');
+    await second.click('OK');
+    await first.page.page.bringToFront();
+    await first.click('Options');
+    await first.click('Level 3');
+    await first.click('OK');
+    await first.click('Arcade');
+    await first.untilMoved();
+    await second.page.page.bringToFront();
+    await first.until('the pause', () => document.querySelector('[alt=Resume]') !== null);
+    assert.equal(await first.stored('StartLevel'), '3');
+    await first.page.page.bringToFront();
+    await sleep(500);
+    for (const [key, value] of [
+        ['StartLevel', '3'],
+        ['SoundEffects', 'False'],
+        ['Puzzle9', 'True'],
+        ['Puzzle45', 'False'],
+    ])
+        assert.equal(await first.stored(key), value, key);
+});
+
+test('what cannot be had is told in a sentence, and the game goes on', async () => {
+    missing = (path) => /mp3$|PuzzleUp|wav$/.test(path);
+    const notice = (game, words) =>
+        game.until(words, (text) => document.getElementById('notice').textContent.includes(text), words);
+    const game = await openGame({
+        settings: '',
+        prepare: 'Storage.prototype.setItem = () => { throw new Error("full"); }',
+    });
+    await game.click('Puzzle');
+    await game.press(345, 300);
+    await game.click('Start');
+    await notice(game, 'music');
+    await game.untilMoved();
+    await game.page.key('Escape');
+    await game.page.key('Escape');
+    await game.click('Exit');
+    await notice(game, 'does not let the game keep');
+    await game.click('Play again');
+    await sleep(1000);
+    await game.click('Arcade');
+
+    for (const [prepare, sentence] of [
+        ['delete globalThis.WebAssembly', 'lacks WebAssembly'],
+        ['', 'could not be loaded'],
+    ]) {
+        missing = (path) => path.endsWith('.wasm');
+        const page = await browser.newPage(profile);
+        await page.page.evaluateOnNewDocument(prepare);
+        await page.go(site.address);
+        await new Game(page).until(sentence, (text) => document.body.textContent.includes(text), sentence);
+    }
+});
+
+/** The same page under another version's name. */
+function makeNewVersion(folder) {
+    rmSync(folder, { recursive: true, force: true });
+    cpSync('build/web', folder, { recursive: true });
+    const old = readdirSync(folder).find((file) => file.startsWith('version-'));
+    renameSync(`${folder}/${old}`, `${folder}/version-new`);
+    for (const file of ['index.html', 'service-worker.js', 'version-new/page.js'])
+        writeFileSync(`${folder}/${file}`, readFileSync(`${folder}/${file}`, 'utf8').replaceAll(old, 'version-new'));
+}
+
+test('it starts without a network, and a new version comes as a whole at a start', async () => {
+    const game = await openGame();
+    const { page } = game.page;
+    await game.until('the page to be kept', () =>
+        navigator.serviceWorker.getRegistration().then((found) => !!found?.active),
+    );
+    missing = () => true;
+    await page.reload();
+    await game.click('Arcade');
+    await game.untilMoved();
+
+    makeNewVersion('build/web-tests/new');
+    site.folder = 'build/web-tests/new';
+    missing = () => false;
+    await page.reload();
+    await game.until('the new version', () =>
+        navigator.serviceWorker.getRegistration().then((found) => !!found?.waiting),
+    );
+    const used = () => [
+        ...new Set(
+            [...document.querySelectorAll('img[srcset], script')].map(
+                (node) => /version-\w+/.exec(node.srcset || node.src)[0],
+            ),
+        ),
+    ];
+    assert.equal((await game.page.evaluate(used)).length, 1);
+    assert.notDeepEqual(await game.page.evaluate(used), ['version-new']);
+    await page.reload();
+    await game.until('its start', () => document.querySelector('#picture img')?.srcset.includes('version-new'));
+    assert.deepEqual(await game.page.evaluate(used), ['version-new']);
+});

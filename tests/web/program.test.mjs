@@ -1,0 +1,32 @@
+// The driver compiled to WebAssembly against the native one: every story, and every puzzle's solution for both values
+// that the growth toggle can start with, byte for byte.
+import assert from 'node:assert';
+import { spawnSync } from 'node:child_process';
+import { readdirSync, readFileSync } from 'node:fs';
+import { test } from 'node:test';
+
+const native = (script) => spawnSync('build/release/prismfall-headless', { input: script });
+const wasm = (script) => spawnSync(process.execPath, ['--no-warnings', 'tests/web/run-wasi.mjs'], { input: script });
+
+test('stories in WebAssembly', () => {
+    const stories = readdirSync('tests/stories').filter((file) => file.endsWith('.script'));
+    assert.ok(stories.length > 10);
+    for (const story of stories) {
+        const script = readFileSync(`tests/stories/${story}`);
+        const [expected, run] = [native(script), wasm(script)];
+        assert.equal(run.stdout.toString(), expected.stdout.toString(), story);
+        assert.equal(run.stderr.toString(), expected.stderr.toString(), story);
+        assert.equal(run.status, expected.status, story);
+    }
+});
+
+test('solutions in WebAssembly', () => {
+    const lines = ['setting General PlayFirstTime False', 'load', 'paint on'];
+    for (const toggle of [0, 1])
+        for (let puzzle = 1; puzzle <= 45; ++puzzle)
+            lines.push(`set GrowthToggle ${toggle}`, `solution ${puzzle}`, 'run 90000', 'dump');
+    const script = lines.join('\n');
+    const [expected, run] = [native(script), wasm(script)].map(({ stdout }) => stdout.toString());
+    assert.equal(expected.match(/dialog VPuzzleResult solved/g).length, 90);
+    assert.ok(run === expected, 'the two print the same');
+});
