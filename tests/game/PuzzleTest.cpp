@@ -8,35 +8,33 @@
 namespace prismfall {
 namespace {
 
+// Beams, and "HEAD:LINKS/STOPS" of each, with places in Lines: a chain, also straight on or the other way round; not
+// one of two colours; heads on heads, of two colours and ways; heads on beams; none; two against one, and a head that
+// has moved.
+constexpr char kLayouts[] = R"(
+    100,100 150,150 red; 150,150 120,180 red  | 150,150:2/ 120,180:1/
+    100,100 150,150 red; 150,150 180,180 red  | 150,150:2/ 180,180:1/
+    150,150 120,180 red; 100,100 150,150 red  | 120,180:2/ 150,150:1/
+    100,100 150,150 red; 150,150 120,180 blue | 146,146:/ 120,180:/1
+    100,100 150,150 red; 200,100 150,150 blue | 147,147:/2 153,147:/1
+    100,100 150,150 red; 200,100 150,150 red  | 146,146:/ 150,150:/1
+    100,100 150,150 red; 120,120 150,150 blue | 146,146:/ 150,150:/1
+    100,100 150,150 red; 200,100 120,180 red  | 146,146:/ 120,180:/1
+    100,100 150,150 red; 201,100 121,180 red  | 150,150:/ 121,180:/
+    100,100 150,150 red; 200,100 151,149 blue | 150,150:/ 151,149:/
+    100,100 150,150 red; 200,100 120,180 blue; 80,80 150,150 green | 142,142:/ 120,180:/1 3 146,146:/1
+)";
+
 TEST(LinkPuzzleLines, AppliesTheFirstRuleThatHolds) {
-    struct Case {
-        const char* beams;
-        const char* linked;  // "HEAD:LINKS/STOPS" of each beam, with places in Lines
-    };
-    constexpr Case kCases[] = {
-        // A chain, in either order, bent or straight on; not one of two colours.
-        {"100,100 150,150 red; 150,150 120,180 red", "150,150:2/ 120,180:1/ "},
-        {"100,100 150,150 red; 150,150 180,180 red", "150,150:2/ 180,180:1/ "},
-        {"150,150 120,180 red; 100,100 150,150 red", "120,180:2/ 150,150:1/ "},
-        {"100,100 150,150 red; 150,150 120,180 blue", "146,146:/ 120,180:/1 "},
-        // Head on head, of two colours and ways; else it is a head against a beam.
-        {"100,100 150,150 red; 200,100 150,150 blue", "147,147:/2 153,147:/1 "},
-        {"100,100 150,150 red; 200,100 150,150 red", "146,146:/ 150,150:/1 "},
-        {"100,100 150,150 red; 120,120 150,150 blue", "146,146:/ 150,150:/1 "},
-        {"100,100 150,150 red; 200,100 120,180 red", "146,146:/ 120,180:/1 "},
-        {"100,100 150,150 red; 201,100 121,180 red", "150,150:/ 121,180:/ "},
-        {"100,100 150,150 red; 200,100 151,149 blue", "150,150:/ 151,149:/ "},
-        // Two against one, and a head that has moved.
-        {"100,100 150,150 red; 200,100 120,180 blue; 80,80 150,150 green", "142,142:/ 120,180:/1 3 146,146:/1 "}};
-    for (const Case& c : kCases) {
-        TestGame game(kPuzzleGame, c.beams);
+    for (const auto& row : Rows(kLayouts)) {
+        TestGame game(kPuzzleGame, row[0]);
         VMain& main = game.Main();
         LinkPuzzleLines(main);
         std::string linked;
         for (const CLine* beam : main.Lines)
             linked += std::to_string(beam->XEnd) + ',' + std::to_string(beam->YEnd) + ':' +
                       Places(main, beam->LinkedLines) + '/' + Places(main, beam->StoppingLines) + ' ';
-        EXPECT_EQ(linked, c.linked) << c.beams;
+        EXPECT_EQ(linked, row[1] + ' ') << row[0];
     }
 }
 

@@ -10,42 +10,33 @@
 namespace prismfall {
 namespace {
 
+// The step: s speeds up, b bends first, 2 acts on the beams of that number. What becomes of the beam that triggers it;
+// of the two beams of number 2; what is added.
+constexpr char kSteps[] = R"(
+       | 100,100 150,150 blue stopped #1 | 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2 | ; 150,150 150,150 blue left #1
+    b  | 100,100 150,150 blue stopped #1 | 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2 | ; 150,150 150,150 blue left #1
+    s  | 100,100 585,585 blue #1         | 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2 |
+    sb | 100,100 150,150 blue stopped #1 | 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2 | ; 150,150 13,287 blue stopped #1; 13,287 311,585 blue #1
+    2  | 100,100 150,150 blue #1         | 500,100 520,120 green #2; 400,100 350,150 red #2                 |
+    2s | 100,100 150,150 blue #1         | 500,100 670,270 green stopped #2; 400,100 13,487 red stopped #2  | ; 670,270 355,585 green #2; 13,487 111,585 red #2
+    2b | 100,100 150,150 blue #1         | 500,100 520,120 green stopped #2; 400,100 350,150 red stopped #2 | ; 520,120 520,120 green left #2; 350,150 350,150 red #2
+    2sb| 100,100 150,150 blue #1         | 500,100 520,120 green stopped #2; 400,100 350,150 red stopped #2 | ; 520,120 55,585 green #2; 350,150 416,216 red stopped #2
+    9sb| 100,100 150,150 blue #1         | 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2 |
+)";
+
 TEST(PlaySolutionStep, ActsByTheTable) {
-    struct Case {
-        std::int16_t speedUp, otherLineNr, bendFirst;
-        const char* trigger;  // after the step
-        const char* others;   // the two beams of number 2, then those that are new
-    };
-    const char* const kTrigger = "100,100 150,150 blue #1";
-    const char* const kOthers = "; 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2";
-    const Case kCases[] = {
-        {0, 0, 0, "100,100 150,150 blue stopped #1",
-         "; 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2; 150,150 150,150 blue left #1"},
-        {0, 0, -1, "100,100 150,150 blue stopped #1",
-         "; 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2; 150,150 150,150 blue left #1"},
-        {-1, 0, 0, "100,100 585,585 blue #1", kOthers},
-        {-1, 0, -1, "100,100 150,150 blue stopped #1",
-         "; 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2; 150,150 13,287 blue stopped #1; "
-         "13,287 311,585 blue #1"},
-        {0, 2, 0, kTrigger, "; 500,100 520,120 green #2; 400,100 350,150 red #2"},
-        {-1, 2, 0, kTrigger,
-         "; 500,100 670,270 green stopped #2; 400,100 13,487 red stopped #2; 670,270 355,585 green #2; "
-         "13,487 111,585 red #2"},
-        {0, 2, -1, kTrigger,
-         "; 500,100 520,120 green stopped #2; 400,100 350,150 red stopped #2; 520,120 520,120 green left #2; "
-         "350,150 350,150 red #2"},
-        {-1, 2, -1, kTrigger,
-         "; 500,100 520,120 green stopped #2; 400,100 350,150 red stopped #2; 520,120 55,585 green #2; "
-         "350,150 416,216 red stopped #2"},
-        {-1, 9, -1, kTrigger, kOthers},
-    };
-    for (const Case& c : kCases) {
-        TestGame game(kSolutionReplay, std::string(kTrigger) + kOthers);
+    for (const auto& row : Rows(kSteps)) {
+        const auto flag = [&](char letter) -> std::int16_t {
+            return row[0].find(letter) == std::string::npos ? 0 : -1;
+        };
+        const auto other = static_cast<std::int16_t>(std::atoi(row[0].c_str()));
         // The second step names the same moment and must not fire.
-        const std::int16_t script[] = {2, 1, 150, c.speedUp, c.otherLineNr, c.bendFirst, 1, 150, 0, 0, 0};
+        const std::int16_t script[] = {2, 1, 150, flag('s'), other, flag('b'), 1, 150, 0, 0, 0};
+        TestGame game(kSolutionReplay,
+                      "100,100 150,150 blue #1; 500,100 520,120 green waiting #2; 400,100 350,150 red stopped #2");
         game.Main().PuzzleSolutions[1] = script;
         PlaySolutionStep(game.Main());
-        EXPECT_EQ(InShort(game.Main()), std::string(c.trigger) + c.others);
+        EXPECT_EQ(InShort(game.Main()), row[1] + "; " + row[2] + row[3]) << row[0];
     }
 }
 

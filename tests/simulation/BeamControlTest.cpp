@@ -23,51 +23,33 @@ TEST(FindNearestLine, TakesTheNearestHeadWithinReach) {
     EXPECT_EQ(FindNearestLine(field.Main(), 210, 190), &field.Beam(1)) << "of two as near the first in Lines";
 }
 
+// Mode; the beams, of which the last is speeded up; what becomes of them; the sound if it ends at a beam; who is dying.
+constexpr char kRuns[] = R"(
+    puzzle | 100,100 130,130 red | 100,100 585,585 red                             |               |
+    puzzle | 100,18 96,22 red    | 96,22 13,105 red stopped; 13,105 493,585 red    |               |
+    arcade | 100,59 104,63 red   | 103,62 626,585 red                              |               |
+    arcade | 100,60 104,64 red   | 100,60 625,585 red                              |               |
+    arcade | 300,120 60,360 blue stopped; 90,70 60,100 green | 300,120 60,360 blue stopped; 90,70 13,147 green stopped; 13,147 139,273 green stopped | sound 1 async |
+    puzzle | 350,250 250,350 blue stopped; 100,100 150,150 blue 0 | 350,250 250,350 blue stopped; 100,100 296,296 blue stopped 0 | sound 1 async |
+    arcade | 310,190 200,300 green 4 dying; 350,250 250,350 blue; 100,100 150,150 blue | 310,190 200,300 green 4 dying; 350,250 250,350 blue stopped 4 dying fast; 100,100 296,296 blue stopped 4 dying | sound 2 async | 3 2
+    puzzle | 350,250 250,350 blue; 100,100 150,150 blue | 350,250 250,350 blue stopped 4 dying fast; 100,100 296,296 blue stopped 4 dying | sound 4 async | 2 1
+    replay | 350,250 250,350 blue; 100,100 150,150 blue | 350,250 250,350 blue stopped 4 dying fast; 100,100 296,296 blue stopped 4 dying | sound 4 async | 2 1
+    puzzle | 500,500 510,510 red; 350,250 250,350 blue; 100,100 150,150 blue | 500,500 510,510 red; 350,250 250,350 blue stopped 4 dying fast; 100,100 296,296 blue stopped 4 dying | sound 2 async | 3 2
+)";
+
 TEST(SpeedUpLine, RunsToTheEnd) {
-    struct Case {
-        std::int32_t mode;
-        const char* beams;  // the last one is speeded up
-        const char* after;
-        bool endsAtBeam;
-        const char* printed;
-        const char* dying = "";
-    };
-    constexpr Case kCases[] = {
-        {kPuzzleGame, "100,100 130,130 red", "100,100 585,585 red", false, ""},
-        // The tail follows one pixel above where a growing beam's does.
-        {kPuzzleGame, "100,18 96,22 red", "96,22 13,105 red stopped; 13,105 493,585 red", false, ""},
-        {kArcadeGame, "100,59 104,63 red", "103,62 626,585 red", false, ""},
-        {kArcadeGame, "100,60 104,64 red", "100,60 625,585 red", false, ""},
-        // By way of a wall against another colour, which stops it.
-        {kArcadeGame, "300,120 60,360 blue stopped; 90,70 60,100 green",
-         "300,120 60,360 blue stopped; 90,70 13,147 green stopped; 13,147 139,273 green stopped", true,
-         "sound 1 async\n"},
-        {kPuzzleGame, "350,250 250,350 blue stopped; 100,100 150,150 blue 0",
-         "350,250 250,350 blue stopped; 100,100 296,296 blue stopped 0", true, "sound 1 async\n"},
-        // Its own colour, through a dying beam.
-        {kArcadeGame, "310,190 200,300 green 4 dying; 350,250 250,350 blue stopped; 100,100 150,150 blue",
-         "310,190 200,300 green 4 dying; 350,250 250,350 blue stopped 4 dying fast; "
-         "100,100 296,296 blue stopped 4 dying",
-         true, "sound 2 async\n", "3 2"},
-        {kPuzzleGame, "350,250 250,350 blue stopped; 100,100 150,150 blue",
-         "350,250 250,350 blue stopped 4 dying fast; 100,100 296,296 blue stopped 4 dying", true, "sound 4 async\n",
-         "2 1"},
-        {kPuzzleGame, "500,500 510,510 red; 350,250 250,350 blue stopped; 100,100 150,150 blue",
-         "500,500 510,510 red; 350,250 250,350 blue stopped 4 dying fast; 100,100 296,296 blue stopped 4 dying", true,
-         "sound 2 async\n", "3 2"},
-    };
-    for (const Case& c : kCases) {
-        TestField field(c.mode, c.beams);
+    for (const auto& row : Rows(kRuns)) {
+        TestField field(ModeNamed(row[0]), row[1]);
         VMain& main = field.Main();
         CLine& beam = *main.Lines.back();
-        EXPECT_EQ(SpeedUpLine(main, beam, true), c.endsAtBeam) << c.beams;
-        EXPECT_EQ(InShort(main), c.beams) << "looking ahead changes nothing";
+        EXPECT_EQ(SpeedUpLine(main, beam, true), !row[3].empty()) << row[1];
+        EXPECT_EQ(InShort(main), row[1]) << "looking ahead changes nothing";
         EXPECT_TRUE(beam.LinkedLines.empty() && field.Beam(1).StoppingLines.empty());
-        EXPECT_EQ(SpeedUpLine(main, beam, false), c.endsAtBeam) << c.beams;
-        EXPECT_EQ(InShort(main), c.after) << c.beams;
-        EXPECT_EQ(field.TakePrinted(), c.printed) << c.beams;
-        EXPECT_EQ(Places(main, main.DyingLines), c.dying);
-        EXPECT_EQ(main.Score, c.mode == kArcadeGame && *c.dying != 0 ? 10 : 0);
+        EXPECT_EQ(SpeedUpLine(main, beam, false), !row[3].empty()) << row[1];
+        EXPECT_EQ(InShort(main), row[2]);
+        EXPECT_EQ(field.TakePrinted(), row[3] + (row[3].empty() ? "" : "\n")) << row[1];
+        EXPECT_EQ(Places(main, main.DyingLines), row[4]);
+        EXPECT_EQ(main.Score, row[0] == "arcade" && !row[4].empty() ? 10 : 0);
     }
 }
 
@@ -77,7 +59,6 @@ TEST(SpeedUpLine, LinksAndStopsWhatItMeets) {
     SpeedUpLine(main, field.Beam(2), false);
     EXPECT_EQ(Places(main, field.Beam(1).StoppingLines), "3");
     EXPECT_EQ(Places(main, field.Beam(2).LinkedLines), "3");
-    SpeedUpLine(main, field.Beam(1), false);
     // A beam that meets its own chain thins it twice.
     TestField puzzle(kPuzzleGame, "340,200 200,340 blue stopped; 200,200 240,240 blue");
     puzzle.Beam(1).LinkedLines = {&puzzle.Beam(2)};

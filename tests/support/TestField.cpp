@@ -67,6 +67,26 @@ std::string TestField::TakePrinted() {
     return lines;
 }
 
+std::vector<std::vector<std::string>> Rows(std::string_view table) {
+    std::vector<std::vector<std::string>> rows;
+    std::istringstream text{std::string(table)};
+    for (std::string line; std::getline(text, line);) {
+        std::istringstream cells(line + ' ');  // so that an empty last cell counts
+        std::vector<std::string> row;
+        for (std::string cell; std::getline(cells, cell, '|');) {
+            const std::size_t first = std::min(cell.find_first_not_of(' '), cell.size());
+            row.push_back(cell.substr(first, cell.find_last_not_of(' ') + 1 - first));
+        }
+        if (row.size() > 1) rows.push_back(row);
+    }
+    return rows;
+}
+
+std::int32_t ModeNamed(std::string_view name) {
+    if (name == "replay") return kSolutionReplay;
+    return name == "arcade" ? kArcadeGame : kPuzzleGame;
+}
+
 std::string InShort(const CLine& beam) {
     std::ostringstream text;
     text << beam.XStart << ',' << beam.YStart << ' ' << beam.XEnd << ',' << beam.YEnd << ' '

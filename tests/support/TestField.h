@@ -6,6 +6,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "backends/headless/HeadlessPlatform.h"
 #include "state/VMain.h"
@@ -56,6 +57,12 @@ class TestField {
     TestMachine machine;
     std::unique_ptr<VMain> main;
 };
+
+// A table in words: a line a row, its cells between bars, without the blanks around them.
+std::vector<std::vector<std::string>> Rows(std::string_view table);
+
+// The GameMode called "puzzle", "arcade" or "replay".
+std::int32_t ModeNamed(std::string_view name);
 
 // A beam in words: "100,300 110,310 blue" is tail, head and colour of a live beam that grows; then "left" or "right" if
 // the ends do not tell the direction, "stopped" or "waiting", the thickness if it is not 5, "dying" for one that is

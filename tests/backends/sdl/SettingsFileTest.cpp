@@ -60,32 +60,6 @@ class SettingsFileTest : public ::testing::Test {
     fs::path path;
 };
 
-TEST_F(SettingsFileTest, KeepsWhatItDoesNotKnowAndADamagedLineCostsItselfAlone) {
-    PutText(
-        "; mine\n[General\nMu=1\n[General]\n===\nMusic = True\nColour=green\nnonsense\n\xff\xfe\nSt\n[Else]\nx=1\n[");
-    EXPECT_EQ(Write(path, {{"General", "Music", "False"}}), "");
-    EXPECT_EQ(Get("General", "Music") + Get("General", "Colour") + Get("Else", "x"), "Falsegreen1");
-    EXPECT_EQ(Get("General", "Mu") + Get("General", "St"), "(nothing)(nothing)");
-    EXPECT_EQ(Text().find("; mine"), 0U);
-}
-
-TEST_F(SettingsFileTest, AnyTextComesBack) {
-    const std::uint32_t seed = Seed();
-    std::mt19937 random(seed);
-    using namespace std::string_literals;
-    const std::string letters = "ab=[]#;\\\"' \t\n\r\0\x80\xff%"s;
-    const auto text = [&] {
-        std::string result;
-        for (auto length = random() % 8; length > 0; --length) result += letters[random() % letters.size()];
-        return result;
-    };
-    for (int round = 0; round < 100; ++round) {
-        const SettingValue value{text() + "s", text() + "k", text()};
-        ASSERT_EQ(Write(path, {value}), "");
-        ASSERT_EQ(Get(value.section, value.key), value.text) << "seed " << seed << ", round " << round;
-    }
-}
-
 // Two copies count their saves in the file, each in a key of its own and in all the others, until they are killed.
 TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
     using Counts = std::array<std::atomic<int>, 2>;
