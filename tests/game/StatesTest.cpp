@@ -3,7 +3,6 @@
 // buttons CmdStart and cmdPause that show.
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -14,8 +13,6 @@
 namespace prismfall {
 namespace {
 
-using Act = std::function<void(TestGame& game)>;
-
 std::string Looks(TestGame& game) {
     const VMain& main = game.Main();
     const auto& timers = game.Machine().Timers();
@@ -23,87 +20,62 @@ std::string Looks(TestGame& game) {
     if (timers.IsOn(Timer::LineCreator)) looks += 'C';
     if (timers.IsOn(Timer::LineExtender)) looks += 'E';
     if (timers.IsOn(Timer::LineDeleter)) looks += 'D';
-    looks += ' ';
+    if (IsShown(main.CmdStart) || IsShown(main.cmdPause)) looks += ' ';
     if (IsShown(main.CmdStart)) looks += 'S';
     if (IsShown(main.cmdPause)) looks += 'P';
-    return looks;
+    return looks.ends_with(' ') ? looks.substr(0, looks.size() - 1) : looks;
 }
 
-Act Click(std::string_view button) {
-    return [button](TestGame& game) { game.Click(button); };
+// Does what a word says.
+void Do(TestGame& game, const std::string& what) {
+    VMain& main = game.Main();
+    const bool isFirst = what == "tutorial";
+    if (what == "lose" || what == "solve") {
+        main.Lines.clear();
+        // One beam that has come down to the floor; or two of one colour before their collision, and time for it.
+        game.Add(what == "lose" ? "100,500 185,585 green" : "100,100 150,150 green; 220,100 170,150 green");
+        if (what == "solve") return game.Machine().Run(2000);
+        return game.Machine().Fire(Timer::LineExtender);
+    }
+    if (what == "puzzle" || what == "replay" || isFirst) {
+        main.CurrentPuzzle = isFirst ? 1 : 2;
+        StartPuzzleGame(main, false, what == "replay");
+        if (what != "replay") game.Click("CmdStart");
+        if (isFirst) game.Machine().Run(75);
+    } else {
+        game.Click(what);
+    }
 }
 
-// One beam that has come down to the floor, and one tick.
-void Lose(TestGame& game) {
-    game.Main().Lines.clear();
-    game.Add("100,500 185,585 green");
-    game.Machine().Fire(Timer::LineExtender);
-}
-
-// Two beams of one colour before their collision, and time for it.
-void Solve(TestGame& game) {
-    game.Main().Lines.clear();
-    game.Add("100,100 150,150 green; 220,100 170,150 green");
-    game.Machine().Run(2000);
-}
-
-void StartArcade(TestGame& game) { game.Click("CommandArcade"); }
-
-void StartPuzzle(TestGame& game) {
-    game.Main().CurrentPuzzle = 2;
-    StartPuzzleGame(game.Main(), false, false);
-    game.Click("CmdStart");
-}
-
-void StartReplay(TestGame& game) {
-    game.Main().CurrentPuzzle = 2;
-    StartPuzzleGame(game.Main(), false, true);
-}
-
-void Tutorial(TestGame& game) {
-    game.Main().CurrentPuzzle = 1;
-    StartPuzzleGame(game.Main(), false, false);
-    game.Click("CmdStart");
-    game.Machine().Run(75);
-}
-
-void TakeOver(TestGame& game) {
-    StartReplay(game);
-    game.Click("CmdStart");
-}
+// What is done, word by word; the last word's dialog is answered by the button, or closed; what stands behind it; and
+// after.
+constexpr char kDialogs[] = R"(
+    CommandArcade lose    |                 | 3 still  P      | 0 still
+    puzzle lose           |                 | 2 still  SP     | 2 still  SP
+    puzzle lose           | Command1        | 2 still  SP     | 1 still
+    puzzle solve          |                 | 2 running  SP   | 2 still  SP
+    puzzle solve          | CommandNext     | 2 running  SP   | 2 still  S
+    puzzle CmdScores      |                 | 2 still  SP     | 2 running ED SP
+    tutorial CmdOptions   |                 | 2 running D SP  | 2 running D SP
+    replay lose           | CommandSolution | 4 still  S      | 4 running ED S
+    replay solve          | Command1        | 4 running  S    | 1 still
+    replay CmdAbout       |                 | 4 still  S      | 4 running ED S
+    replay CmdStart solve | Command1        | 2 running  S    | 1 still
+    replay CmdStart CmdStart |              | no dialog       | 2 still  S
+)";
 
 TEST(States, DialogsLeadOnAndNothingRunsBehindThem) {
-    struct Case {
-        const char* name;
-        Act start, event;
-        const char* answer;  // empty for the close box
-        const char* behind;
-        const char* after;
-    };
-    const Case kCases[] = {
-        {"Arcade lost", StartArcade, Lose, "", "3 still  P", "0 still  "},
-        {"puzzle lost, closed", StartPuzzle, Lose, "", "2 still  SP", "2 still  SP"},
-        {"puzzle lost, menu", StartPuzzle, Lose, "Command1", "2 still  SP", "1 still  "},
-        {"puzzle solved, closed", StartPuzzle, Solve, "", "2 running  SP", "2 still  SP"},
-        {"puzzle solved, next", StartPuzzle, Solve, "CommandNext", "2 running  SP", "2 still  S"},
-        {"puzzle, scores", StartPuzzle, Click("CmdScores"), "", "2 still  SP", "2 running ED SP"},
-        {"tutorial, options", Tutorial, Click("CmdOptions"), "", "2 running D SP", "2 running D SP"},
-        {"replay lost, solution", StartReplay, Lose, "CommandSolution", "4 still  S", "4 running ED S"},
-        {"replay solved, menu", StartReplay, Solve, "Command1", "4 running  S", "1 still  "},
-        {"replay, About", StartReplay, Click("CmdAbout"), "", "4 still  S", "4 running ED S"},
-        {"taken over, solved, menu", TakeOver, Solve, "Command1", "2 running  S", "1 still  "},
-        {"taken over, restarted", TakeOver, Click("CmdStart"), "", "no dialog", "2 still  S"}};
-    for (const Case& c : kCases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& row : Rows(kDialogs)) {
+        SCOPED_TRACE(row[0]);
         TestGame game;
         game.QuietStore().Load();
-        c.start(game);
         std::string behind = "no dialog";
         game.Machine().onDialog = [&](Window&) { behind = Looks(game); };
-        if (*c.answer != 0) game.Machine().QueueAnswer(c.answer);
-        c.event(game);
-        EXPECT_EQ(behind, c.behind);
-        EXPECT_EQ(Looks(game), c.after);
+        if (!row[1].empty()) game.Machine().QueueAnswer(row[1]);
+        std::istringstream words(row[0]);
+        for (std::string word; words >> word;) Do(game, word);
+        EXPECT_EQ(behind, row[2]);
+        EXPECT_EQ(Looks(game), row[3]);
     }
 }
 
@@ -116,7 +88,7 @@ TEST(States, AnArcadeGameBeginsAfresh) {
     main.VScore.text = "70";
     game.Add("21,100 31,110 blue");
     game.Machine().SetPainting(true);
-    StartArcade(game);
+    game.Click("CommandArcade");
     EXPECT_EQ(game.TakePrinted(), "sound 7 sync\nclear\nclear\nline 14 60 670 60 0xFF0000 1\n");
     ASSERT_EQ(main.Lines.size(), 3U);
     for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(main.Lines[i]->YStart, 20 + 20 * static_cast<int>(i));
@@ -130,7 +102,7 @@ TEST(States, AnArcadeGameBeginsAfresh) {
 TEST(States, AGamesEndTakesNoInput) {
     TestGame game;
     VMain& main = game.QuietStore().Load();
-    StartArcade(game);
+    game.Click("CommandArcade");
     main.Score = 30;
     int yields = 0;
     game.Machine().onYield = [&] {
@@ -145,7 +117,7 @@ TEST(States, AGamesEndTakesNoInput) {
         EXPECT_EQ(InShort(main) + Looks(game), before);
     };
     game.TakePrinted();
-    Lose(game);
+    Do(game, "lose");
     EXPECT_EQ(yields, 291) << "one, then 29 bands of 10 ms";
     EXPECT_EQ(game.TakePrinted(), "sound 5 sync\ndialog VHighScore2\n");
     game.Machine().onYield = nullptr;
