@@ -15,6 +15,12 @@ def later_run(**general):
     return {"General": {"PlayFirstTime": "False", "Music": "False"} | general}
 
 
+def still(look, seconds):
+    """Whether what is seen does not change for so long."""
+    before = look()
+    return holds_for(lambda: look() == before, seconds)
+
+
 class Settings:
     """A folder for settings of the test's own."""
 
@@ -111,9 +117,7 @@ class Game:
     # The game in progress.
 
     def stands_still(self, seconds=0.3):
-        look = self.main.viewer(*layout.PLAYFIELD)
-        before = look()
-        return holds_for(lambda: look() == before, seconds)
+        return still(self.main.viewer(*layout.PLAYFIELD), seconds)
 
     def wait_for_motion(self, seconds=3):
         look = self.main.viewer(*layout.PLAYFIELD)
@@ -132,18 +136,14 @@ class Game:
                 return left + at % width, top + at // width
         return None
 
-    @staticmethod
-    def wait_for_rest(look):
-        """Until what is seen has stopped changing."""
-        wait_for(lambda: (lambda before: holds_for(lambda: look() == before, 0.1))(look()), 5, "a picture at rest")
-
     # Dialogs.
 
     def open_dialog(self, button, title):
         """Opens a dialog and waits until it is drawn."""
         self.press(button)
         dialog = self.desktop.window(title)
-        self.wait_for_rest(dialog.viewer(0, 0, *layout.SIZES[title]))
+        look = dialog.viewer(0, 0, *layout.SIZES[title])
+        wait_for(lambda: still(look, 0.1), 5, f"{title!r} drawn")
         return dialog
 
     def wait_for_close(self, title):

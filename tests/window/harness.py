@@ -1,24 +1,20 @@
-"""What the tests in a real window have in common: a desktop for each class, a fresh game for each test, a picture of the
-screen when one fails, and an end to everything that hangs.
+"""What the tests in a real window have in common: a desktop for each class, a fresh game for each test, and a picture of the
+screen when one fails.
 
-    python3 tests/window/test_play.py PROGRAM FOLDER [unittest options and names]
+    python3 tests/window/test_arcade.py PROGRAM FOLDER [unittest options and names]
 
 PROGRAM is the built game; pictures of failures go to FOLDER.
 """
-import faulthandler
-import os
 import pathlib
 import shutil
 import sys
 import tempfile
-import threading
 import unittest
 
 import desktop
 import game
 
 ASSETS = pathlib.Path(__file__).resolve().parents[2] / "assets"
-LONGEST = 150  # seconds for a file of tests
 
 
 class WindowTest(unittest.TestCase):
@@ -65,16 +61,6 @@ class WindowTest(unittest.TestCase):
         self.assertEqual(run.said().count("\n"), 1 if complaint else 0, run.said())
 
 
-def give_up():
-    print(f"not done after {LONGEST} s", file=sys.stderr)
-    faulthandler.dump_traceback()
-    desktop.end_all()
-    os._exit(2)
-
-
 def run():
     WindowTest.program, WindowTest.pictures = map(pathlib.Path, sys.argv[1:3])
-    watchdog = threading.Timer(LONGEST, give_up)
-    watchdog.daemon = True
-    watchdog.start()
     unittest.main("__main__", argv=[sys.argv[0]] + sys.argv[3:], verbosity=2)
