@@ -1,4 +1,7 @@
 // The game: puts the real machine and the state together and runs. It takes no command line.
+#include <SDL_filesystem.h>
+#include <SDL_stdinc.h>
+
 #include <array>
 #include <filesystem>
 #include <iostream>
@@ -12,13 +15,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where the pictures lie, seen from the folder of the program: installed, and in a checkout.
-constexpr std::array<const char*, 2> kPictureFolders = {"../../share/games/prismfall/pictures",
+// Where the pictures lie, seen from the folder of the program: beside it, installed on Debian, and in a checkout.
+constexpr std::array<const char*, 3> kPictureFolders = {"pictures", "../../share/games/prismfall/pictures",
                                                         "../../assets/pictures"};
+
+fs::path ProgramFolder() {
+    char* name = SDL_GetBasePath();
+    if (name == nullptr) return {};
+    const fs::path folder(reinterpret_cast<const char8_t*>(name));
+    SDL_free(name);
+    return folder;
+}
 
 fs::path FindPictures() {
     std::error_code ignored;
-    const fs::path folder = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    const fs::path folder = ProgramFolder();
     for (const char* candidate : kPictureFolders)
         if (fs::is_directory(folder / candidate, ignored)) return folder / candidate;
     return folder / kPictureFolders.front();

@@ -43,7 +43,7 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
     for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
     PictureStore early(pictures);
     early.ReadAhead(kEarlyPictures);
-    if (!OpenDesktop(failure)) return nullptr;
+    if (!OpenDisplay(failure)) return nullptr;
     SDL_StopTextInput();
     return std::unique_ptr<SdlPlatform>(new SdlPlatform(std::move(early)));
 }

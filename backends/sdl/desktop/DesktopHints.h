@@ -19,7 +19,7 @@ struct DesktopFacts {
 void PrepareDesktop();
 
 // Starts SDL's video. False if there is no display; `failure` is then one sentence that says why.
-bool OpenDesktop(std::string& failure);
+bool OpenDisplay(std::string& failure);
 
 // To be asked once, on an open desktop, before the first window. Where the desktop does not tell, the usual values come
 // back.

@@ -6,6 +6,7 @@
 #include <SDL_syswm.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
+#include <dlfcn.h>
 #include <array>
 
 #include <algorithm>
@@ -183,6 +184,20 @@ bool OnX11() {
     return driver != nullptr && std::strcmp(driver, "x11") == 0;
 }
 
+void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
+
+// ALSA tells a machine without a sound device about it on standard error, at length. The library is loaded with SDL;
+// taking its function from there spares the game a dependency of its own.
+void SilenceAlsa() {
+    using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
+    using SetHandler = int (*)(Handler);
+    void* library = dlopen("libasound.so.2", RTLD_LAZY | RTLD_NOLOAD);
+    if (library == nullptr) return;
+    if (const auto setHandler = reinterpret_cast<SetHandler>(dlsym(library, "snd_lib_error_set_handler")))
+        setHandler(IgnoreMessage);
+    dlclose(library);
+}
+
 // Quarters: desktops offer no finer steps, and dots per inch are seldom exact.
 float ScaleOf(float dotsPerInch) {
     if (!(dotsPerInch > 0)) return 1;
@@ -193,7 +208,7 @@ float ScaleOf(float dotsPerInch) {
 
 void PrepareDesktop() { WatchEndSignals(); }
 
-bool OpenDesktop(std::string& failure) {
+bool OpenDisplay(std::string& failure) {
     SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
     // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
     // until the first picture stands. Wayland's keyboards would complain of the empty table.
@@ -208,6 +223,7 @@ bool OpenDesktop(std::string& failure) {
     // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
     if (OnX11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     DeliverEarlySignal();
+    SilenceAlsa();
     return true;
 }
 

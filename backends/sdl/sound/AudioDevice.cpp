@@ -2,8 +2,6 @@
 // is there then.
 #include "backends/sdl/sound/AudioDevice.h"
 
-#include <dlfcn.h>
-
 #include <cstdlib>
 #include <cstring>
 
@@ -15,27 +13,12 @@ constexpr int kRate = 44100;
 constexpr std::uint8_t kChannels = 2;
 constexpr int kChunk = 2048;  // frames; 46 ms
 
-void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
-
-// ALSA tells a machine without a sound device about it on standard error, at length. The library is loaded with SDL;
-// taking its function from there spares the game a dependency of its own.
-void SilenceAlsa() {
-    using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
-    using SetHandler = int (*)(Handler);
-    void* library = dlopen("libasound.so.2", RTLD_LAZY | RTLD_NOLOAD);
-    if (library == nullptr) return;
-    if (const auto setHandler = reinterpret_cast<SetHandler>(dlsym(library, "snd_lib_error_set_handler")))
-        setHandler(IgnoreMessage);
-    dlclose(library);
-}
-
 }  // namespace
 
 bool AudioDevice::Open() {
     if (IsOpen()) return true;
     const auto now = std::chrono::steady_clock::now();
     if (failedAt && now - *failedAt < kNextTry) return false;
-    SilenceAlsa();
     SDL_AudioSpec wanted{};
     // What is left open SDL takes from these variables of the user's.
     if (std::getenv("SDL_AUDIO_FREQUENCY") == nullptr) wanted.freq = kRate;

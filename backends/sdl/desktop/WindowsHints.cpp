@@ -1,0 +1,94 @@
+// The desktop of Windows: owners of dialogs, and the end of a session, which SDL passes over.
+#include "backends/sdl/desktop/DesktopHints.h"
+
+#include <SDL.h>
+#include <SDL_syswm.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace prismfall {
+
+namespace {
+
+constexpr float kPlainDotsPerInch = 96;
+constexpr float kLargestScale = 4;
+constexpr const wchar_t* kFormerProcedure = L"PrismfallFormerProcedure";
+
+std::function<void()> endOfSession;
+
+HWND HandleOf(SDL_Window* window) {
+    SDL_SysWMinfo info;
+    SDL_VERSION(&info.version);
+    return SDL_GetWindowWMInfo(window, &info) == SDL_TRUE ? info.info.win.window : nullptr;
+}
+
+LRESULT PassOn(HWND window, UINT message, WPARAM word, LPARAM value) {
+    const auto former = reinterpret_cast<WNDPROC>(GetPropW(window, kFormerProcedure));
+    return CallWindowProcW(former, window, message, word, value);
+}
+
+// Puts a procedure before SDL's, which it calls by PassOn.
+void SeeMessagesFirst(HWND window, WNDPROC procedure) {
+    SetPropW(window, kFormerProcedure, reinterpret_cast<HANDLE>(GetWindowLongPtrW(window, GWLP_WNDPROC)));
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+}
+
+// When this message has been answered, Windows may end the process at any moment.
+LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM word, LPARAM value) {
+    if (message == WM_ENDSESSION && word != 0 && endOfSession) endOfSession();
+    return PassOn(window, message, word, value);
+}
+
+// A modal dialog's owner takes no input. It has to take it again before the dialog goes, or else the focus goes to
+// another program.
+LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM word, LPARAM value) {
+    if (message == WM_SHOWWINDOW && value == 0) EnableWindow(GetWindow(window, GW_OWNER), word == 0);
+    return PassOn(window, message, word, value);
+}
+
+}  // namespace
+
+// SDL makes SDL_QUIT of nothing that Windows sends a program with windows; WhenSessionEnds serves for all of it.
+void PrepareDesktop() {}
+
+bool OpenDisplay(std::string& failure) {
+    if (SDL_Init(SDL_INIT_VIDEO) == 0) return true;
+    failure = std::string("No display can be opened (") + SDL_GetError() + ").";
+    return false;
+}
+
+DesktopFacts AskDesktop() {
+    DesktopFacts facts;
+    float dotsPerInch = 0;
+    if (SDL_GetDisplayDPI(0, &dotsPerInch, nullptr, nullptr) == 0)
+        facts.scale = std::clamp(std::round(dotsPerInch / kPlainDotsPerInch * 4) / 4, 1.0F, kLargestScale);
+    facts.doubleClickMilliseconds = static_cast<int>(GetDoubleClickTime());
+    return facts;
+}
+
+void WhenSessionEnds(std::function<void()> end) { endOfSession = std::move(end); }
+
+void SetMainFrame(SDL_Window* window) {
+    if (const HWND handle = HandleOf(window); handle != nullptr) SeeMessagesFirst(handle, MainProcedure);
+}
+
+void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner) {
+    const HWND handle = HandleOf(dialog);
+    if (handle == nullptr) return;
+    SetWindowLongPtrW(handle, GWL_STYLE, GetWindowLongPtrW(handle, GWL_STYLE) & ~static_cast<LONG_PTR>(WS_MINIMIZEBOX));
+    if (owner == nullptr) return;
+    SetWindowLongPtrW(handle, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(HandleOf(owner)));
+    SeeMessagesFirst(handle, DialogProcedure);
+    // Here SDL has taken the place that was meant for the frame for that of what is inside.
+    int left = 0;
+    int top = 0;
+    int frameLeft = 0;
+    int frameTop = 0;
+    SDL_GetWindowPosition(dialog, &left, &top);
+    SDL_GetWindowBordersSize(dialog, &frameTop, &frameLeft, nullptr, nullptr);
+    SDL_SetWindowPosition(dialog, left + frameLeft, top + frameTop);
+}
+
+}  // namespace prismfall

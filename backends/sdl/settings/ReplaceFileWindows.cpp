@@ -1,0 +1,146 @@
+// The new text is written beside the old one, brought to the disk, and then takes the old one's name. Runs of the game
+// wait for each other by a mutex, which Windows releases when its holder is ended.
+#include "backends/sdl/settings/ReplaceFile.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <cwchar>
+#include <system_error>
+
+namespace prismfall {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; what is larger is none of its own
+constexpr DWORD kLongestWait = 2000;           // milliseconds, for another run; a save takes a few
+constexpr int kTries = 50;                     // to take a name that a virus scanner or an editor holds for a moment
+constexpr DWORD kNextTry = 20;                 // milliseconds
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+class Handle {
+  public:
+    explicit Handle(HANDLE value) : handle(value) {}
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    ~Handle() {
+        if (IsOpen()) CloseHandle(handle);
+    }
+
+    HANDLE Get() const { return handle; }
+    bool IsOpen() const { return handle != INVALID_HANDLE_VALUE && handle != nullptr; }
+
+  private:
+    HANDLE handle;
+};
+
+class Lock {
+  public:
+    // One that is held for so long that its holder must have been stopped is not waited for.
+    Lock() : mutex(CreateMutexW(nullptr, FALSE, L"Local\\Prismfall settings")) {
+        const DWORD outcome = mutex.IsOpen() ? WaitForSingleObject(mutex.Get(), kLongestWait) : WAIT_FAILED;
+        isHeld = outcome == WAIT_OBJECT_0 || outcome == WAIT_ABANDONED;
+    }
+    Lock(const Lock&) = delete;
+    Lock& operator=(const Lock&) = delete;
+    ~Lock() {
+        if (isHeld) ReleaseMutex(mutex.Get());
+    }
+
+  private:
+    Handle mutex;
+    bool isHeld = false;
+};
+
+struct Content {
+    std::string text;
+    DWORD error = ERROR_SUCCESS;  // why a file that is there could not be read
+};
+
+Content ReadAll(const fs::path& path) {
+    Content content;
+    const Handle file(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+    if (!file.IsOpen()) {
+        content.error = GetLastError();
+        const bool isMissing = content.error == ERROR_FILE_NOT_FOUND || content.error == ERROR_PATH_NOT_FOUND;
+        if (isMissing) content.error = ERROR_SUCCESS;
+        return content;
+    }
+    std::array<char, 4096> block{};
+    DWORD count = 0;
+    do {
+        content.text.append(block.data(), count);
+        if (content.text.size() > kLargestFile) content.error = ERROR_FILE_TOO_LARGE;
+        if (ReadFile(file.Get(), block.data(), static_cast<DWORD>(block.size()), &count, nullptr) == 0)
+            content.error = GetLastError();
+    } while (content.error == ERROR_SUCCESS && count > 0);
+    return content;
+}
+
+// The file that a link points to, if there is one.
+fs::path BehindLinks(const fs::path& path) {
+    const Handle file(CreateFileW(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+    std::array<wchar_t, 1024> name{};
+    if (!file.IsOpen()) return path;
+    const DWORD length =
+        GetFinalPathNameByHandleW(file.Get(), name.data(), static_cast<DWORD>(name.size()), FILE_NAME_NORMALIZED);
+    return length > 0 && length < name.size() ? fs::path(name.data()) : path;
+}
+
+bool WriteAll(const fs::path& path, const std::string& text) {
+    const Handle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    DWORD count = 0;
+    return file.IsOpen() && WriteFile(file.Get(), text.data(), static_cast<DWORD>(text.size()), &count, nullptr) != 0 &&
+           count == text.size() && FlushFileBuffers(file.Get()) != 0;
+}
+
+bool TakeName(const fs::path& from, const fs::path& to) {
+    for (int i = 0; i < kTries; ++i) {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0) return true;
+        const DWORD error = GetLastError();
+        if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) return false;
+        Sleep(kNextTry);
+    }
+    SetLastError(ERROR_ACCESS_DENIED);
+    return false;
+}
+
+// The reason why the file is still the old one, or ERROR_SUCCESS.
+DWORD Replace(const fs::path& path, const std::string& text) {
+    fs::path temporary = path;
+    temporary += ".new";
+    if (WriteAll(temporary, text) && TakeName(temporary, path)) return ERROR_SUCCESS;
+    const DWORD error = GetLastError();
+    DeleteFileW(temporary.c_str());
+    return error;
+}
+
+DWORD Change(const fs::path& path, const std::function<std::string(std::string)>& change) {
+    std::error_code error;
+    fs::create_directories(path.parent_path(), error);
+    if (error) return static_cast<DWORD>(error.value());
+    const Lock lock;
+    const Content old = ReadAll(path);
+    if (old.error != ERROR_SUCCESS) return old.error;
+    const std::string text = change(old.text);
+    return text == old.text ? ERROR_SUCCESS : Replace(path, text);
+}
+
+}  // namespace
+
+fs::path UsersSettingsFolder() {
+    const wchar_t* folder = _wgetenv(L"APPDATA");
+    return folder != nullptr ? fs::path(folder) : fs::path();
+}
+
+std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }
+
+std::string ChangeFile(const fs::path& file, const std::function<std::string(std::string)>& change) {
+    const DWORD error = Change(BehindLinks(file), change);
+    return error == ERROR_SUCCESS ? std::string() : std::system_category().message(static_cast<int>(error));
+}
+
+}  // namespace prismfall

@@ -1,0 +1,177 @@
+"""What Windows players get, under wine: installed, played with a real mouse, ended in every way, and removed.
+
+    python3 tests/windows/test_windows.py PACKAGES FOLDER [unittest options and names]
+
+PACKAGES is build/windows-packages; pictures of failures go to FOLDER. PRISMFALL_KILLS is the number of kills in a save.
+"""
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import time
+import zipfile
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tests/window"))
+
+import game  # noqa: E402
+import harness  # noqa: E402
+import layout  # noqa: E402
+from desktop import wait_for  # noqa: E402
+
+WINE = "/usr/lib/wine/wine64"
+SERVER = "/usr/lib/wine/wineserver64"
+NATIVE = ROOT / "build/release/prismfall-headless"
+BUILT = ROOT / "build/windows"
+STORIES = ROOT / "tests/stories"
+KILLS = int(os.environ.get("PRISMFALL_KILLS", "20"))
+# Libraries of every Windows 10; the last comes with the game.
+LIBRARIES = "advapi32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 setupapi shell32 shlwapi user32 version winmm libmpg123"
+REPLAYS = "".join(
+    f"set GrowthToggle {toggle}\nset CurrentPuzzle {puzzle}\nsolution {puzzle}\nrun 120000\ndump\n"
+    for toggle in (0, 1)
+    for puzzle in range(1, 46)
+)
+ALL_VALUES = 79
+RUNNING = 2  # the installer's exit status
+
+
+class WineSettings(game.Settings):
+    """The settings of the one user of a wine."""
+
+    def __init__(self, user, values=None):
+        self.home = user / "AppData/Roaming"
+        self.file = self.home / "Prismfall/settings.ini"
+        self.file.unlink(missing_ok=True)
+        if values is not None:
+            self.write(values)
+
+    def count(self):
+        return sum(len(values) for values in self.read().values())
+
+
+class WindowsTest(harness.WindowTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.desktop.environment.update(WINEDEBUG="-all", WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml=")
+        cls.addClassCleanup(subprocess.run, [SERVER, "-k"], env=cls.desktop.environment)
+        cls.wine("wineboot", "--init")
+        users = cls.desktop.folder / ".wine/drive_c/users"
+        cls.user = next(folder for folder in users.iterdir() if folder.name != "Public")
+        cls.packages = pathlib.Path(sys.argv[1]).resolve()
+        cls.setup = next(cls.packages.glob("*-setup.exe"))
+
+    @classmethod
+    def wine(cls, *command, **options):
+        """The exit status."""
+        return subprocess.run([WINE, *command], env=cls.desktop.environment, timeout=200, **options).returncode
+
+    def play(self, program, settings):
+        """Starts a program as its shortcut does, in its own folder."""
+        starter = self.folder() / "start"
+        starter.write_text(f'#!/bin/sh\nexec {WINE} "{program}"\n')
+        starter.chmod(0o755)
+        return self.start(settings, program.parent, starter)
+
+
+class Programs(WindowsTest):
+    def test_the_driver_prints_the_same_bytes(self):
+        folder = self.folder()
+        expected = {path.stem: path.with_suffix(".expected").read_bytes() for path in STORIES.glob("*.script")}
+        for name in expected:
+            (folder / name).write_bytes((STORIES / f"{name}.script").read_bytes())
+        replays = b"load\n" + REPLAYS.encode()
+        (folder / "replays").write_bytes(replays)
+        expected["replays"] = subprocess.run([NATIVE], input=replays, capture_output=True, check=True).stdout
+        self.assertEqual(expected["replays"].count(b"dialog VPuzzleResult solved"), 90)
+        (folder / "driver.exe").symlink_to(BUILT / "prismfall-headless.exe")
+        run = "driver.exe <{0} >{0}.out 2>{0}.err\r\nif errorlevel 1 echo exit status %errorlevel%>>{0}.err\r\n"
+        (folder / "all.bat").write_text("".join(run.format(name) for name in expected))
+        self.wine("cmd", "/c", "all.bat", cwd=folder, stdout=subprocess.DEVNULL)
+        for name, text in expected.items():
+            errors = (folder / f"{name}.err").read_bytes().replace(b"\r", b"")
+            self.assertEqual((folder / f"{name}.out").read_bytes() + errors, text, name)
+
+    def test_nothing_is_needed_that_windows_10_lacks(self):
+        for program in (*BUILT.glob("*.exe"), ROOT / "build/windows-folder/libmpg123.dll"):
+            told = subprocess.check_output(["x86_64-w64-mingw32-objdump", "-p", program], text=True)
+            needed = {name.lower().removesuffix(".dll") for name in re.findall(r"DLL Name: (\S+)", told)}
+            self.assertLessEqual(needed, set(LIBRARIES.split()), program.name)
+
+    def test_a_kill_in_a_save_leaves_a_whole_file(self):
+        settings = WineSettings(self.user)
+        saves = 0
+        for number in range(KILLS):
+            before = settings.file.exists() and settings.file.stat().st_mtime_ns
+            runs = [self.desktop.start([WINE, BUILT / "tests/windows/KeepSaving.exe"]) for _ in range(2)]
+            wait_for(lambda: settings.file.exists() and settings.file.stat().st_mtime_ns != before, 20, "a save")
+            time.sleep(0.05 + number % 10 * 0.003)
+            for run in runs:
+                self.assertIsNone(run.poll(), "a save has failed")
+                run.kill()
+                run.wait()
+            values = settings.read()["Saved"]
+            self.assertEqual((len(values), len(set(values.values()))), (ALL_VALUES, 1))
+            saves += int(values["Value1"])
+        self.assertGreater(saves, KILLS, "hardly anything was saved")
+        self.assertLessEqual({path.name for path in settings.file.parent.iterdir()}, {"settings.ini", "settings.ini.new"})
+
+
+class Player(WindowsTest):
+    def test_from_the_installer_to_the_uninstaller(self):
+        self.assertEqual(self.wine(self.setup, "/S"), 0)
+        self.assertTrue(list(self.user.rglob("Start Menu/Programs/Prismfall.lnk")))
+        folder = self.user / "AppData/Local/Programs/Prismfall"
+        settings = WineSettings(self.user, {"General": {"Music": "False"}})
+        run = self.play(folder / "prismfall.exe", settings)
+        run.answer_dialog(layout.ABOUT, layout.ABOUT_OK, 10)
+        box, spot, button = layout.TUTORIAL[0]
+        before = run.main.pixels(*box)
+        run.press("CmdStart")
+        wait_for(lambda: run.main.pixels(*box).different(before) > 1500, 10, "a picture of the tutorial")
+        run.main.click(*spot, button=button)
+        run.wait_for_motion()
+        # An older version that runs is to be closed first.
+        self.assertEqual(self.wine(self.setup, "/S"), RUNNING)
+        run.main.use_close_box()
+        self.assertEqual(run.wait_for_end(), 0)
+        self.assertEqual(self.wine(self.setup, "/S"), 0)
+
+        run = self.play(folder / "prismfall.exe", settings)
+        dialog = run.open_dialog("CmdOptions", layout.OPTIONS)
+        run.press("CommandExit")  # which is behind the dialog
+        dialog.click(*layout.level_text(8))
+        run.answer_dialog(layout.OPTIONS, layout.OPTIONS_OK)
+        run.press("CommandArcade")
+        run.wait_for_motion()
+        run.answer_dialog(layout.SCORES, layout.SCORES_OK, 60)
+        run.wait_for_main_menu()
+        self.end_in_menu(run)
+        self.assertEqual(settings.count(), ALL_VALUES)
+        self.assertEqual((settings.general("StartLevel"), settings.general("PlayFirstTime")), ("8", "False"))
+
+        self.wine(folder / "uninstall.exe", "/S")
+        wait_for(lambda: not folder.exists(), 30, "the end of the uninstaller")
+        self.assertEqual(set(self.user.rglob("*rismfall*")), {settings.file.parent})
+        self.assertEqual(list(settings.file.parent.iterdir()), [settings.file])
+
+    def test_a_folder_of_any_name_and_the_end_of_the_session(self):
+        folder = self.folder() / "Zoë & 遊戯"
+        with zipfile.ZipFile(next(self.packages.glob("*-windows.zip"))) as packed:
+            packed.extractall(folder)
+        settings = WineSettings(self.user, game.later_run(Music="True"))
+        run = self.play(folder / "Prismfall/prismfall.exe", settings)
+        time.sleep(2)  # the music begins after a second
+        self.assertFalse(self.desktop.windows(layout.ERROR))
+        run.press("CommandArcade")
+        run.wait_for_motion()
+        self.assertEqual(run.said(), "")
+        self.wine("wineboot", "--end-session", "--kill")
+        run.wait_for_end(20)
+        self.assertEqual(settings.count(), ALL_VALUES)
+
+
+if __name__ == "__main__":
+    harness.run()
