@@ -29,14 +29,17 @@ class Settings:
         self.file = self.home / "prismfall" / "settings.ini"
         ENDING.append(self)
         if values is not None:
-            parser = self.parser()
-            parser.read_dict(values)
-            self.file.parent.mkdir()
-            with open(self.file, "w") as file:
-                parser.write(file, space_around_delimiters=False)
+            self.write(values)
 
     def stop(self):
         shutil.rmtree(self.home, ignore_errors=True)
+
+    def write(self, values):
+        parser = self.parser()
+        parser.read_dict(values)
+        self.file.parent.mkdir(parents=True, exist_ok=True)
+        with open(self.file, "w") as file:
+            parser.write(file, space_around_delimiters=False)
 
     @staticmethod
     def parser():

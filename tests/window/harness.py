@@ -42,13 +42,17 @@ class WindowTest(unittest.TestCase):
         self.addCleanup(settings.stop)
         return settings
 
-    def start(self, settings=None, folder=ASSETS, pictures=ASSETS / "pictures", **options):
-        """Starts the game in a folder where it finds `pictures`, by default past its first run."""
+    def install(self, pictures):
+        """The program in a folder where it finds `pictures`."""
         root = self.folder()
         (root / "build/test").mkdir(parents=True)
         (root / "assets").mkdir()
         (root / "assets/pictures").symlink_to(pictures)
-        program = shutil.copy(self.program, root / "build/test/prismfall")
+        return shutil.copy(self.program, root / "build/test/prismfall")
+
+    def start(self, settings=None, folder=ASSETS, program=None, pictures=ASSETS / "pictures", **options):
+        """Starts the game, by default past its first run."""
+        program = program or self.install(pictures)
         run = game.Game(self.desktop, program, settings or self.settings(game.later_run()), folder, **options)
         self.addCleanup(lambda: run.is_running() and run.kill())
         return run

@@ -126,11 +126,11 @@ class Player(WindowsTest):
         folder = self.user / "AppData/Local/Programs/Prismfall"
         settings = WineSettings(self.user, {"General": {"Music": "False"}})
         run = self.play(folder / "prismfall.exe", settings)
-        run.answer_dialog(layout.ABOUT, layout.ABOUT_OK, 10)
-        box, spot, button = layout.TUTORIAL[0]
-        before = run.main.pixels(*box)
+        run.answer_dialog(layout.ABOUT, seconds=10)
+        spot, button = next(layout.tutorial())
         run.press("CmdStart")
-        wait_for(lambda: run.main.pixels(*box).different(before) > 1500, 10, "a picture of the tutorial")
+        run.wait_for_motion(10)
+        wait_for(run.stands_still, 10, "a picture of the tutorial")
         run.main.click(*spot, button=button)
         run.wait_for_motion()
         # An older version that runs is to be closed first.
@@ -142,15 +142,16 @@ class Player(WindowsTest):
         run = self.play(folder / "prismfall.exe", settings)
         dialog = run.open_dialog("CmdOptions", layout.OPTIONS)
         run.press("CommandExit")  # which is behind the dialog
-        dialog.click(*layout.level_text(8))
-        run.answer_dialog(layout.OPTIONS, layout.OPTIONS_OK)
+        dialog.click(*layout.middle("Option8", layout.OPTIONS))
+        run.answer_dialog(layout.OPTIONS)
         run.press("CommandArcade")
         run.wait_for_motion()
-        run.answer_dialog(layout.SCORES, layout.SCORES_OK, 60)
+        run.answer_dialog(layout.SCORES, seconds=60)
         run.wait_for_main_menu()
         self.end_in_menu(run)
         self.assertEqual(settings.count(), ALL_VALUES)
-        self.assertEqual((settings.general("StartLevel"), settings.general("PlayFirstTime")), ("8", "False"))
+        general = settings.read()["General"]
+        self.assertEqual((general["StartLevel"], general["PlayFirstTime"]), ("8", "False"))
 
         self.wine(folder / "uninstall.exe", "/S")
         wait_for(lambda: not folder.exists(), 30, "the end of the uninstaller")
