@@ -26,6 +26,18 @@ TEST(HeadlessPlatform, TimersAreNeverLateAndCatchUpWithHandlersThatLetEventsRun)
     EXPECT_EQ(fired.str(), "10:E 15:D 30:D 40:E 40:E 40:E ");
 }
 
+TEST(HeadlessPlatform, ADialogThatStandsIsNotShownAgain) {
+    std::ostringstream printed;
+    HeadlessPlatform machine(printed);
+    Window dialog;
+    dialog.name = "Dialog";
+    dialog.Own({{.name = "again", .kind = ElementKind::Button}});
+    dialog.on.elementClick = [&](Element&) { EXPECT_TRUE(machine.ShowModally(dialog)); };
+    machine.QueueAnswer("again");
+    EXPECT_FALSE(machine.ShowModally(dialog)) << "closed by its close box in the end";
+    EXPECT_EQ(printed.str(), "dialog Dialog\n");
+}
+
 TEST(HeadlessPlatform, RandomNumbersComeFromTheQueueFirst) {
     std::ostringstream printed;
     HeadlessPlatform machine(printed);
