@@ -92,6 +92,14 @@ void ActForPlayer(VMain& main) {
     if (main.TutorialStep == 7) SpeedUpForPlayer(main);
 }
 
+// The pause button is dead while a picture stands, so the picture must do its work. The music has come back with the
+// window.
+void EndPauseByMinimising(VMain& main) {
+    main.GameRunning = true;
+    main.platform.StartTimer(Timer::LineDeleter);
+    ShowFace(main.cmdPause, kPauseFace);
+}
+
 }  // namespace
 
 void TriggerTutorial(VMain& main) {
@@ -124,6 +132,7 @@ void ContinueTutorial(VMain& main, int Action) {
     main.platform.StartTimer(Timer::LineExtender);
     HideTutorialPictures(main);
     main.TutorialStep = 0;
+    if (!main.GameRunning) EndPauseByMinimising(main);
 }
 
 void HideTutorialPictures(VMain& main) {

@@ -16,7 +16,7 @@ void TriggerTutorial(VMain& main);
 void PictTut_MouseDown(VMain& main, std::size_t picture, MouseButton Button, float X, float Y);
 
 // With `Action` 0 the tutorial ends and the puzzle goes on as any other; otherwise what the picture asked for is done,
-// and the game goes on to the next picture.
+// and the game goes on to the next picture. A game that stands still, since the window was minimised, goes on as well.
 void ContinueTutorial(VMain& main, int Action);
 
 void HideTutorialPictures(VMain& main);

@@ -54,5 +54,19 @@ TEST(Tutorial, ThreeStepsActOnTheFirstBeamThatTheyMean) {
     }
 }
 
+TEST(Tutorial, APictureAlsoEndsThePauseOfAMinimisedWindow) {
+    TestGame game;
+    VMain& main = game.QuietStore().Load();
+    StartPuzzleGame(main, false, false);
+    game.Click("CmdStart");
+    game.Machine().Run(4000);
+    ASSERT_EQ(main.TutorialStep, 1);
+    for (const bool isMinimised : {true, false}) main.window.on.resize(isMinimised);
+    EXPECT_FALSE(main.GameRunning);
+    game.Machine().Input().PressOn(main.window, main.PictTut[0], MouseButton::Left, 150, 90);
+    EXPECT_TRUE(main.GameRunning && game.Machine().Timers().IsOn(Timer::LineDeleter));
+    EXPECT_EQ(std::string(main.cmdPause.picture) + std::string(main.cmdPause.tag), "PauseUp");
+}
+
 }  // namespace
 }  // namespace prismfall
