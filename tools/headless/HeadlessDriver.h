@@ -5,6 +5,8 @@
 #include <istream>
 #include <memory>
 #include <ostream>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "backends/headless/HeadlessPlatform.h"
@@ -17,8 +19,8 @@ class HeadlessDriver {
   public:
     explicit HeadlessDriver(std::ostream& output) : out(output), platform(output) {}
 
-    // Carries out one line; throws ScriptError, with what was printed before still standing.
-    void Execute(std::string_view line);
+    // Carries out one line. Why it cannot be carried out, or nothing if it was; what was printed before stands.
+    std::string Execute(std::string_view line);
 
   private:
     struct Command;
@@ -26,23 +28,23 @@ class HeadlessDriver {
 
     bool IsRunning() const { return main != nullptr; }
 
-    void Load();
-    void PutSetting(const Words& words);
-    void QueueRandoms(const Words& words);
-    void QueueAnswers(const Words& words);
-    void ChooseMusic(const Words& words);
-    void ChoosePainting(const Words& words);
+    void Load(Arguments& words);
+    void PutSetting(Arguments& words);
+    void QueueRandoms(Arguments& words);
+    void QueueAnswers(Arguments& words);
+    void ChooseMusic(Arguments& words);
+    void ChoosePainting(Arguments& words);
 
-    void Move(const Words& words);
-    void Press(const Words& words);
-    void Click(const Words& words);
-    void PressPicture(const Words& words);
+    void Move(Arguments& words);
+    void Press(Arguments& words);
+    void Click(Arguments& words);
+    void PressPicture(Arguments& words);
     void Close();
 
-    void FireTimer(const Words& words);
-    void SetMember(const Words& words);
-    void AddBeam(const Words& words);
-    void StartPuzzle(const Words& words, bool isSolution);
+    void FireTimer(Arguments& words);
+    void SetMember(Arguments& words);
+    void AddBeam(Arguments& words);
+    void StartPuzzle(Arguments& words, bool isSolution);
 
     std::ostream& out;
     HeadlessPlatform platform;

@@ -1,9 +1,9 @@
-// See ScriptWords.h.
 #include "tools/headless/ScriptWords.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace prismfall {
@@ -11,6 +11,17 @@ namespace prismfall {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\v\f";
+constexpr std::string_view kDigits = "0123456789";
+
+// Digits with or without a point among them, perhaps behind a minus.
+bool IsDecimal(std::string_view word) {
+    if (word.starts_with('-')) word.remove_prefix(1);
+    const std::size_t point = std::min(word.find('.'), word.size());
+    const std::string_view whole = word.substr(0, point);
+    const std::string_view fraction = word.substr(std::min(point + 1, word.size()));
+    const auto isOther = [](std::string_view part) { return part.find_first_not_of(kDigits) != part.npos; };
+    return !isOther(whole) && !isOther(fraction) && !(whole.empty() && fraction.empty());
+}
 
 }  // namespace
 
@@ -26,26 +37,35 @@ Words SplitWords(std::string_view line) {
     return words;
 }
 
-std::int64_t WholeNumber(const std::string& word, std::int64_t lowest, std::int64_t highest) {
+std::int64_t Arguments::WholeNumber(std::int64_t lowest, std::int64_t highest) {
+    const std::string word = Word();
     std::int64_t number = 0;
     const char* end = word.data() + word.size();
     const auto [stop, error] = std::from_chars(word.data(), end, number);
-    if (error != std::errc{} || stop != end) throw ScriptError("not a whole number: " + word);
-    if (number < lowest || number > highest) throw ScriptError("out of range: " + word);
-    return number;
+    if (error != std::errc{} || stop != end) {
+        Fail("not a whole number: " + word);
+    } else if (number < lowest || number > highest) {
+        Fail("out of range: " + word);
+    }
+    return std::clamp(number, lowest, highest);
 }
 
-std::int16_t ShortNumberOf(const std::string& word) {
+std::int16_t Arguments::ShortNumber() {
     using Limits = std::numeric_limits<std::int16_t>;
-    return static_cast<std::int16_t>(WholeNumber(word, Limits::min(), Limits::max()));
+    return static_cast<std::int16_t>(WholeNumber(Limits::min(), Limits::max()));
 }
 
-double DecimalNumber(const std::string& word) {
-    double number = 0;
-    const char* end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, number, std::chars_format::fixed);
-    if (error != std::errc{} || stop != end || !std::isfinite(number)) throw ScriptError("not a number: " + word);
-    return number;
+double Arguments::DecimalNumber() {
+    const std::string word = Word();
+    const double number = IsDecimal(word) ? std::strtod(word.c_str(), nullptr) : std::nan("");
+    const bool isTooSmall = number == 0 && word.find_first_of("123456789") != word.npos;
+    if (std::isfinite(number) && !isTooSmall) return number;
+    Fail("not a number: " + word);
+    return 0;
+}
+
+void Arguments::Fail(std::string why) {
+    if (IsGood()) fault = std::move(why);
 }
 
 }  // namespace prismfall
