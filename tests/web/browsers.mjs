@@ -17,7 +17,14 @@ const programs = {
 /** A browser with an empty profile. */
 export async function startBrowser(name) {
     if (name === 'webkit') return new WebKit().start();
-    const browser = await puppeteer.launch({ headless: true, protocolTimeout: 60_000, ...programs[name] });
+    // A worker that somebody looks into is never idle, and a new one cannot take over from it.
+    const targetFilter = (target) => target.type() !== 'service_worker';
+    const browser = await puppeteer.launch({
+        headless: true,
+        protocolTimeout: 60_000,
+        targetFilter,
+        ...programs[name],
+    });
     return {
         name,
         newPage: async (context = browser) => new PuppeteerPage(await context.newPage()),

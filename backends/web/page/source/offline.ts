@@ -2,7 +2,7 @@
 // used from the next start on at which nobody plays the old one any more.
 import { build } from './build';
 
-const takeOverLimit = 1500; // milliseconds
+const takeOverLimit = 400; // milliseconds
 const takeOverPause = 100;
 
 /** Whether a new version has just taken over, so that this page has to be loaded anew. */

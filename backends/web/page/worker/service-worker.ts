@@ -9,7 +9,7 @@ const page = './';
 worker.addEventListener('install', (event) => event.waitUntil(putBy()));
 worker.addEventListener('activate', (event) => event.waitUntil(dropOldVersions()));
 worker.addEventListener('fetch', (event) => {
-    if (event.request.method === 'GET') event.respondWith(answer(event.request));
+    if (event.request.method === 'GET' && !isPuttingMusicBy(event.request)) event.respondWith(answer(event.request));
 });
 worker.addEventListener('message', (event) => event.waitUntil(takeOverIfAlone()));
 
@@ -26,6 +26,11 @@ async function dropOldVersions(): Promise<void> {
 async function takeOverIfAlone(): Promise<void> {
     const pages = await worker.clients.matchAll({ includeUncontrolled: true, type: 'window' });
     if (pages.length === 1) await worker.skipWaiting();
+}
+
+/** Long requests that pass through here would keep a new version waiting, also after their page has gone. */
+function isPuttingMusicBy(request: Request): boolean {
+    return request.destination === '' && request.url.includes(build.music);
 }
 
 async function answer(request: Request): Promise<Response> {
