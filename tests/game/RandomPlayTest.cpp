@@ -4,14 +4,74 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <random>
 #include <set>
 
+#include "game/GameControl.h"
+#include "game/PlayerInput.h"
+#include "game/PuzzleStart.h"
+#include "simulation/BeamControl.h"
 #include "simulation/Playfield.h"
 #include "tests/game/CountedHeap.h"
-#include "tests/support/RandomPlayer.h"
+#include "tests/support/TestGame.h"
 
 namespace prismfall {
 namespace {
+
+// A whole number from the environment of the test program, or `fallback`.
+long FromEnvironment(const char* name, long fallback) {
+    const char* text = std::getenv(name);
+    return text == nullptr ? fallback : std::atol(text);
+}
+
+class RandomPlayer : public TestGame {
+  public:
+    explicit RandomPlayer(std::uint32_t seed) : random(seed) { QuietStore().Load().SoundEffects = false; }
+
+    // Clicks now and then, and lets about one growth tick pass. Between games it starts a puzzle, a replay or an Arcade
+    // game at a random level.
+    void PlayATick() {
+        if (main->GameRunning && Number(1, 1000) == 1) CommandExit_Click(*main);  // a puzzle can come to a standstill
+        if (!main->GameRunning) StartAGame();
+        if (Chance(12)) Press();
+        machine.Run(machine.Timers().Interval(Timer::LineExtender));
+        TakePrinted();
+    }
+
+    int games = 0;
+
+  private:
+    int Number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); }
+    bool Chance(int percent) { return Number(0, 99) < percent; }
+
+    void StartAGame() {
+        ++games;
+        main->StartLevel = static_cast<std::int16_t>(Number(1, 12));
+        if (Chance(50)) return CommandArcade_Click(*main);
+        const bool isSolution = Chance(20);
+        main->CurrentPuzzle = static_cast<std::int16_t>(Number(2, kPuzzleCount));  // 1 has the tutorial
+        StartPuzzleGame(*main, false, isSolution);
+        if (!isSolution) CmdStart_Click(*main);
+    }
+
+    // On beams mostly. A bend of a beam that stands on a wall leads out of the field, so that is left out.
+    void Press() {
+        int x = Number(0, 700), y = Number(0, 600);
+        if (!main->Lines.empty() && Chance(90)) {
+            const CLine& beam = Beam(static_cast<std::size_t>(Number(1, static_cast<int>(main->Lines.size()))));
+            x = beam.XEnd + Number(-9, 9);
+            y = beam.YEnd + Number(-9, 9);
+        }
+        const CLine* hit = FindNearestLine(*main, Saturated(x), Saturated(y));
+        const bool isOnWall = hit != nullptr && (hit->XEnd < kLeftWall || hit->XEnd >= kRightWall);
+        const MouseButton button = Chance(70) && !isOnWall ? MouseButton::Left : MouseButton::Right;
+        Form_MouseDown(*main, button, static_cast<float>(x), static_cast<float>(y));
+        if (!isOnWall && Chance(8)) Form_DblClick(*main);
+    }
+
+    std::mt19937 random;
+};
 
 bool Holds(const std::vector<CLine*>& beams, const CLine* beam) {
     return std::ranges::find(beams, beam) != beams.end();
