@@ -87,7 +87,7 @@ class Programs(WindowsTest):
         expected["replays"] = subprocess.run([NATIVE], input=replays, capture_output=True, check=True).stdout
         self.assertEqual(expected["replays"].count(b"dialog VPuzzleResult solved"), 90)
         (folder / "driver.exe").symlink_to(BUILT / "prismfall-headless.exe")
-        run = "driver.exe <{0} >{0}.out 2>{0}.err\r\nif errorlevel 1 echo exit status %errorlevel%>>{0}.err\r\n"
+        run = "driver.exe <{0} >{0}.out 2>{0}.err\r\nif errorlevel 1 >>{0}.err echo exit status %errorlevel%\r\n"
         (folder / "all.bat").write_text("".join(run.format(name) for name in expected))
         self.wine("cmd", "/c", "all.bat", cwd=folder, stdout=subprocess.DEVNULL)
         for name, text in expected.items():

@@ -8,7 +8,7 @@
 
 namespace prismfall {
 
-// Where the user's programs keep their settings; empty if the user has no such folder.
+// Where the game keeps the user's settings, by the system's customs; empty if the user has no folder for such things.
 std::filesystem::path UsersSettingsFolder();
 
 // The text of a file, empty if there is none or it cannot be read.

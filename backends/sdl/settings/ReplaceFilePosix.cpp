@@ -146,9 +146,10 @@ fs::path UsersSettingsFolder() {
         const fs::path folder = value != nullptr ? value : "";
         return folder.is_absolute() ? folder : fs::path();
     };
-    const fs::path folder = absolute("XDG_CONFIG_HOME");
+    fs::path folder = absolute("XDG_CONFIG_HOME");
     const fs::path home = absolute("HOME");
-    return folder.empty() && !home.empty() ? home / ".config" : folder;
+    if (folder.empty() && !home.empty()) folder = home / ".config";
+    return folder.empty() ? folder : folder / "prismfall";
 }
 
 std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }

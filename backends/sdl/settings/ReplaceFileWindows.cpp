@@ -133,7 +133,7 @@ DWORD Change(const fs::path& path, const std::function<std::string(std::string)>
 
 fs::path UsersSettingsFolder() {
     const wchar_t* folder = _wgetenv(L"APPDATA");
-    return folder != nullptr ? fs::path(folder) : fs::path();
+    return folder != nullptr ? fs::path(folder) / "Prismfall" : fs::path();
 }
 
 std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }

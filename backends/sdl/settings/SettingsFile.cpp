@@ -31,7 +31,7 @@ std::string Changed(std::string old, const SettingsChange& change) {
 
 std::filesystem::path SettingsFile::UsersFile() {
     const std::filesystem::path folder = UsersSettingsFolder();
-    return folder.empty() ? folder : folder / "prismfall" / "settings.ini";
+    return folder.empty() ? folder : folder / "settings.ini";
 }
 
 std::optional<std::string> SettingsFile::Read(std::string_view section, std::string_view key) {
