@@ -101,7 +101,7 @@ std::string WrongWith(const VMain& main) {
 
 TEST(RandomPlay, KeepsWhatMustHold) {
     const auto seed = static_cast<std::uint32_t>(FromEnvironment("PRISMFALL_TEST_SEED", 1));
-    const long ticks = FromEnvironment("PRISMFALL_TEST_TICKS", 100'000);
+    const long ticks = FromEnvironment("PRISMFALL_TEST_TICKS", 60'000);
     RandomPlayer player(seed);
     const VMain& main = player.Main();
     std::size_t afterHalf = 0;

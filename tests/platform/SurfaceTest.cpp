@@ -95,7 +95,7 @@ TEST_F(SurfaceTest, PaintsThinAndThickAnywhere) {
                              32767, 32767,  32766,  32767, 802,    602, 1300,  1100, -2,     10,     -2,    500,
                              803,   10,     803,    500,   20,     -2,  500,   -2,   20,     603,    500,   603};
     for (std::size_t i = 0; i < std::size(kEnds); i += 4) {
-        for (int width = 5; width >= 0; --width) Line(kEnds[i], kEnds[i + 1], kEnds[i + 2], kEnds[i + 3], width);
+        for (const int width : {5, 4, 1, 0}) Line(kEnds[i], kEnds[i + 1], kEnds[i + 2], kEnds[i + 3], width);
         Check(" after segment " + std::to_string(i / 4));
     }
 }

@@ -1,4 +1,4 @@
-// The virtual clock, which is never late, and its random numbers.
+// The virtual clock, which is never late, and its dialogs.
 #include "backends/headless/HeadlessPlatform.h"
 
 #include <gtest/gtest.h>
@@ -36,17 +36,6 @@ TEST(HeadlessPlatform, ADialogThatStandsIsNotShownAgain) {
     machine.QueueAnswer("again");
     EXPECT_FALSE(machine.ShowModally(dialog)) << "closed by its close box in the end";
     EXPECT_EQ(printed.str(), "dialog Dialog\n");
-}
-
-TEST(HeadlessPlatform, RandomNumbersComeFromTheQueueFirst) {
-    std::ostringstream printed;
-    HeadlessPlatform machine(printed);
-    machine.QueueRandom(0.25);
-    EXPECT_EQ(machine.Random(), 0.25);
-    EXPECT_EQ(machine.Random(), 1103527590.0 / 2147483648.0);
-    machine.QueueRandom(0.75);
-    EXPECT_EQ(machine.Random(), 0.75) << "queued ones leave the generator alone";
-    EXPECT_EQ(machine.Random(), 377401575.0 / 2147483648.0);
 }
 
 }  // namespace
