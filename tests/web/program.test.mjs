@@ -5,8 +5,9 @@ import { spawnSync } from 'node:child_process';
 import { readdirSync, readFileSync } from 'node:fs';
 import { test } from 'node:test';
 
-const native = (script) => spawnSync('build/release/prismfall-headless', { input: script });
-const wasm = (script) => spawnSync(process.execPath, ['--no-warnings', 'tests/web/run-wasi.mjs'], { input: script });
+const native = (script) => spawnSync('build/release/prismfall-headless', { input: script, maxBuffer: 2 ** 28 });
+const wasm = (script) =>
+    spawnSync(process.execPath, ['--no-warnings', 'tests/web/run-wasi.mjs'], { input: script, maxBuffer: 2 ** 28 });
 
 test('stories in WebAssembly', () => {
     const stories = readdirSync('tests/stories').filter((file) => file.endsWith('.script'));
