@@ -47,6 +47,7 @@ export class Windows {
         this.open_.set(number, dialog ? { elements, dialog } : { elements });
         this.input.attach(root, number);
         dialog?.showModal();
+        dialog?.focus();
     }
 
     show(number: number, element: number, record: ElementRecord): void {
@@ -95,7 +96,6 @@ export class Windows {
         inner.id = `inner${number}`;
         dialog.setAttribute('aria-describedby', inner.id);
         // The focus is the dialog's own at first, so that its title and texts are read.
-        dialog.autofocus = true;
         dialog.tabIndex = -1;
         const header = add(dialog, make('header'));
         const title = add(header, make('h2'));
