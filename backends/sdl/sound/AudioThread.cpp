@@ -1,6 +1,8 @@
 // The queue and the loop of the audio thread. It sleeps without a limit of time as long as there is nothing to do.
 #include "backends/sdl/sound/AudioThread.h"
 
+#include <SDL.h>
+
 #include <future>
 #include <memory>
 #include <utility>
@@ -16,7 +18,11 @@ void AudioThread::Post(Task task) {
         tasks.push_back(std::move(task));
     }
     changed.notify_all();
-    if (!thread.joinable()) thread = std::thread([this] { Run(); });
+    if (thread.joinable()) return;
+    thread = std::thread([this] {
+        Run();
+        SDL_TLSCleanup();  // SDL keeps the last error of each thread, and does not see this one end
+    });
 }
 
 bool AudioThread::Call(Task task, std::chrono::milliseconds limit) {
