@@ -202,7 +202,7 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndGoesOnWhereItFellSilentInTheFormOfThe
     getrlimit(RLIMIT_FSIZE, &room);
     const rlimit little{1'000'000, room.rlim_max};
     setrlimit(RLIMIT_FSIZE, &little);
-    setenv("SDL_DISKAUDIODELAY", "2", 1);
+    setenv("SDL_DISKAUDIODELAY", "20", 1);  // milliseconds a chunk, so that there is time before the file is full
     setenv("SDL_DISKAUDIOFILE", first.c_str(), 1);
 
     SdlAudio audio;
