@@ -21,7 +21,7 @@ export async function startBrowser(name) {
     const targetFilter = (target) => target.type() !== 'service_worker';
     const browser = await puppeteer.launch({
         headless: true,
-        protocolTimeout: 60_000,
+        protocolTimeout: 180_000,
         targetFilter,
         ...programs[name],
     });
@@ -40,7 +40,7 @@ class PuppeteerPage {
         page.on('pageerror', (error) => this.faults.push(error.message));
         page.on('console', (line) => line.type() === 'error' && this.faults.push(line.text()));
     }
-    go = (address) => this.page.goto(address);
+    go = (address) => this.page.goto(address, { timeout: 120_000 });
     size = (width, height, options = {}) => this.page.setViewport({ width, height, ...options });
     evaluate = (code, ...values) => this.page.evaluate(code, ...values);
     move = (x, y) => this.page.mouse.move(x, y);
