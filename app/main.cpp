@@ -22,7 +22,7 @@ constexpr std::array<const char*, 3> kPictureFolders = {"pictures", "../../share
 fs::path ProgramFolder() {
     char* name = SDL_GetBasePath();
     if (name == nullptr) return {};
-    const fs::path folder(reinterpret_cast<const char8_t*>(name));
+    fs::path folder(reinterpret_cast<const char8_t*>(name));
     SDL_free(name);
     return folder;
 }
