@@ -32,28 +32,9 @@ class Ends(harness.WindowTest):
         finally:
             Ends.desktop = shared
 
-    def test_a_killed_game_leaves_the_settings_alone(self):
-        settings = self.settings(later_run(StartLevel="5"))
-        before = settings.file.read_bytes()
-        self.start(settings).kill(signal.SIGKILL)
-        self.assertEqual(settings.file.read_bytes(), before)
-        self.assertEqual([entry.name for entry in settings.file.parent.iterdir()], [settings.file.name])
-
 
 class PlainDisplay(harness.WindowTest):
     manager = False
-
-    def test_it_can_be_played_without_a_window_manager(self):
-        run = self.start()
-        dialog = run.open_dialog("CmdOptions", layout.OPTIONS)
-        self.assertEqual(dialog.place()[2:], layout.SIZES[layout.OPTIONS])
-        run.answer_dialog(layout.OPTIONS)
-        run.press("CommandArcade")
-        run.wait_for_motion()
-        run.main.key("Escape")
-        run.wait_for_main_menu()
-        self.end_in_menu(run)
-
 
     def resize(self, window, width, height):
         """What a desktop does that gives no window the size it asks for."""
