@@ -1,6 +1,8 @@
-// How the beams of a puzzle are joined when it is laid out, and what its tutorial does for the player.
+// How the beams of a puzzle are joined when it is laid out, its tutorial in a minimised window, and a solution whose
+// beams go while it yields. What each step of a solution does, the solutions themselves show (StallsTest).
 #include <gtest/gtest.h>
 
+#include "game/GrowthTick.h"
 #include "game/PuzzleStart.h"
 #include "game/Tutorial.h"
 #include "tests/support/TestGame.h"
@@ -38,22 +40,6 @@ TEST(LinkPuzzleLines, AppliesTheFirstRuleThatHolds) {
     }
 }
 
-TEST(Tutorial, ThreeStepsActOnTheFirstBeamThatTheyMean) {
-    constexpr char kBeams[] =
-        "300,100 350,150 red stopped #2; 100,100 150,150 red #2; 500,100 550,150 blue waiting #6; "
-        "400,200 450,250 blue waiting #6";
-    for (std::int16_t step = 1; step <= 8; ++step) {
-        TestGame game(kPuzzleGame, kBeams);
-        game.Main().TutorialStep = step;
-        ContinueTutorial(game.Main(), 1);
-        std::string expected = kBeams;
-        if (step == 2) expected += "; 350,150 350,150 red left #2";
-        if (step == 4) expected.replace(expected.find(" waiting"), 8, "");
-        if (step == 7) expected.replace(expected.find("150,150 red #2"), 7, "585,585");
-        EXPECT_EQ(InShort(game.Main()), expected) << step;
-    }
-}
-
 TEST(Tutorial, APictureAlsoEndsThePauseOfAMinimisedWindow) {
     TestGame game;
     VMain& main = game.QuietStore().Load();
@@ -66,6 +52,18 @@ TEST(Tutorial, APictureAlsoEndsThePauseOfAMinimisedWindow) {
     game.Machine().Input().PressOn(main.window, main.PictTut[0], MouseButton::Left, 150, 90);
     EXPECT_TRUE(main.GameRunning && game.Machine().Timers().IsOn(Timer::LineDeleter));
     EXPECT_EQ(std::string(main.cmdPause.picture) + std::string(main.cmdPause.tag), "PauseUp");
+}
+
+TEST(PlaySolutionStep, StandsBeamsThatGoWhileItYields) {
+    TestGame game(kSolutionReplay, "100,100 150,150 blue 1 #1; 400,100 200,300 blue stopped 1 #2");
+    constexpr std::int16_t kScript[] = {2, 1, 150, -1, 0, 0, 2, 300, 0, 0, 0};
+    game.Main().PuzzleSolutions[1] = kScript;
+    game.Beam(1).StoppingLines = {&game.Beam(2)};  // so that it would fire its step, if it had not gone
+    game.Machine().SetTimerInterval(Timer::LineDeleter, 1);
+    game.Machine().StartTimer(Timer::LineDeleter);
+    ExtendLines(game.Main());
+    EXPECT_EQ(game.TakePrinted(), "sound 4 async\ndialog VPuzzleResult solved\nsound 4 sync\n");
+    EXPECT_TRUE(game.Main().Lines.empty());
 }
 
 }  // namespace

@@ -124,14 +124,5 @@ TEST_F(SurfaceTest, PaintsAndRestoresAtRandom) {
     Check(" after all of it was restored");
 }
 
-TEST_F(SurfaceTest, DamageOfALongDiagonalStaysNearIt) {
-    std::vector<PixelBox> boxes;
-    surface.Line(20, 20, 580, 580, 0, 5);
-    surface.TakeDamage(boxes);
-    int area = 0;
-    for (const PixelBox& box : boxes) area += (box.right - box.left) * (box.bottom - box.top);
-    EXPECT_LT(area, 560 * 560 / 10);
-}
-
 }  // namespace
 }  // namespace prismfall

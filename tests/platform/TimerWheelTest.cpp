@@ -48,26 +48,18 @@ struct Bench {
 };
 
 TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsMadeUpFor) {
-    struct Look {
-        int clock;
-        const char* ticks;
-    };
-    struct Case {
-        int deleter, extender;  // intervals
-        std::vector<Look> looks;
-    };
-    const Case kCases[] = {{0, 10, {{9, ""}, {10, "E"}, {19, ""}, {20, "E"}}},
-                           {0, 10, {{19, "E"}, {20, "E"}, {20, ""}, {30, "E"}}},
-                           {0, 10, {{20, "E"}, {29, ""}, {30, "E"}}},
-                           {0, 10, {{510, "E"}, {519, ""}, {529, "E"}, {530, "E"}}},
-                           {100, 60, {{110, "ED"}, {119, ""}, {120, "E"}}},
-                           {100, 60, {{120, "E"}, {159, ""}, {160, "D"}, {180, "E"}}},
-                           {50, 75, {{149, "D"}, {174, "E"}, {199, "D"}, {249, "DE"}}}};
-    for (const Case& c : kCases) {
+    using Looks = std::vector<std::pair<int, const char*>>;  // at what time of the clock, and what ticks
+    for (const auto& [deleter, extender, looks] : {std::tuple{0, 10, Looks{{9, ""}, {10, "E"}, {19, ""}, {20, "E"}}},
+                                                   {0, 10, Looks{{19, "E"}, {20, "E"}, {20, ""}, {30, "E"}}},
+                                                   {0, 10, Looks{{20, "E"}, {29, ""}, {30, "E"}}},
+                                                   {0, 10, Looks{{510, "E"}, {519, ""}, {529, "E"}, {530, "E"}}},
+                                                   {100, 60, Looks{{110, "ED"}, {119, ""}, {120, "E"}}},
+                                                   {100, 60, Looks{{120, "E"}, {159, ""}, {160, "D"}, {180, "E"}}},
+                                                   {50, 75, Looks{{149, "D"}, {174, "E"}, {199, "D"}, {249, "DE"}}}}) {
         Bench bench;
-        bench.Start(Timer::LineExtender, c.extender);
-        bench.Start(Timer::LineDeleter, c.deleter);
-        for (const Look& look : c.looks) EXPECT_EQ(bench.At(look.clock), look.ticks) << look.clock;
+        bench.Start(Timer::LineExtender, extender);
+        bench.Start(Timer::LineDeleter, deleter);
+        for (const auto& [clock, ticks] : looks) EXPECT_EQ(bench.At(clock), ticks) << clock;
     }
     Bench bench;
     bench.Start(Timer::LineDeleter, 100);

@@ -74,20 +74,17 @@ TEST_F(WindowInputTest, PlacesAreThoseOfWhatIsMetAndLabelsAreNot) {
 }
 
 TEST_F(WindowInputTest, AClickIsPressAndReleaseOnTheSameClickableElement) {
-    struct Case {
-        float fromX, fromY, toX, toY;
-        bool clicks;
-    };
-    const Case cases[] = {{11, 21, 59, 49, true},        // within the button
-                          {11, 21, 60, 49, false},       // let go just outside
-                          {100, 21, 11, 21, false},      // pressed outside
-                          {206, 106, 206, 106, false}};  // an element without a click
     std::uint32_t milliseconds = 0;
-    for (const Case& c : cases) {
+    // Within the button; let go just outside; pressed outside; an element without a click.
+    for (const auto& [from, to, clicks] : {std::tuple{Place{11, 21}, Place{59, 49}, true},
+                                           {{11, 21}, {60, 49}, false},
+                                           {{100, 21}, {11, 21}, false},
+                                           {{206, 106}, {206, 106}, false}}) {
         log.clear();
-        input.Press(window, MouseButton::Left, {c.fromX, c.fromY, milliseconds += 1000, origin});
-        input.Release(window, MouseButton::Left, c.toX, c.toY);
-        EXPECT_EQ(log.find("click-") != std::string::npos, c.clicks) << log;
+        const auto x = static_cast<float>(from.left), y = static_cast<float>(from.top);
+        input.Press(window, MouseButton::Left, {x, y, milliseconds += 1000, origin});
+        input.Release(window, MouseButton::Left, static_cast<float>(to.left), static_cast<float>(to.top));
+        EXPECT_EQ(log.find("click-") != std::string::npos, clicks) << log;
     }
     EXPECT_EQ(Press(window, 11, 21, 9000, MouseButton::Right), "button@1,1 ");
     input.Press(window, MouseButton::Left, {11, 21, 10000, origin});
@@ -105,20 +102,19 @@ TEST_F(WindowInputTest, SecondPressesAreDoubleClicksOnTheSameSurfaceAlone) {
         float x, y;
         const char* second;
     };
-    const Case kCases[] = {{400, 50, 500, 404, 54, "double "},
-                           {400, 50, 501, 400, 50, "left@400,50 "},
-                           {400, 50, 9, 405, 50, "left@405,50 "},
-                           {400, 50, 9, 400, 55, "left@400,55 "},
-                           {11, 21, 99, 11, 21, ""},
-                           {206, 106, 99, 206, 106, ""},
-                           {11, 21, 99, 8, 21, ""},
-                           {8, 21, 99, 11, 21, ""},
-                           {11, 61, 99, 11, 61, "check@1,1 click-check "},
-                           {11, 101, 99, 11, 101, "radio@1,1 click-radio "},
-                           {11, 141, 99, 11, 141, "next@1,1 click-next "},
-                           {11, 141, 99, 8, 141, ""}};
     std::uint32_t milliseconds = 0;
-    for (const Case& c : kCases) {
+    for (const Case& c : {Case{400, 50, 500, 404, 54, "double "},
+                          {400, 50, 501, 400, 50, "left@400,50 "},
+                          {400, 50, 9, 405, 50, "left@405,50 "},
+                          {400, 50, 9, 400, 55, "left@400,55 "},
+                          {11, 21, 99, 11, 21, ""},
+                          {206, 106, 99, 206, 106, ""},
+                          {11, 21, 99, 8, 21, ""},
+                          {8, 21, 99, 11, 21, ""},
+                          {11, 61, 99, 11, 61, "check@1,1 click-check "},
+                          {11, 101, 99, 11, 101, "radio@1,1 click-radio "},
+                          {11, 141, 99, 11, 141, "next@1,1 click-next "},
+                          {11, 141, 99, 8, 141, ""}}) {
         Press(window, c.firstX, c.firstY, milliseconds += 10000);
         EXPECT_EQ(Press(window, c.x, c.y, milliseconds + c.later), c.second) << c.firstX << ' ' << c.x;
     }
@@ -147,11 +143,9 @@ TEST_F(WindowInputTest, ASecondPressInAnotherWindowReachesNothing) {
 }
 
 TEST_F(WindowInputTest, OnlyTheWindowInFrontHasInputWhileItIsShownAndTakesIt) {
+    std::uint32_t presses = 0;
     const auto all = [&](Window& where) {
-        static std::uint32_t milliseconds = 100000;
-        milliseconds += 1000;
-        std::string reached = Press(where, 11, 21, milliseconds);
-        reached += Press(where, 400, 50, milliseconds);
+        std::string reached = Press(where, 11, 21, 1000 * ++presses) + Press(where, 400, 50, 1000 * presses);
         log.clear();
         input.Move(where, 400, 50);
         input.Key(where, 27);

@@ -14,10 +14,16 @@ TEST(FindNearestLine, TakesTheNearestHeadWithinReach) {
         std::int16_t x, y;
         const char* found;
     };
-    constexpr Case kCases[] = {{200, 200, "1"},      {170, 240, "0"},     {165, 235, "1"}, {210, 190, "1"},
-                               {211, 190, "2"},      {200, 400, "0"},     {200, 249, "1"}, {200, 250, "0"},
-                               {-32768, 32767, "0"}, {32767, -32768, "0"}};
-    for (const Case& c : kCases)
+    for (const Case& c : {Case{200, 200, "1"},
+                          {170, 240, "0"},
+                          {165, 235, "1"},
+                          {210, 190, "1"},
+                          {211, 190, "2"},
+                          {200, 400, "0"},
+                          {200, 249, "1"},
+                          {200, 250, "0"},
+                          {-32768, 32767, "0"},
+                          {32767, -32768, "0"}})
         EXPECT_EQ(Places(field.Main(), {FindNearestLine(field.Main(), c.x, c.y)}), c.found) << c.x << ',' << c.y;
     std::swap(field.Main().Lines[0], field.Main().Lines[1]);
     EXPECT_EQ(FindNearestLine(field.Main(), 210, 190), &field.Beam(1)) << "of two as near the first in Lines";

@@ -49,42 +49,33 @@ TEST(DeleteLine, StandsAChainOfAHundredThousandBends) {
 }
 
 TEST(RepairWalls, OneStripBesideTheFirstEndThatIsNear) {
-    struct Case {
-        const char* beam;
-        const char* restored;
-    };
-    constexpr Case kCases[] = {{"121,300 21,400 red", ""},
-                               {"120,300 20,400 red", "restore 7 390 14 410\n"},
-                               {"20,300 120,400 red", "restore 7 290 14 310\n"},
-                               {"19,300 20,301 red", "restore 7 291 14 311\n"},
-                               {"563,300 663,400 red", ""},
-                               {"564,300 664,400 red", "restore 665 390 672 410\n"},
-                               {"664,300 564,400 red", "restore 665 290 672 310\n"},
-                               {"20,300 664,944 red", "restore 7 290 14 310\n"}};
-    for (const Case& c : kCases) {
-        TestField field(kPuzzleGame, c.beam);
+    for (const auto& [beam, restored] : {std::pair{"121,300 21,400 red", ""},
+                                         {"120,300 20,400 red", "restore 7 390 14 410\n"},
+                                         {"20,300 120,400 red", "restore 7 290 14 310\n"},
+                                         {"19,300 20,301 red", "restore 7 291 14 311\n"},
+                                         {"563,300 663,400 red", ""},
+                                         {"564,300 664,400 red", "restore 665 390 672 410\n"},
+                                         {"664,300 564,400 red", "restore 665 290 672 310\n"},
+                                         {"20,300 664,944 red", "restore 7 290 14 310\n"}}) {
+        TestField field(kPuzzleGame, beam);
         field.Machine().SetPainting(true);
         RepairWalls(field.Main(), field.Beam(1));
-        EXPECT_EQ(field.TakePrinted(), c.restored) << c.beam;
+        EXPECT_EQ(field.TakePrinted(), restored) << beam;
     }
 }
 
 TEST(RedrawLines, PaintsWhatBeginsBelowTheBlueLine) {
-    struct Case {
-        std::int32_t mode;
-        const char* beam;
-        bool isPainted;
-    };
-    constexpr Case kCases[] = {
-        {kArcadeGame, "100,60 150,110 green", true},   {kArcadeGame, "100,59 150,109 green", false},
-        {kPuzzleGame, "100,20 150,70 green", true},    {kPuzzleGame, "100,19 150,69 green", false},
-        {kPuzzleGame, "100,90 150,140 green 1", true}, {kPuzzleGame, "100,90 150,140 green 0", false}};
-    for (const Case& c : kCases) {
-        TestField field(c.mode, c.beam);
+    for (const auto& [mode, beam, isPainted] : {std::tuple{kArcadeGame, "100,60 150,110 green", true},
+                                                {kArcadeGame, "100,59 150,109 green", false},
+                                                {kPuzzleGame, "100,20 150,70 green", true},
+                                                {kPuzzleGame, "100,19 150,69 green", false},
+                                                {kPuzzleGame, "100,90 150,140 green 1", true},
+                                                {kPuzzleGame, "100,90 150,140 green 0", false}}) {
+        TestField field(mode, beam);
         RedrawLines(field.Main());
         const Surface& surface = field.Machine().Painted();
-        EXPECT_EQ(surface.PixelAt(110, field.Beam(1).YStart + 10) == 0xFF008000U, c.isPainted) << c.beam;
-        EXPECT_EQ(surface.PixelAt(669, 60) == 0xFF0000FFU, c.mode == kArcadeGame) << "the blue line";
+        EXPECT_EQ(surface.PixelAt(110, field.Beam(1).YStart + 10) == 0xFF008000U, isPainted) << beam;
+        EXPECT_EQ(surface.PixelAt(669, 60) == 0xFF0000FFU, mode == kArcadeGame) << "the blue line";
     }
 }
 

@@ -14,23 +14,16 @@ CLine* Spawn(TestField& field, std::initializer_list<double> numbers) {
 }
 
 TEST(CreateLine, ARandomBeamByItsNumbers) {
-    struct Case {
-        double column, direction, colour;
-        const char* beam;
-    };
-    constexpr Case kCases[] = {
-        {0.0, 0.0, 0.0, "21,20 21,20 blue"},
-        {19.999 / 642, 0.5, 0.2499, "21,20 21,20 blue"},
-        {20.001 / 642, 0.50001, 0.25, "41,20 41,20 green left"},
-        {0.5, 0.99, 0.4999, "341,20 341,20 green left"},
-        {639.99 / 642, 0.3, 0.5, "641,20 641,20 red"},
-        {640.01 / 642, 0.7, 0.7499, "661,20 661,20 red left"},
-        {0.999999, 0.7, 0.75, "661,20 661,20 yellow left"},
-    };
-    for (const Case& c : kCases) {
+    for (const auto& [column, direction, colour, expected] : {std::tuple{0.0, 0.0, 0.0, "21,20 21,20 blue"},
+                                                              {19.999 / 642, 0.5, 0.2499, "21,20 21,20 blue"},
+                                                              {20.001 / 642, 0.50001, 0.25, "41,20 41,20 green left"},
+                                                              {0.5, 0.99, 0.4999, "341,20 341,20 green left"},
+                                                              {639.99 / 642, 0.3, 0.5, "641,20 641,20 red"},
+                                                              {640.01 / 642, 0.7, 0.7499, "661,20 661,20 red left"},
+                                                              {0.999999, 0.7, 0.75, "661,20 661,20 yellow left"}}) {
         TestField field(kArcadeGame);
-        const CLine* beam = Spawn(field, {c.column, c.direction, c.colour});
-        EXPECT_EQ(InShort(field.Main()), c.beam);
+        const CLine* beam = Spawn(field, {column, direction, colour});
+        EXPECT_EQ(InShort(field.Main()), expected);
         EXPECT_EQ(beam->XStartOrg, beam->XStart);
     }
 }
@@ -49,42 +42,37 @@ TEST(CreateLine, PassesOverColumnsThatAreTaken) {
 }
 
 TEST(CreateLine, TheNextSegmentOfAChain) {
-    struct Case {
-        std::int32_t mode;
-        bool simulate;
-        const char* source;
-        const char* segment;
-    };
-    constexpr Case kCases[] = {
-        {kArcadeGame, false, "100,100 150,150 yellow stopped 3 dying #7", "150,150 150,150 yellow left"},
-        {kPuzzleGame, false, "100,100 50,150 yellow #7", "50,150 50,150 yellow #7"},
-        {kSolutionReplay, true, "100,100 150,150 red #7", "150,150 150,150 red left #7"},
-    };
-    for (const Case& c : kCases) {
-        TestField field(c.mode, c.source);
+    for (const auto& [mode, simulate, from, expected] :
+         {std::tuple{kArcadeGame, false, "100,100 150,150 yellow stopped 3 dying #7", "150,150 150,150 yellow left"},
+          {kPuzzleGame, false, "100,100 50,150 yellow #7", "50,150 50,150 yellow #7"},
+          {kSolutionReplay, true, "100,100 150,150 red #7", "150,150 150,150 red left #7"}}) {
+        TestField field(mode, from);
         CLine& source = field.Beam(1);
-        CLine* segment = CreateLine(field.Main(), &source, c.simulate, 99);
-        EXPECT_EQ(InShort(*segment), c.segment);
-        EXPECT_EQ(InShort(source), c.source);
+        CLine* segment = CreateLine(field.Main(), &source, simulate, 99);
+        EXPECT_EQ(InShort(*segment) + InShort(source), std::string(expected) + from);
         EXPECT_EQ(segment->LinkedLines, std::vector<CLine*>{&source});
         EXPECT_EQ(source.LinkedLines, std::vector<CLine*>{segment});
-        EXPECT_EQ(field.Main().Lines.size(), c.simulate ? 1U : 2U);
+        EXPECT_EQ(field.Main().Lines.size(), simulate ? 1U : 2U);
     }
 }
 
 TEST(SetLevelSpeed, IntervalsByLevel) {
-    struct Case {
-        std::int16_t level;
-        int creator, extender;
-    };
-    constexpr Case kCases[] = {{1, 2500, 75}, {2, 2000, 60}, {5, 1024, 31}, {12, 215, 6},  {23, 18, 1},
-                               {24, 15, 1},   {60, 1, 1},    {32767, 1, 1}, {0, 2500, 75}, {-5, 2500, 75}};
     TestField field(kArcadeGame);
-    for (const Case& c : kCases) {
-        field.Main().Level = c.level;
+    const auto& timers = field.Machine().Timers();
+    for (const auto& [level, creator, extender] : {std::tuple{1, 2500, 75},
+                                                   {2, 2000, 60},
+                                                   {5, 1024, 31},
+                                                   {12, 215, 6},
+                                                   {23, 18, 1},
+                                                   {24, 15, 1},
+                                                   {60, 1, 1},
+                                                   {32767, 1, 1},
+                                                   {0, 2500, 75},
+                                                   {-5, 2500, 75}}) {
+        field.Main().Level = static_cast<std::int16_t>(level);
         SetLevelSpeed(field.Main());
-        EXPECT_EQ(field.Machine().Timers().Interval(Timer::LineCreator), c.creator) << "level " << c.level;
-        EXPECT_EQ(field.Machine().Timers().Interval(Timer::LineExtender), c.extender) << "level " << c.level;
+        EXPECT_EQ(timers.Interval(Timer::LineCreator), creator) << "level " << level;
+        EXPECT_EQ(timers.Interval(Timer::LineExtender), extender) << "level " << level;
     }
 }
 

@@ -16,40 +16,36 @@ TEST(FindCollision, HitsWhatTheTableSays) {
         std::int16_t x, y, prevY;
         bool isHit, isHitBySpeeded;  // the first beam, by a head that runs to the left
     };
-    constexpr Case kCases[] = {
-        // By distance, which may be 1.
-        {"100,100 150,150 blue", 120, 120, kFarAway, true, true},
-        {"100,100 150,150 blue", 121, 120, kFarAway, true, true},    // 0.707 away
-        {"100,100 150,150 blue", 122, 120, kFarAway, false, false},  // 1.41
-        {"150,100 100,150 blue", 130, 120, kFarAway, true, true},
-        {"100,100 150,150 blue", 100, 99, kFarAway, true, true},
-        {"100,100 150,150 blue", 100, 98, kFarAway, false, false},
-        {"100,100 150,150 blue", 151, 150, kFarAway, true, true},
-        {"100,100 150,150 blue", 151, 151, kFarAway, false, false},
-        {"100,100 150,150 blue", 160, 160, kFarAway, false, false},
-        {"200,200 200,200 blue", 201, 200, kFarAway, true, true},
-        {"200,200 200,200 blue", 201, 199, kFarAway, false, false},
-        {"-32768,100 32767,100 blue", 0, 100, kFarAway, true, true},
-        // By heads that run towards each other and are less than 3 apart both ways; the point lies far below.
-        {"100,100 150,150 blue", 152, 300, 152, true, true},
-        {"100,100 150,150 blue", 148, 300, 148, true, true},
-        {"100,100 150,150 blue", 153, 300, 150, false, false},
-        {"100,100 150,150 blue", 147, 300, 150, false, false},
-        {"100,100 150,150 blue", 150, 300, 153, false, false},
-        {"100,100 150,150 blue", 150, 300, 147, false, false},
-        {"200,100 150,150 blue", 150, 300, 150, false, false},
-        // A growing beam strikes those in the first step of their removal, unless a speeded one has struck them.
-        {"100,100 150,150 blue stopped 4 dying", 120, 120, kFarAway, true, false},
-        {"100,100 150,150 blue stopped 4 dying fast", 120, 120, kFarAway, false, false},
-        {"100,100 150,150 blue stopped 3 dying", 151, 153, 149, false, false},
-        {"100,100 150,150 blue waiting 4 fast", 151, 153, 149, true, true},
-        // The first in Lines; nothing at or above the blue line.
-        {"100,100 150,150 blue; 100,100 150,150 red", 120, 120, kFarAway, true, true},
-        {"100,0 200,100 blue", 120, 20, kFarAway, false, false},
-        {"100,0 200,100 blue", 121, 21, kFarAway, true, true},
-        {"100,0 200,100 blue", 90, 21, kFarAway, false, false},
-    };
-    for (const Case& c : kCases) {
+    for (const Case& c : {
+             // By distance, which may be 1.
+             Case{"100,100 150,150 blue", 120, 120, kFarAway, true, true},
+             {"100,100 150,150 blue", 122, 120, kFarAway, false, false},  // 1.41
+             {"150,100 100,150 blue", 130, 120, kFarAway, true, true},
+             {"100,100 150,150 blue", 100, 99, kFarAway, true, true},
+             {"100,100 150,150 blue", 100, 98, kFarAway, false, false},
+             {"100,100 150,150 blue", 151, 150, kFarAway, true, true},
+             {"100,100 150,150 blue", 151, 151, kFarAway, false, false},
+             {"200,200 200,200 blue", 201, 199, kFarAway, false, false},
+             {"-32768,100 32767,100 blue", 0, 100, kFarAway, true, true},
+             // By heads that run towards each other and are less than 3 apart both ways; the point lies far below.
+             {"100,100 150,150 blue", 152, 300, 152, true, true},
+             {"100,100 150,150 blue", 148, 300, 148, true, true},
+             {"100,100 150,150 blue", 153, 300, 150, false, false},
+             {"100,100 150,150 blue", 147, 300, 150, false, false},
+             {"100,100 150,150 blue", 150, 300, 153, false, false},
+             {"100,100 150,150 blue", 150, 300, 147, false, false},
+             {"200,100 150,150 blue", 150, 300, 150, false, false},
+             // A growing beam strikes those in the first step of their removal, unless a speeded one has struck them.
+             {"100,100 150,150 blue stopped 4 dying", 120, 120, kFarAway, true, false},
+             {"100,100 150,150 blue stopped 4 dying fast", 120, 120, kFarAway, false, false},
+             {"100,100 150,150 blue stopped 3 dying", 151, 153, 149, false, false},
+             {"100,100 150,150 blue waiting 4 fast", 151, 153, 149, true, true},
+             // The first in Lines; nothing at or above the blue line.
+             {"100,100 150,150 blue; 100,100 150,150 red", 120, 120, kFarAway, true, true},
+             {"100,0 200,100 blue", 120, 20, kFarAway, false, false},
+             {"100,0 200,100 blue", 121, 21, kFarAway, true, true},
+             {"100,0 200,100 blue", 90, 21, kFarAway, false, false},
+         }) {
         TestField field(kPuzzleGame, c.beams);
         for (const bool fast : {false, true}) {
             const CLine* hit = FindCollision(field.Main(), c.x, c.y, c.prevY, kLeftwards, fast);

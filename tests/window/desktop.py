@@ -11,9 +11,13 @@ import shutil
 import signal
 import struct
 import subprocess
+import sys
 import tempfile
 import time
-import zlib
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "assets/pictures/drawing"))
+
+import png  # noqa: E402  which the assets are drawn with
 
 ENDING = []  # what to end, newest last
 PAUSE = 0.01  # between two looks at a condition
@@ -77,15 +81,11 @@ class Pixels:
         return sum(words.count(colour) for colour in colours)
 
     def save(self, path):
-        def chunk(kind, data):
-            return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-
-        rows = [word.to_bytes(3, "big") for word in self.words()]
-        lines = b"".join(b"\0" + b"".join(rows[y * self.width : (y + 1) * self.width]) for y in range(self.height))
-        header = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
-        packed = chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(lines)) + chunk(b"IEND", b"")
-        pathlib.Path(path).parent.mkdir(parents=True, exist_ok=True)
-        pathlib.Path(path).write_bytes(b"\x89PNG\r\n\x1a\n" + packed)
+        path = pathlib.Path(path)
+        path.parent.mkdir(parents=True, exist_ok=True)
+        packed = b"".join(word.to_bytes(3, "big") for word in self.words())
+        rows = [packed[at : at + 3 * self.width] for at in range(0, len(packed), 3 * self.width)]
+        path.write_bytes(png.write(self.width, self.height, 3, rows))
 
 
 class Screen:
@@ -106,8 +106,6 @@ class Screen:
         data[3::4] = bytes(width * height)
         return Pixels(width, height, bytes(data))
 
-    def whole(self):
-        return self.pixels(0, 0, self.width, self.height)
 
 
 class Desktop:

@@ -30,7 +30,8 @@ class WindowTest(unittest.TestCase):
         found = len(result.failures) + len(result.errors)
         super().run(result)
         if len(result.failures) + len(result.errors) > found:
-            self.desktop.screen.whole().save(self.pictures / f"{self.id()}.png")
+            screen = self.desktop.screen
+            screen.pixels(0, 0, screen.width, screen.height).save(self.pictures / f"{self.id()}.png")
 
     def folder(self):
         folder = tempfile.TemporaryDirectory(prefix="prismfall-test-")

@@ -67,5 +67,17 @@ TEST(Script, OnlyTheWorldCanBeChangedWhileNoProgramRuns) {
     }
 }
 
+TEST(HeadlessPlatform, ADialogThatStandsIsNotShownAgain) {
+    std::ostringstream printed;
+    HeadlessPlatform machine(printed);
+    Window dialog;
+    dialog.name = "Dialog";
+    dialog.Own({{.name = "again", .kind = ElementKind::Button}});
+    dialog.on.elementClick = [&](Element&) { EXPECT_TRUE(machine.ShowModally(dialog)); };
+    machine.QueueAnswer("again");
+    EXPECT_FALSE(machine.ShowModally(dialog)) << "closed by its close box in the end";
+    EXPECT_EQ(printed.str(), "dialog Dialog\n");
+}
+
 }  // namespace
 }  // namespace prismfall

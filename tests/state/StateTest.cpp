@@ -1,9 +1,11 @@
-// The record of a beam, and what keeps beams in memory.
+// The record of a beam, what keeps beams in memory, and where a game enters the table of the best.
 #include <gtest/gtest.h>
 
 #include <random>
 #include <set>
 
+#include "state/Numbers.h"
+#include "state/ScoreTable.h"
 #include "tests/support/TestField.h"
 
 namespace prismfall {
@@ -46,6 +48,17 @@ TEST(BeamStore, FreesWhatIsOutOfReachAndNothingElse) {
         EXPECT_EQ(store.Count(), reached.size());
         second.clear();
     }
+}
+
+TEST(EnterScore, BelowOlderEqualOnesAndTheLastRowGoes) {
+    ScoreTable table;
+    for (const int score : {90, 100, 0, 80, 70, 60, 50, 40, 30, 20, 10, 10, 100, 32767})
+        EnterScore(table, {Saturated(score), Saturated(score / 10), 5});
+    EXPECT_FALSE(EnterScore(table, {20, 9, 9})) << "equal to the last one";
+    EXPECT_TRUE(EnterScore(table, {100, 7, 8}));
+    std::string rows;
+    for (const auto& row : table) rows += std::to_string(row.score) + ':' + std::to_string(row.startLevel) + ' ';
+    EXPECT_EQ(rows, "32767:3276 100:10 100:10 100:7 90:9 80:8 70:7 60:6 50:5 40:4 ");
 }
 
 }  // namespace

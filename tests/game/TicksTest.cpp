@@ -1,13 +1,57 @@
-// What a removal tick does to the dying, to those that they had stopped, and to the game.
-#include "game/RemovalTick.h"
-
+// The two ticks of a game: which beams grow and what cuts that short, what a removal does, and what each adds up.
 #include <gtest/gtest.h>
 
+#include "game/GrowthTick.h"
+#include "game/RemovalTick.h"
 #include "simulation/BeamRemoval.h"
 #include "tests/support/TestGame.h"
 
 namespace prismfall {
 namespace {
+
+TEST(GrowthTick, AWallCutsItShortAndWhatHadCollidedScoresNothing) {
+    TestGame game(kArcadeGame,
+                  "150,100 196,146 blue; 250,100 200,150 blue stopped; 64,300 14,350 green; 400,100 420,120 green");
+    game.Main().GrowthToggle = 0;
+    ExtendLines(game.Main());
+    EXPECT_EQ(
+        InShort(game.Main()),
+        "150,100 196,146 blue stopped 4 dying; 250,100 200,150 blue stopped 4 dying; 64,300 13,351 green stopped; "
+        "400,100 420,120 green; 13,351 13,351 green");
+    EXPECT_EQ(Places(game.Main(), game.Beam(3).LinkedLines), "5");
+    EXPECT_EQ(game.Main().Score, 0);
+    EXPECT_EQ(game.Main().GrowthToggle, 1);
+    ExtendLines(game.Main());
+    EXPECT_EQ(InShort(game.Beam(4)) + "; " + InShort(game.Beam(5)), "400,100 421,121 green; 13,351 14,352 green");
+    EXPECT_EQ(game.Main().GrowthToggle, 0);
+}
+
+TEST(GrowthTick, ScoresAllItsHitsAtItsEndAndPaintsTheBlueLine) {
+    TestGame game(kArcadeGame,
+                  "150,100 104,146 green; 50,100 100,150 green stopped; 350,100 304,146 green; 250,100 300,150 green "
+                  "stopped; 500,100 510,110 red stopped");
+    VMain& main = game.Main();
+    ExtendLines(main);
+    EXPECT_EQ(main.Score, 20);
+    EXPECT_EQ(main.LevelLineCount, 2);
+    EXPECT_EQ(main.LabelMulti.left, (104 + 304) / 2);
+    EXPECT_EQ(main.LabelMulti.top, 146 - 10);
+    game.TakePrinted();
+    game.Machine().SetPainting(true);
+    ExtendLines(main);
+    EXPECT_EQ(game.TakePrinted(), "line 14 60 670 60 0xFF0000 1\n");
+    EXPECT_EQ(main.MultiSumX + main.MultiSumY, 0);
+    EXPECT_EQ(main.Score, 20);
+    main.GameMode = kPuzzleGame;
+    ExtendLines(main);
+    EXPECT_EQ(game.TakePrinted(), "") << "a puzzle has no such line";
+}
+
+TEST(GrowthTick, TwoHeadsThatMeetStopEachOther) {
+    TestGame game(kPuzzleGame, "100,100 148,148 blue; 200,100 154,146 green");
+    for (int i = 0; i < 4; ++i) ExtendLines(game.Main());
+    EXPECT_EQ(Places(game.Main(), game.Beam(1).StoppingLines) + Places(game.Main(), game.Beam(2).StoppingLines), "21");
+}
 
 TEST(LineDeleter, ThinsTheWholeChainAndTakesItOut) {
     TestGame game(kArcadeGame, "100,100 150,150 blue; 150,150 100,200 blue; 300,100 350,150 green stopped");
@@ -16,9 +60,8 @@ TEST(LineDeleter, ThinsTheWholeChainAndTakesItOut) {
     game.Beam(2).StoppingLines = {&game.Beam(3)};
     StartRemoval(main, game.Beam(1), false);
     game.Machine().SetPainting(true);
-    for (const float thicknes : {3.0F, 2.0F, 1.0F}) {
+    for (int i = 0; i < 3; ++i) {
         LineDeleter_Timer(main);
-        EXPECT_EQ(game.Beam(2).Thicknes, thicknes);
         EXPECT_EQ(game.TakePrinted().find("0x008000"), std::string::npos) << "nothing else is painted again";
     }
     LineDeleter_Timer(main);
