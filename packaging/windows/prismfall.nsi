@@ -157,12 +157,28 @@ SectionEnd
 
 Var deleteScores
 
+; What was installed for all can be removed by an administrator alone. Goes on only with that right.
+Function un.AskForRights
+    UserInfo::GetAccountType
+    Pop $0
+    ${If} $0 == "Admin"
+        Return
+    ${EndIf}
+    SetErrorLevel 3
+    ${IfNot} ${Silent}
+        ${GetParameters} $0
+        ExecShell runas "$INSTDIR\uninstall.exe" $0
+    ${EndIf}
+    Quit
+FunctionEnd
+
 Function un.onInit
     SetRegView 64
     SetShellVarContext current
     ReadRegStr $0 HKLM "${LISTED}" InstallLocation
     ${If} $0 == $INSTDIR
         SetShellVarContext all
+        Call un.AskForRights
     ${EndIf}
     StrCpy $deleteScores 0
     ${GetParameters} $0
