@@ -56,7 +56,7 @@ class Settings:
 class Game:
     """A run of the program. It starts at once; `main` is its window when that stands."""
 
-    def __init__(self, desktop, program, settings, folder, environment=None, shows_up=True):
+    def __init__(self, desktop, program, settings, folder, environment=None, shows_up=True, seconds=10):
         self.desktop = desktop
         self.messages = desktop.folder / f"messages-{len(desktop.processes)}"
         variables = dict(desktop.environment, XDG_CONFIG_HOME=str(settings.home), **(environment or {}))
@@ -64,12 +64,12 @@ class Game:
         with open(self.messages, "wb") as messages:
             self.process = desktop.start([str(program)], cwd=folder, env=variables, stderr=messages)
         if shows_up:
-            self.wait_for_main_window()
+            self.wait_for_main_window(seconds)
             wait_for(lambda: self.face("CommandExit").count(0) < 1000, 5, "the first picture")
 
-    def wait_for_main_window(self):
+    def wait_for_main_window(self, seconds=10):
         try:
-            self.main = self.desktop.window(layout.MAIN, 10)
+            self.main = self.desktop.window(layout.MAIN, seconds)
         except Missing as missing:
             raise Missing(f"{missing}; exit status {self.process.poll()}, said {self.said()!r}") from None
 

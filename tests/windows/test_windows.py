@@ -73,7 +73,7 @@ class WindowsTest(harness.WindowTest):
         starter = self.folder() / "start"
         starter.write_text(f'#!/bin/sh\nexec {WINE} "{program}"\n')
         starter.chmod(0o755)
-        return self.start(settings, program.parent, starter)
+        return self.start(settings, program.parent, starter, seconds=60)
 
 
 class Programs(WindowsTest):
