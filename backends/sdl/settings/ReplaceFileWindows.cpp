@@ -118,15 +118,17 @@ DWORD Replace(const fs::path& path, const std::string& text) {
     return error;
 }
 
-DWORD Change(const fs::path& path, const std::function<std::string(std::string)>& change) {
+std::error_code SystemError(DWORD error) { return {static_cast<int>(error), std::system_category()}; }
+
+std::error_code Change(const fs::path& path, const std::function<std::string(std::string)>& change) {
     std::error_code error;
     fs::create_directories(path.parent_path(), error);
-    if (error) return static_cast<DWORD>(error.value());
+    if (error) return error;
     const Lock lock;
     const Content old = ReadAll(path);
-    if (old.error != ERROR_SUCCESS) return old.error;
+    if (old.error != ERROR_SUCCESS) return SystemError(old.error);
     const std::string text = change(old.text);
-    return text == old.text ? ERROR_SUCCESS : Replace(path, text);
+    return text == old.text ? std::error_code() : SystemError(Replace(path, text));
 }
 
 }  // namespace
@@ -139,8 +141,8 @@ fs::path UsersSettingsFolder() {
 std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }
 
 std::string ChangeFile(const fs::path& file, const std::function<std::string(std::string)>& change) {
-    const DWORD error = Change(BehindLinks(file), change);
-    return error == ERROR_SUCCESS ? std::string() : std::system_category().message(static_cast<int>(error));
+    const std::error_code error = Change(BehindLinks(file), change);
+    return error ? error.message() : std::string();
 }
 
 }  // namespace prismfall
