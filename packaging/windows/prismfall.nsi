@@ -205,12 +205,12 @@ FunctionEnd
 Section Uninstall
     Call un.AwaitEndOfGame
     !include "${FILES}"
-    Delete "$INSTDIR\uninstall.exe"
-    RMDir "$INSTDIR"
     Delete "$SMPROGRAMS\Prismfall.lnk"
     DeleteRegKey SHCTX "${LISTED}"
     ${If} $deleteScores == 1
         SetShellVarContext current
         RMDir /r "$APPDATA\Prismfall"
     ${EndIf}
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR" ; last: when it is gone, all is
 SectionEnd

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; what is larger is none of its own
 constexpr DWORD kLongestWait = 2000;           // milliseconds, for another run; a save takes a few
-constexpr int kTries = 50;                     // to take a name that a virus scanner or an editor holds for a moment
+constexpr int kTries = 50;                     // while a virus scanner, or a run that is being ended, holds a file
 constexpr DWORD kNextTry = 20;                 // milliseconds
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
@@ -98,22 +98,20 @@ bool WriteAll(const fs::path& path, const std::string& text) {
 }
 
 bool TakeName(const fs::path& from, const fs::path& to) {
-    for (int i = 0; i < kTries; ++i) {
-        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0) return true;
-        const DWORD error = GetLastError();
-        if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) return false;
-        Sleep(kNextTry);
-    }
-    SetLastError(ERROR_ACCESS_DENIED);
-    return false;
+    return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
 // The reason why the file is still the old one, or ERROR_SUCCESS.
 DWORD Replace(const fs::path& path, const std::string& text) {
     fs::path temporary = path;
     temporary += ".new";
-    if (WriteAll(temporary, text) && TakeName(temporary, path)) return ERROR_SUCCESS;
-    const DWORD error = GetLastError();
+    DWORD error = ERROR_SUCCESS;
+    for (int i = 0; i < kTries; ++i) {
+        if (WriteAll(temporary, text) && TakeName(temporary, path)) return ERROR_SUCCESS;
+        error = GetLastError();
+        if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) break;
+        Sleep(kNextTry);
+    }
     DeleteFileW(temporary.c_str());
     return error;
 }
