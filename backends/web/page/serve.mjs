@@ -48,9 +48,14 @@ export async function serve(folder, refuses = () => false) {
     return site;
 }
 
+/** By the first of the programs that is there; by none if none is. */
+function openBrowser(address, [program, ...others] = ['xdg-open', 'x-www-browser']) {
+    if (program) spawn(program, [address], { stdio: 'ignore' }).on('error', () => openBrowser(address, others));
+}
+
 if (argv[1] === fileURLToPath(import.meta.url)) {
     const root = join(dirname(fileURLToPath(import.meta.url)), '../../..');
     const { address } = await serve(argv[2] ?? join(root, 'build/web'));
     console.log(`Prismfall is at ${address} (Ctrl+C ends it)`);
-    if (argv[3] === 'open') spawn('xdg-open', [address], { stdio: 'ignore' }).on('error', () => undefined);
+    if (argv[3] === 'open') openBrowser(address);
 }

@@ -10,6 +10,9 @@ export const frameHeight = 27;
 // A scale this little above a whole factor is taken down to it.
 const snap = 1.04;
 
+// How far from a whole factor a scale may come out that was meant to be one.
+const rounding = 1e-6;
+
 export interface Placement {
     readonly left: number;
     readonly top: number;
@@ -25,6 +28,8 @@ export class Layout {
     constructor(room: HTMLElement) {
         this.room = room;
         new ResizeObserver(() => this.measure()).observe(room);
+        // Also when the page comes to a denser display in the same size.
+        addEventListener('resize', () => this.measure());
         this.measure();
     }
 
@@ -39,7 +44,7 @@ export class Layout {
     }
 
     get isSharp(): boolean {
-        return Number.isInteger(this.density);
+        return Math.abs(this.density - Math.round(this.density)) < rounding;
     }
 
     /** Of a dialog's frame. On a small page it is larger than the picture behind it, so that it can be read. */

@@ -51,9 +51,18 @@ function canSuspend(): boolean {
 
 export async function loadProgram(): Promise<Program> {
     const suspends = canSuspend();
-    const file = fetch(`${build.folder}/${suspends ? 'prismfall' : 'prismfall-asyncify'}.wasm`);
-    const module = await WebAssembly.compileStreaming(file);
+    const module = await compile(`${build.folder}/${suspends ? 'prismfall' : 'prismfall-asyncify'}.wasm`);
     return { run: (machine) => (suspends ? runSuspending(module, machine) : runUnwinding(module, machine)) };
+}
+
+/** Browsers compile a file while it comes only if the server tells its type; not every server does. */
+async function compile(address: string): Promise<WebAssembly.Module> {
+    try {
+        return await WebAssembly.compileStreaming(fetch(address));
+    } catch {
+        const answer = await fetch(address);
+        return WebAssembly.compile(await answer.arrayBuffer());
+    }
 }
 
 async function runSuspending(module: WebAssembly.Module, machine: Machine): Promise<void> {
