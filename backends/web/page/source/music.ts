@@ -15,7 +15,7 @@ export class Music {
         this.notices = notices;
         this.player.preload = 'auto';
         this.player.addEventListener('ended', () => (this.wanted = false));
-        this.player.addEventListener('error', () => this.tell('The music cannot be loaded.'));
+        this.player.addEventListener('error', () => this.tellFault());
         this.player.addEventListener('playing', () => this.tell(''));
         onPress(() => this.sound());
         document.addEventListener('visibilitychange', () => this.sound());
@@ -69,6 +69,12 @@ export class Music {
         }
         // Refused before the first press, and told off when the track changes meanwhile: the next press or track tries again.
         if (this.player.paused) this.player.play().catch(() => undefined);
+    }
+
+    /** What has come and still cannot be heard lacks a device, or is broken. */
+    private tellFault(): void {
+        const hasCome = this.player.error?.code === MediaError.MEDIA_ERR_DECODE;
+        this.tell(hasCome ? 'The music cannot be played here.' : 'The music cannot be loaded.');
     }
 
     private tell(sentence: string): void {
