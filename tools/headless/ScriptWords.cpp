@@ -19,7 +19,9 @@ bool IsDecimal(std::string_view word) {
     const std::size_t point = std::min(word.find('.'), word.size());
     const std::string_view whole = word.substr(0, point);
     const std::string_view fraction = word.substr(std::min(point + 1, word.size()));
-    const auto isOther = [](std::string_view part) { return part.find_first_not_of(kDigits) != part.npos; };
+    const auto isOther = [](std::string_view part) {
+        return part.find_first_not_of(kDigits) != std::string_view::npos;
+    };
     return !isOther(whole) && !isOther(fraction) && !(whole.empty() && fraction.empty());
 }
 
@@ -58,7 +60,7 @@ std::int16_t Arguments::ShortNumber() {
 double Arguments::DecimalNumber() {
     const std::string word = Word();
     const double number = IsDecimal(word) ? std::strtod(word.c_str(), nullptr) : std::nan("");
-    const bool isTooSmall = number == 0 && word.find_first_of("123456789") != word.npos;
+    const bool isTooSmall = number == 0 && word.find_first_of("123456789") != std::string::npos;
     if (std::isfinite(number) && !isTooSmall) return number;
     Fail("not a number: " + word);
     return 0;
