@@ -145,7 +145,8 @@ TEST_F(WindowInputTest, ASecondPressInAnotherWindowReachesNothing) {
 TEST_F(WindowInputTest, OnlyTheWindowInFrontHasInputWhileItIsShownAndTakesIt) {
     std::uint32_t presses = 0;
     const auto all = [&](Window& where) {
-        std::string reached = Press(where, 11, 21, 1000 * ++presses) + Press(where, 400, 50, 1000 * presses);
+        ++presses;
+        std::string reached = Press(where, 11, 21, 1000 * presses) + Press(where, 400, 50, 1000 * presses);
         log.clear();
         input.Move(where, 400, 50);
         input.Key(where, 27);
