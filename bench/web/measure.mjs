@@ -144,16 +144,22 @@ async function play(level, seconds, throttle) {
     await game.page.page.close();
 }
 
+const keepMemory = `const plain = WebAssembly.instantiate; WebAssembly.instantiate = async (...rest) => {
+    const instance = await plain(...rest);
+    globalThis.memory = instance.exports.memory;
+    return instance;
+};`;
+
 async function memory() {
-    const game = await openGame(1);
+    const game = await openGame(1, keepMemory);
     const client = await game.page.page.createCDPSession();
     const ended = () => document.querySelector('dialog[open]') !== null;
     const sizes = [];
     for (let minute = 0; minute <= minutes; ++minute) {
         await client.send('HeapProfiler.collectGarbage');
         const heap = await client.send('Runtime.getHeapUsage');
-        // The last are the program's own memory and the pixels on their way to the canvas.
-        const used = heap.usedSize + heap.embedderHeapUsedSize + heap.backingStorageSize;
+        const program = await game.page.evaluate(() => globalThis.memory.buffer.byteLength);
+        const used = heap.usedSize + heap.embedderHeapUsedSize + heap.backingStorageSize + program;
         sizes.push((used / 1e6).toFixed(2));
         for (const end = Date.now() + 60_000; minute < minutes && Date.now() < end; await sleep(500)) {
             if (await game.page.evaluate(ended)) await game.click('OK');
