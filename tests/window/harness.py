@@ -11,10 +11,12 @@ import sys
 import tempfile
 import unittest
 
-import desktop
-import game
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+ASSETS = ROOT / "assets"
+sys.path.insert(0, str(ROOT / "tools/desktop"))
 
-ASSETS = pathlib.Path(__file__).resolve().parents[2] / "assets"
+import desktop  # noqa: E402
+import game  # noqa: E402
 
 
 class WindowTest(unittest.TestCase):

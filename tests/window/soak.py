@@ -10,11 +10,13 @@ import signal
 import sys
 import time
 
-import desktop
-import game
-import layout
-
 HERE = pathlib.Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE.parents[1] / "tools/desktop"))
+
+import desktop  # noqa: E402
+import game  # noqa: E402
+import layout  # noqa: E402
+
 LEAKS = {"LSAN_OPTIONS": f"suppressions={HERE / 'leaks.txt'}:print_suppressions=0"}
 LONGEST_RUN = 60  # seconds; then the game gets a SIGTERM
 # Words of xdotool, by how often they come: W is a window, P a place in it, B a mouse button, K a key.

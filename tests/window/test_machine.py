@@ -2,8 +2,8 @@
 import signal
 import time
 
-import desktop
 import harness
+import desktop
 import layout
 from desktop import holds_for, wait_for
 from game import later_run

@@ -15,8 +15,8 @@ import zipfile
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tests/window"))
 
-import game  # noqa: E402
 import harness  # noqa: E402
+import game  # noqa: E402
 import layout  # noqa: E402
 from desktop import wait_for  # noqa: E402
 

@@ -2,7 +2,7 @@
 import pathlib
 import re
 
-TEXT = (pathlib.Path(__file__).resolve().parents[1] / "game/layout.expected").read_text()
+TEXT = (pathlib.Path(__file__).resolve().parents[2] / "tests/game/layout.expected").read_text()
 TITLES, SIZES, BOXES = {}, {}, {}
 for name, title, *size in re.findall(r'^(\w+) "([^"]+)" at \S+ inside (\d+)x(\d+)', TEXT, re.M):
     TITLES[name], SIZES[title] = title, tuple(map(int, size))
