@@ -113,6 +113,7 @@ void MakeMainWindow(VMain& main) {
     window.background = "Background";
     window.hasIcon = true;
     window.elements = main.InStackingOrder();
+    MarkTutorialSpots(main);
     Connect(main);
     Form_Load(main);
 }

@@ -38,6 +38,7 @@ constexpr std::array<Moment, kTutorialPictureCount> kMoments = {{
 // Where a picture can be clicked, in its own pixels; all bounds lie outside the spot.
 struct Spot {
     std::size_t picture;
+    std::string_view spoken;
     bool rightButtonOnly;
     float xAbove;
     float xBelow;
@@ -47,19 +48,26 @@ struct Spot {
 };
 
 constexpr std::array<Spot, 9> kSpots = {{
-    {0, false, 14, 67, 75, 104, kSkip},
-    {0, false, 123, 197, 80, 104, kGoOn},
-    {1, false, 6, 37, 95, 130, kGoOn},
-    {2, false, 90, 123, 31, 173, kGoOn},
-    {3, false, 84, 115, 10, 41, kGoOn},
-    {4, false, 147, 179, 75, 100, kGoOn},
-    {5, false, 127, 167, 105, 128, kGoOn},
-    {6, true, 175, 199, 14, 60, kGoOn},
-    {7, false, 149, 185, 75, 96, kGoOn},
+    {0, "Skip Tutorial", false, 14, 67, 75, 104, kSkip},
+    {0, "OK", false, 123, 197, 80, 104, kGoOn},
+    {1, "The end of the red beam", false, 6, 37, 95, 130, kGoOn},
+    {2, "OK", false, 90, 123, 31, 173, kGoOn},
+    {3, "The end of the blue beam", false, 84, 115, 10, 41, kGoOn},
+    {4, "OK", false, 147, 179, 75, 100, kGoOn},
+    {5, "OK", false, 127, 167, 105, 128, kGoOn},
+    {6, "The end of the red beam", true, 175, 199, 14, 60, kGoOn},
+    {7, "OK", false, 149, 185, 75, 96, kGoOn},
 }};
 
 bool Contains(const Spot& spot, float x, float y) {
     return x > spot.xAbove && x < spot.xBelow && y > spot.yAbove && y < spot.yBelow;
+}
+
+// The part of a spot that can be seen: one of them reaches below its picture.
+PressSpot SeenPart(const Spot& spot, const Element& picture) {
+    const float bottom = std::min(spot.yBelow, static_cast<float>(picture.height));
+    return {spot.spoken,          spot.xAbove,         spot.yAbove, spot.xBelow - spot.xAbove,
+            bottom - spot.yAbove, spot.rightButtonOnly};
 }
 
 CLine* FindBeam(const VMain& main, std::int16_t number) {
@@ -101,6 +109,13 @@ void EndPauseByMinimising(VMain& main) {
 }
 
 }  // namespace
+
+void MarkTutorialSpots(VMain& main) {
+    for (const Spot& spot : kSpots) {
+        Element& picture = main.PictTut[spot.picture];
+        *std::ranges::find(picture.spots, PressSpot{}) = SeenPart(spot, picture);
+    }
+}
 
 void TriggerTutorial(VMain& main) {
     const CLine* clock = FindBeam(main, kClockBeam);

@@ -9,6 +9,9 @@
 
 namespace prismfall {
 
+// Tells the backend where the pictures ask for a press, so that keys can do it too. Once, before the window is shown.
+void MarkTutorialSpots(VMain& main);
+
 // At the start of a tick with the tutorial on: brings up the picture whose moment has come and stops LineExtender.
 void TriggerTutorial(VMain& main);
 

@@ -2,6 +2,7 @@
 // draws what has changed.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -35,6 +36,18 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
+// A place in a PressPicture that asks for a press, for players who use keys instead of a pointer.
+struct PressSpot {
+    std::string_view spoken = {};  // what a screen reader says of it
+    float left = 0;                // in the picture
+    float top = 0;
+    float width = 0;  // 0 for no spot
+    float height = 0;
+    bool rightButton = false;  // the right mouse button does it, the left one does not
+
+    bool operator==(const PressSpot&) const = default;
+};
+
 // One element of a window. The box is in game pixels of the window's inner area, or of `panel` if there is one, and
 // covers x from `left` to below `left + width`. Names, pictures, tags and font families are literals.
 struct Element {
@@ -57,8 +70,9 @@ struct Element {
     bool wraps = false;    // break the text into lines at the box's right edge
     int fitHeight = 0;     // above 0 the text is set smaller than its font, if need be, to end within this height
     bool checked = false;  // radio buttons and check boxes
-    std::string_view group = {};     // radio buttons of one name: one of them is checked
-    const Element* panel = nullptr;  // the element that this one lies in and is hidden with
+    std::string_view group = {};          // radio buttons of one name: one of them is checked
+    std::array<PressSpot, 2> spots = {};  // of a PressPicture
+    const Element* panel = nullptr;       // the element that this one lies in and is hidden with
 
     bool operator==(const Element&) const = default;
 };

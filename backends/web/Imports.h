@@ -33,6 +33,16 @@ struct WindowRecord {
     Text background;  // a picture's name
 };
 
+// A place in an element that asks for a press.
+struct SpotRecord {
+    float left = 0;  // in the element
+    float top = 0;
+    float width = 0;  // 0 for no spot
+    float height = 0;
+    std::int32_t button = 0;  // a MouseButton that does it
+    Text spoken;
+};
+
 struct ElementRecord {
     std::int32_t kind = 0;    // an ElementKind
     std::int32_t panel = -1;  // the element that it lies in, -1 for none
@@ -55,6 +65,7 @@ struct ElementRecord {
     Text spoken;
     Text text;
     Text group;
+    SpotRecord spots[2];
 };
 
 constexpr std::uint32_t kNoGround = 0xFFFFFFFF;

@@ -6,6 +6,15 @@
 
 namespace prismfall {
 
+namespace {
+
+page::SpotRecord SpotOf(const PressSpot& spot) {
+    const MouseButton button = spot.rightButton ? MouseButton::Right : MouseButton::Left;
+    return {spot.left, spot.top, spot.width, spot.height, static_cast<std::int32_t>(button), spot.spoken};
+}
+
+}  // namespace
+
 ShownWindow::ShownWindow(Window& shown, std::int32_t pageNumber, Place place) : window(shown), number(pageNumber) {
     if (window.isDialog) origin = {place.left + kNominalFrame.left, place.top + kNominalFrame.top};
     page::WindowRecord record;
@@ -56,6 +65,7 @@ void ShownWindow::Send(std::size_t place) const {
     record.spoken = element.spoken;
     record.text = std::string_view(element.text);
     record.group = element.group;
+    std::ranges::transform(element.spots, record.spots, SpotOf);
     page::ShowElement(number, static_cast<std::int32_t>(place), &record);
 }
 

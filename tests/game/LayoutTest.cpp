@@ -65,6 +65,13 @@ void DescribeSpots(std::ostream& out, TestGame& game, std::size_t picture) {
         out << "spot " << main.PictTut[picture].name << (skips ? " skips " : " goes on ") << left << ',' << top << ' '
             << right - left + 1 << 'x' << bottom - top + 1 << (count[0] == 0 ? " right button\n" : "\n");
         EXPECT_EQ(count[1], (right - left + 1) * (bottom - top + 1)) << "a rectangle";
+        const auto seen = static_cast<float>(std::min(bottom, main.PictTut[picture].height));
+        const auto isForKeys = [&](const PressSpot& spot) {
+            const float middleX = spot.left + spot.width / 2, middleY = spot.top + spot.height / 2;
+            return middleX > static_cast<float>(left) && middleX < static_cast<float>(right) &&
+                   middleY > static_cast<float>(top) && middleY < seen && spot.rightButton == (count[0] == 0);
+        };
+        EXPECT_TRUE(std::ranges::any_of(main.PictTut[picture].spots, isForKeys));
     }
 }
 

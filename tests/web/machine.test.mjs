@@ -41,7 +41,10 @@ async function openGame({
     return new Game(page).open(site.address);
 }
 
-const focused = () => document.activeElement.querySelector('img')?.alt ?? document.activeElement.type;
+const focused = () => {
+    const { ariaLabel, type, firstElementChild } = document.activeElement;
+    return ariaLabel ?? firstElementChild?.alt ?? type;
+};
 
 async function tabTo(game, words) {
     for (let i = 0; i < 20; ++i) {
@@ -71,6 +74,14 @@ test('all buttons can be reached and pressed by keys, and options outlast the pa
         [...document.querySelectorAll('input:checked')].map((input) => input.closest('label').textContent),
     );
     assert.deepEqual(checked, ['Level 7']);
+    await game.click('OK');
+    await game.click('Puzzle');
+    await game.press(120, 120);
+    for (const words of ['Start', 'OK', 'The end of the red beam', 'OK', 'The end of the blue beam', 'OK']) {
+        await game.placeOf(words);
+        await tabTo(game, words);
+        await game.page.key('Enter');
+    }
 });
 
 test('screen readers meet no obstacle', async () => {

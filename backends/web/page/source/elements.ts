@@ -2,7 +2,7 @@
 // at its place in game pixels; the window that holds them is scaled as a whole.
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
-import { type ElementRecord, Kind } from './records';
+import { type ElementRecord, Kind, type SpotRecord } from './records';
 
 const pixelsPerPoint = 96 / 72;
 
@@ -28,6 +28,7 @@ class Shown {
             case Kind.PressPicture:
                 this.node = make('div', 'picture');
                 this.image = add(this.node, makeImage());
+                for (const spot of record.spots) add(this.node, makeSpot(spot));
                 break;
             case Kind.Button:
                 this.node = make('button', 'picture');
@@ -149,6 +150,15 @@ function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): 
         size = Math.ceil(size) - 1;
         node.style.fontSize = `${size}px`;
     }
+}
+
+/** Pointers press the picture itself; this is for keys. */
+function makeSpot(spot: SpotRecord): HTMLButtonElement {
+    const node = make('button', 'spot');
+    for (const side of ['left', 'top', 'width', 'height'] as const) node.style[side] = `${spot[side]}px`;
+    node.setAttribute('aria-label', spot.spoken);
+    node.dataset['button'] = String(spot.button);
+    return node;
 }
 
 function makeImage(): HTMLImageElement {

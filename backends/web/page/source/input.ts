@@ -53,7 +53,7 @@ export class Input {
         if (event.pointerType !== 'touch') return;
         event.preventDefault();
         this.pressSeen = true;
-        const isOnButton = event.target instanceof Element && event.target.closest('button, label') !== null;
+        const isOnButton = event.target instanceof Element && event.target.closest('button:not(.spot), label') !== null;
         const isRight = !isOnButton && (this.fingersPressRight || this.fingers.size > 0);
         const button = isRight ? rightButton : leftButton;
         this.fingers.set(event.pointerId, { ...held, button });
@@ -70,14 +70,22 @@ export class Input {
 
     /** Clicks that come of a press have been seen to already; the program alone says what is marked. */
     private click(event: MouseEvent, held: Held): void {
-        const element =
-            event.target instanceof HTMLElement ? event.target.closest<HTMLElement>('[data-element]') : null;
+        const target = event.target instanceof HTMLElement ? event.target : undefined;
+        const element = target?.closest<HTMLElement>('[data-element]');
         if (element instanceof HTMLLabelElement) event.preventDefault();
         const isOfPress = event.detail > 0 && this.pressSeen;
         this.pressSeen = false;
-        if (!element || isOfPress) return;
+        if (!target || !element || isOfPress) return;
         const place = Number(element.dataset['element']);
-        setTimeout(() => this.waiting.send(EventKind.Activate, held.window, place));
+        if (target.className === 'spot') this.pressMiddle(target, held);
+        else setTimeout(() => this.waiting.send(EventKind.Activate, held.window, place));
+    }
+
+    private pressMiddle(spot: HTMLElement, held: Held): void {
+        const { left, top, width, height } = spot.getBoundingClientRect();
+        const middle = { clientX: left + width / 2, clientY: top + height / 2 };
+        for (const kind of [EventKind.Press, EventKind.Release])
+            this.send(kind, held, Number(spot.dataset['button']), middle);
     }
 
     private key(event: KeyboardEvent): void {
@@ -86,7 +94,12 @@ export class Input {
         if (!event.repeat) this.waiting.send(EventKind.Key, mainWindow, escapeCode);
     }
 
-    private send(kind: EventKind, { window, root }: Held, number: number, event: MouseEvent): void {
+    private send(
+        kind: EventKind,
+        { window, root }: Held,
+        number: number,
+        event: Pick<MouseEvent, 'clientX' | 'clientY'>,
+    ): void {
         const box = root.getBoundingClientRect();
         const scale = box.width / root.offsetWidth;
         this.waiting.send(kind, window, number, (event.clientX - box.left) / scale, (event.clientY - box.top) / scale);

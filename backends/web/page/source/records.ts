@@ -79,6 +79,15 @@ export enum Kind {
     Outline,
 }
 
+export interface SpotRecord {
+    readonly left: number;
+    readonly top: number;
+    readonly width: number;
+    readonly height: number;
+    readonly button: number;
+    readonly spoken: string;
+}
+
 export interface ElementRecord {
     readonly kind: Kind;
     readonly panel: number;
@@ -101,6 +110,7 @@ export interface ElementRecord {
     readonly spoken: string;
     readonly text: string;
     readonly group: string;
+    readonly spots: readonly SpotRecord[];
 }
 
 const noGround = 0xffffffff;
@@ -109,6 +119,17 @@ const noGround = 0xffffffff;
 function cssColour(colour: number): string {
     if (colour === noGround) return 'transparent';
     return `rgb(${colour & 0xff} ${(colour >> 8) & 0xff} ${(colour >> 16) & 0xff})`;
+}
+
+function readSpot(field: FieldReader): SpotRecord {
+    return {
+        left: field.real(),
+        top: field.real(),
+        width: field.real(),
+        height: field.real(),
+        button: field.whole(),
+        spoken: field.text(),
+    };
 }
 
 export function readElement(memory: WebAssembly.Memory, address: number): ElementRecord {
@@ -135,6 +156,7 @@ export function readElement(memory: WebAssembly.Memory, address: number): Elemen
         spoken: field.text(),
         text: field.text(),
         group: field.text(),
+        spots: [readSpot(field), readSpot(field)].filter(({ width }) => width > 0),
     };
 }
 
