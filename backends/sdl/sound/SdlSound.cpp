@@ -15,7 +15,6 @@ namespace {
 
 struct Free {
     void operator()(std::uint8_t* samples) const { SDL_FreeWAV(samples); }
-    void operator()(SDL_AudioStream* stream) const { SDL_FreeAudioStream(stream); }
 };
 
 struct WaveSamples {
@@ -33,15 +32,18 @@ WaveSamples ReadWave(std::span<const std::byte> wave) {
     return found;
 }
 
+// In one piece: SDL's stream would keep the last of a sound to itself, 20 to 50 milliseconds.
 std::vector<std::uint8_t> Converted(const WaveSamples& wave, const SDL_AudioSpec& form) {
-    if (!wave.samples) return {};
-    const std::unique_ptr<SDL_AudioStream, Free> stream(SDL_NewAudioStream(
-        wave.form.format, wave.form.channels, wave.form.freq, form.format, form.channels, form.freq));
-    if (!stream || SDL_AudioStreamPut(stream.get(), wave.samples.get(), static_cast<int>(wave.bytes)) != 0) return {};
-    SDL_AudioStreamFlush(stream.get());
-    std::vector<std::uint8_t> sound(static_cast<std::size_t>(SDL_AudioStreamAvailable(stream.get())));
-    const int got = SDL_AudioStreamGet(stream.get(), sound.data(), static_cast<int>(sound.size()));
-    sound.resize(static_cast<std::size_t>(std::max(0, got)));
+    SDL_AudioCVT conversion;
+    if (!wave.samples || SDL_BuildAudioCVT(&conversion, wave.form.format, wave.form.channels, wave.form.freq,
+                                           form.format, form.channels, form.freq) < 0)
+        return {};
+    std::vector<std::uint8_t> sound(std::size_t{wave.bytes} * static_cast<std::size_t>(conversion.len_mult));
+    std::copy_n(wave.samples.get(), wave.bytes, sound.begin());
+    conversion.buf = sound.data();
+    conversion.len = static_cast<int>(wave.bytes);
+    if (SDL_ConvertAudio(&conversion) != 0) return {};
+    sound.resize(static_cast<std::size_t>(conversion.len_cvt));
     return sound;
 }
 
