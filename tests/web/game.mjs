@@ -1,7 +1,20 @@
 // What a player sees and does: buttons by their words, places by game pixels, all with a real mouse.
 import assert from 'node:assert';
 import { createHash } from 'node:crypto';
-import { sleep } from './browsers.mjs';
+import { after } from 'node:test';
+import { serve } from '../../backends/web/page/serve.mjs';
+import { sleep, startBrowser } from './browsers.mjs';
+
+/** A browser, and the page served to it until the tests are over, but for the paths that are said to be missing. */
+export async function startTests(name, isMissing) {
+    const [site, browser] = await Promise.all([serve('build/web', isMissing), startBrowser(name)]);
+    after(async () => {
+        await browser.close();
+        site.server.closeAllConnections();
+        site.server.close();
+    });
+    return { site, browser };
+}
 
 export class Game {
     constructor(page) {

@@ -2,28 +2,19 @@
 // that cannot be had; and whether people who do not see or do not use a mouse can play. In Chromium.
 import assert from 'node:assert';
 import { cpSync, readdirSync, readFileSync, renameSync, rmSync, writeFileSync } from 'node:fs';
-import { after, afterEach, before, beforeEach, test } from 'node:test';
-import { serve } from '../../backends/web/page/serve.mjs';
-import { sleep, startBrowser } from './browsers.mjs';
-import { Game } from './game.mjs';
+import { afterEach, beforeEach, test } from 'node:test';
+import { sleep } from './browsers.mjs';
+import { Game, startTests } from './game.mjs';
 
-let browser, site, profile;
+let profile;
 let missing = () => false;
+const { site, browser } = await startTests('chromium', (path) => missing(path));
 
-before(async () => {
-    site = await serve('build/web', (path) => missing(path));
-    browser = await startBrowser('chromium');
-});
 beforeEach(async () => {
     missing = () => false;
     profile = await browser.newProfile();
 });
 afterEach(() => profile.close());
-after(async () => {
-    await browser.close();
-    site.server.closeAllConnections();
-    site.server.close();
-});
 
 const laterRun = "localStorage.setItem('prismfall', `[General]\\nPlayFirstTime=False\\n${SETTINGS}`)";
 

@@ -1,27 +1,14 @@
 // The page in three browsers, played with a real mouse: node --test, with the name of a browser in BROWSER.
 import assert from 'node:assert';
 import { spawnSync } from 'node:child_process';
-import { after, before, test } from 'node:test';
-import { serve } from '../../backends/web/page/serve.mjs';
-import { sleep, startBrowser } from './browsers.mjs';
-import { Game, hashOf } from './game.mjs';
+import { test } from 'node:test';
+import { sleep } from './browsers.mjs';
+import { Game, hashOf, startTests } from './game.mjs';
 
-const name = process.env.BROWSER ?? 'chromium';
-let browser, page, game, site;
-
-before(async () => {
-    site = await serve('build/web');
-    browser = await startBrowser(name);
-    page = await browser.newPage();
-    await page.size(900, 760);
-    game = await new Game(page).open(site.address);
-});
-
-after(async () => {
-    await browser.close();
-    site.server.closeAllConnections();
-    site.server.close();
-});
+const { site, browser } = await startTests(process.env.BROWSER ?? 'chromium');
+const page = await browser.newPage();
+await page.size(900, 760);
+const game = await new Game(page).open(site.address);
 
 /** What the native game paints when a script is carried out, as a hash of the surface. */
 function painted(script) {

@@ -96,10 +96,6 @@ export class Elements {
         this.speak(element, record);
     }
 
-    close(): void {
-        for (const { image } of this.shown) if (image) this.pictures.forget(image);
-    }
-
     /** A text may reach beyond the window; lines that break do so where they can still be read. */
     private widthOf(record: ElementRecord): number {
         return record.wraps ? Math.min(record.width, this.root.offsetWidth - record.left) : record.width;

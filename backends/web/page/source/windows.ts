@@ -11,8 +11,9 @@ import type { Waiting } from './waiting';
 const messageBox = -1;
 
 interface OpenWindow {
+    readonly record: WindowRecord;
     readonly elements: Elements;
-    readonly dialog?: HTMLDialogElement;
+    readonly dialog: HTMLDialogElement | undefined;
 }
 
 export class Windows {
@@ -32,6 +33,7 @@ export class Windows {
         layout.whenChanged(() => {
             place(picture, layout.main);
             picture.classList.toggle('sharp', layout.isSharp);
+            for (const window of this.open_.values()) this.placeDialog(window);
         });
     }
 
@@ -44,7 +46,9 @@ export class Windows {
         this.pictures.show(background, record.background);
         if (!dialog) add(root, this.surface.canvas);
         const elements = new Elements(root, this.pictures, this.notices);
-        this.open_.set(number, dialog ? { elements, dialog } : { elements });
+        const window = { record, elements, dialog };
+        this.open_.set(number, window);
+        this.placeDialog(window);
         this.input.attach(root, number);
         dialog?.showModal();
         dialog?.focus();
@@ -55,11 +59,12 @@ export class Windows {
     }
 
     close(number: number): void {
-        const window = this.open_.get(number);
+        const dialog = this.open_.get(number)?.dialog;
         this.open_.delete(number);
-        window?.elements.close();
-        window?.dialog?.close();
-        window?.dialog?.remove();
+        if (!dialog) return;
+        for (const image of dialog.querySelectorAll('img')) this.pictures.forget(image);
+        dialog.close();
+        dialog.remove();
     }
 
     openMessage(sentence: string): void {
@@ -110,9 +115,10 @@ export class Windows {
             event.preventDefault();
             this.waiting.send(EventKind.Close, number);
         });
-        this.layout.whenChanged(() =>
-            place(dialog, this.layout.dialog(record.left, record.top, record.width, record.height)),
-        );
         return dialog;
+    }
+
+    private placeDialog({ dialog, record }: OpenWindow): void {
+        if (dialog) place(dialog, this.layout.dialog(record.left, record.top, record.width, record.height));
     }
 }
