@@ -1,6 +1,7 @@
 // What the page costs, in Chromium: bytes and time to the first picture, from a press to its pixels, processor time and
 // memory in play, and how late it wakes up on a slow processor.
-//   script/build-web && node bench/web/measure.mjs [MINUTES_OF_PLAY]
+//   script/build release && script/build-web && node bench/web/measure.mjs [MINUTES_OF_PLAY]
+import { spawnSync } from 'node:child_process';
 import { readdirSync, readFileSync } from 'node:fs';
 import { gzipSync } from 'node:zlib';
 import puppeteer from 'puppeteer-core';
@@ -155,19 +156,21 @@ async function memory() {
     const client = await game.page.page.createCDPSession();
     const ended = () => document.querySelector('dialog[open]') !== null;
     const sizes = [];
+    const nodes = [];
     for (let minute = 0; minute <= minutes; ++minute) {
         await client.send('HeapProfiler.collectGarbage');
         const heap = await client.send('Runtime.getHeapUsage');
         const program = await game.page.evaluate(() => globalThis.memory.buffer.byteLength);
         const used = heap.usedSize + heap.embedderHeapUsedSize + heap.backingStorageSize + program;
         sizes.push((used / 1e6).toFixed(2));
+        nodes.push((await game.page.page.metrics()).Nodes);
         for (const end = Date.now() + 60_000; minute < minutes && Date.now() < end; await sleep(500)) {
             if (await game.page.evaluate(ended)) await game.click('OK');
             const inMenu = await game.page.evaluate(() => !!document.querySelector('[alt=Arcade]').offsetParent);
             if (inMenu && !(await game.page.evaluate(ended))) await game.click('Arcade');
         }
     }
-    console.log(`memory in MB, minute by minute of Arcade: ${sizes.join(' ')}`);
+    console.log(`memory in MB, minute by minute of Arcade: ${sizes.join(' ')}, and nodes: ${nodes.join(' ')}`);
     await game.page.page.close();
 }
 
@@ -175,6 +178,8 @@ await bytes();
 await warmStart();
 await pressToPixel();
 for (const level of [1, 10]) await play(level, 6, 1);
+console.log('the native game beside it:');
+spawnSync('bench/light/measure', ['--processor'], { stdio: 'inherit' });
 await play(10, 6, 4);
 await memory();
 await browser.close();
