@@ -21,8 +21,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr Extent kOuterSize{806, 629};  // with a nominal frame; the inside is kInnerSize whatever the desktop draws
-constexpr Extent kInnerSize{802, 602};
+constexpr Extent kOuterSize{806, 629};  // with a nominal frame; the inside is 802 by 602 whatever the desktop draws
 
 struct TimerRow {
     Timer timer;
@@ -108,8 +107,6 @@ void MakeMainWindow(VMain& main) {
     Window& window = main.window;
     window.name = "VMain";
     window.title = "Prismfall v1.1";
-    window.innerWidth = kInnerSize.width;
-    window.innerHeight = kInnerSize.height;
     window.background = "Background";
     window.hasIcon = true;
     window.elements = main.InStackingOrder();
