@@ -41,10 +41,8 @@ export class Game {
         const find = (text) => {
             const front = [...document.querySelectorAll('dialog[open]')].at(-1) ?? document;
             const shown = [...front.querySelectorAll('button, label')].filter((node) => node.offsetParent !== null);
-            const named = shown.find(
-                (node) =>
-                    (node.querySelector('img')?.alt ?? node.getAttribute('aria-label') ?? node.textContent) === text,
-            );
+            const wordsOf = (node) => node.querySelector('img')?.alt ?? node.ariaLabel ?? node.textContent;
+            const named = shown.find((node) => wordsOf(node) === text);
             const box = named?.getBoundingClientRect();
             return box && [box.left + box.width / 2, box.top + box.height / 2];
         };
