@@ -3,8 +3,6 @@ import { readFileSync } from 'node:fs';
 import { WASI } from 'node:wasi';
 
 const wasi = new WASI({ version: 'preview1', returnOnExit: true });
-const { instance } = await WebAssembly.instantiate(
-    readFileSync('build/wasm/prismfall-headless.wasm'),
-    wasi.getImportObject(),
-);
+const program = readFileSync('build/wasm/prismfall-headless.wasm');
+const { instance } = await WebAssembly.instantiate(program, { wasi_snapshot_preview1: wasi.wasiImport });
 process.exitCode = wasi.start(instance);
