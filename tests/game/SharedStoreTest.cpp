@@ -12,18 +12,19 @@
 namespace prismfall {
 namespace {
 
-// A store as real machines have it: what it held before is seen by a save, and it can be full.
+// A store as real machines have it: what it held before is seen by a save, it can be full, and it can be deleted.
 class SharedStore : public TestMachine {
   public:
     SharedStore() : TestMachine(printed) {}
 
     bool isFull = false;
+    bool isDeleted = false;
     std::size_t written = 0;  // by the last save
 
     bool ChangeSettings(std::string_view, const SettingsChange& change) override {
         const auto values = change([this](std::string_view section, std::string_view key) {
             const auto found = Store().find({std::string(section), std::string(key)});
-            return found == Store().end() ? std::nullopt : std::optional(found->second);
+            return isDeleted || found == Store().end() ? std::nullopt : std::optional(found->second);
         });
         if (isFull) return false;
         written = values.size();
@@ -92,6 +93,8 @@ TEST(Settings, AClearedTableTakesWhatItsRunEntersAndNothingElse) {
     ClearScores(second);
     EXPECT_EQ(enter(second, 50), "50 0 0 ");
     EXPECT_TRUE(enter(first, 60).starts_with("60 50 ")) << "what was entered before the clearing does not return";
+    shared.isDeleted = true;
+    EXPECT_TRUE(enter(first, 40).starts_with("60 50 ")) << "what was deleted is saved anew";
 }
 
 }  // namespace
