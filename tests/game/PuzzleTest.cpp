@@ -45,6 +45,9 @@ TEST(Tutorial, APictureAlsoEndsThePauseOfAMinimisedWindow) {
     VMain& main = game.QuietStore().Load();
     StartPuzzleGame(main, false, false);
     game.Click("CmdStart");
+    game.Click("cmdPause");
+    EXPECT_FALSE(main.GameRunning) << "between two pictures it is a pause as any other";
+    game.Click("cmdPause");
     game.Machine().Run(4000);
     ASSERT_EQ(main.TutorialStep, 1);
     for (const bool isMinimised : {true, false}) main.window.on.resize(isMinimised);
