@@ -1,6 +1,6 @@
 // The state machine where the stories leave it out: what stands behind a dialog, and where its answers lead. A state
-// looks like "MODE running|still TIMERS BUTTONS", with C, E and D for the game's timers that run, S and P for the
-// buttons CmdStart and cmdPause that show.
+// looks like "MODE running C E D S P": C, E and D stand for the game's timers that run, S and P for the buttons
+// CmdStart and cmdPause that show.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -16,14 +16,15 @@ namespace {
 std::string Looks(TestGame& game) {
     const VMain& main = game.Main();
     const auto& timers = game.Machine().Timers();
-    std::string looks = std::to_string(main.GameMode) + (main.GameRunning ? " running " : " still ");
-    if (timers.IsOn(Timer::LineCreator)) looks += 'C';
-    if (timers.IsOn(Timer::LineExtender)) looks += 'E';
-    if (timers.IsOn(Timer::LineDeleter)) looks += 'D';
-    if (IsShown(main.CmdStart) || IsShown(main.cmdPause)) looks += ' ';
-    if (IsShown(main.CmdStart)) looks += 'S';
-    if (IsShown(main.cmdPause)) looks += 'P';
-    return looks.ends_with(' ') ? looks.substr(0, looks.size() - 1) : looks;
+    std::string looks = std::to_string(main.GameMode);
+    for (const auto& [holds, word] : {std::pair{main.GameRunning, " running"},
+                                      {timers.IsOn(Timer::LineCreator), " C"},
+                                      {timers.IsOn(Timer::LineExtender), " E"},
+                                      {timers.IsOn(Timer::LineDeleter), " D"},
+                                      {IsShown(main.CmdStart), " S"},
+                                      {IsShown(main.cmdPause), " P"}})
+        if (holds) looks += word;
+    return looks;
 }
 
 // Does what a word says.
@@ -50,18 +51,18 @@ void Do(TestGame& game, const std::string& what) {
 // What is done, word by word; the last word's dialog is answered by the button, or closed; what stands behind it; and
 // after.
 constexpr char kDialogs[] = R"(
-    CommandArcade lose    |                 | 3 still  P      | 0 still
-    puzzle lose           |                 | 2 still  SP     | 2 still  SP
-    puzzle lose           | Command1        | 2 still  SP     | 1 still
-    puzzle solve          |                 | 2 running  SP   | 2 still  SP
-    puzzle solve          | CommandNext     | 2 running  SP   | 2 still  S
-    puzzle CmdScores      |                 | 2 still  SP     | 2 running ED SP
-    tutorial CmdOptions   |                 | 2 running D SP  | 2 running D SP
-    replay lose           | CommandSolution | 4 still  S      | 4 running ED S
-    replay solve          | Command1        | 4 running  S    | 1 still
-    replay CmdAbout       |                 | 4 still  S      | 4 running ED S
-    replay CmdStart solve | Command1        | 2 running  S    | 1 still
-    replay CmdStart CmdStart |              | no dialog       | 2 still  S
+    CommandArcade lose       |                 | 3 P             | 0
+    puzzle lose              |                 | 2 S P           | 2 S P
+    puzzle lose              | Command1        | 2 S P           | 1
+    puzzle solve             |                 | 2 running S P   | 2 S P
+    puzzle solve             | CommandNext     | 2 running S P   | 2 S
+    puzzle CmdScores         |                 | 2 S P           | 2 running E D S P
+    tutorial CmdOptions      |                 | 2 running D S P | 2 running D S P
+    replay lose              | CommandSolution | 4 S             | 4 running E D S
+    replay solve             | Command1        | 4 running S     | 1
+    replay CmdAbout          |                 | 4 S             | 4 running E D S
+    replay CmdStart solve    | Command1        | 2 running S     | 1
+    replay CmdStart CmdStart |                 | no dialog       | 2 S
 )";
 
 TEST(States, DialogsLeadOnAndNothingRunsBehindThem) {

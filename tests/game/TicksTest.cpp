@@ -47,12 +47,6 @@ TEST(GrowthTick, ScoresAllItsHitsAtItsEndAndPaintsTheBlueLine) {
     EXPECT_EQ(game.TakePrinted(), "") << "a puzzle has no such line";
 }
 
-TEST(GrowthTick, TwoHeadsThatMeetStopEachOther) {
-    TestGame game(kPuzzleGame, "100,100 148,148 blue; 200,100 154,146 green");
-    for (int i = 0; i < 4; ++i) ExtendLines(game.Main());
-    EXPECT_EQ(Places(game.Main(), game.Beam(1).StoppingLines) + Places(game.Main(), game.Beam(2).StoppingLines), "21");
-}
-
 TEST(LineDeleter, ThinsTheWholeChainAndTakesItOut) {
     TestGame game(kArcadeGame, "100,100 150,150 blue; 150,150 100,200 blue; 300,100 350,150 green stopped");
     VMain& main = game.Main();
@@ -99,15 +93,6 @@ TEST(LineDeleter, RestartsBeamsWhateverTheirState) {
     game.Main().Lines.pop_back();  // one that has left already
     LineDeleter_Timer(game.Main());
     EXPECT_EQ(InShort(game.Main()), "300,100 350,150 red 4 dying; 500,100 550,150 red");
-}
-
-TEST(LineDeleter, OnlyARemovalSolvesAPuzzle) {
-    TestGame game(kPuzzleGame);
-    LineDeleter_Timer(game.Main());
-    EXPECT_TRUE(game.Main().GameRunning) << "empty, and nothing has gone";
-    game.Add("100,100 150,150 blue 0");
-    LineDeleter_Timer(game.Main());
-    EXPECT_FALSE(game.Main().GameRunning);
 }
 
 }  // namespace

@@ -170,10 +170,5 @@ TEST_F(WindowInputTest, OnlyTheWindowInFrontHasInputWhileItIsShownAndTakesIt) {
     EXPECT_EQ(log.find("panel"), std::string::npos);
 }
 
-TEST(WindowDeathTest, AnUnknownNameEndsTheProgram) {
-    Window window;
-    EXPECT_DEATH(window["nobody"].visible = true, "no element nobody");
-}
-
 }  // namespace
 }  // namespace prismfall
