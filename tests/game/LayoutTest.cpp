@@ -34,8 +34,8 @@ void Describe(std::ostream& out, const Window& window, Element& element) {
             << (element.font.italic ? " italic" : "") << (element.wraps ? " wraps" : "") << std::hex << std::uppercase
             << ' ' << element.colour << (element.ground ? " on black" : "") << std::dec << " \"" << element.text << '"';
     out << (element.fitHeight > 0 ? " fits " + std::to_string(element.fitHeight) : "")
-        << (element.group.empty() ? "" : " of a group") << (element.checked ? " checked" : "")
-        << (element.visible ? "" : " hidden") << '\n';
+        << (element.fastPresses ? " fast" : "") << (element.group.empty() ? "" : " of a group")
+        << (element.checked ? " checked" : "") << (element.visible ? "" : " hidden") << '\n';
 }
 
 void Describe(std::ostream& out, TestMachine& machine, const Window& window) {
