@@ -28,7 +28,7 @@ constexpr std::array<std::string_view, kScoreRows> kEndLevelNames = {
     "LabelEndLevel0", "LabelEndLevel1", "LabelEndLevel2", "LabelEndLevel3", "LabelEndLevel4",
     "LabelEndLevel5", "LabelEndLevel6", "LabelEndLevel7", "LabelEndLevel8", "LabelEndLevel9"};
 
-void HideScores(VMain& main) { main.platform.Hide(*main.VHighScore2); }
+void HideScores(VMain& main) { main.VHighScore2->Hide(); }
 
 constexpr std::array<ButtonRow, 3> kButtons = {{
     {"Command1", "ClearScoresUp", "ClearScoresDown", ClearScores},

@@ -11,7 +11,7 @@ namespace prismfall {
 
 namespace {
 
-void HideResult(VMain& main) { main.platform.Hide(*main.VPuzzleResult); }
+void HideResult(VMain& main) { main.VPuzzleResult->Hide(); }
 
 void CommandSolution_Click(VMain& main) {
     StartPuzzleGame(main, false, true);

@@ -68,14 +68,12 @@ class Platform {
     // Brings the whole background back.
     virtual void SurfaceClear() = 0;
 
-    // --- Windows. Their elements are plain data: a backend draws what has changed, the game never asks for it.
+    // --- Windows. Their elements are plain data: a backend draws what has changed, the game never asks for it. The
+    // main window is opened by whatever runs the backend; then its `activate` handler runs.
 
-    // Shows the main window; its `activate` handler runs at the first showing.
-    virtual void Show(Window& window) = 0;
-    virtual void Hide(Window& window) = 0;
-    // Shows a dialog that alone gets the input, runs its `activate`, and returns when it is hidden or closed by its
-    // close box; timers go on meanwhile. True if it was hidden, false if it was closed. True at once for a dialog that
-    // stands already.
+    // Shows a dialog that alone gets the input, runs its `activate`, and returns when a handler has hidden it or its
+    // close box was used; timers go on meanwhile. True if it was hidden, false if it was closed. True at once for a
+    // dialog that stands already.
     virtual bool ShowModally(Window& dialog) = 0;
     // The size with the desktop's frame, the size within it, and the place of the frame's corner on the desktop.
     // A dialog that is not shown yet answers with the frame that it is expected to have.

@@ -43,7 +43,7 @@ struct Window {
     std::string_view background;  // a picture laid at the top left and cut off at the edges
     bool isDialog = false;        // a small frame without minimise and maximise boxes
     bool hasIcon = false;
-    bool visible = false;            // set and cleared by the backend's Show and Hide
+    bool visible = false;            // set and cleared by the backend
     bool takesInput = true;          // without it the close box alone works
     std::vector<Element*> elements;  // stacking order, later ones on top
     WindowHandlers on;
@@ -57,6 +57,9 @@ struct Window {
         owned = std::move(table);
         for (Element& element : owned) elements.push_back(&element);
     }
+
+    // Of a dialog that stands: the end of its ShowModally, once the handler that calls this has ended.
+    void Hide() { visible = false; }
 
     // The element of that name, or nothing.
     Element* Find(std::string_view elementName) {

@@ -11,7 +11,7 @@ namespace prismfall {
 
 namespace {
 
-void HideAbout(VMain& main) { main.platform.Hide(*main.VAbout); }
+void HideAbout(VMain& main) { main.VAbout->Hide(); }
 
 constexpr std::array<ButtonRow, 1> kButtons = {{{"Command1", "OKAboutUp", "OKAboutDown", HideAbout}}};
 

@@ -29,7 +29,7 @@ void ApplyLevel(VMain& main) {
         SetStartLevel(main, static_cast<std::int16_t>(i + 1));
         break;
     }
-    main.platform.Hide(dialog);
+    dialog.Hide();
 }
 
 constexpr std::array<ButtonRow, 1> kButtons = {{{"Command1", "OKOptionsUp", "OKOptionsDown", ApplyLevel}}};

@@ -81,13 +81,6 @@ void HeadlessPlatform::SurfaceClear() {
 
 // --- Windows.
 
-void HeadlessPlatform::Show(Window& window) {
-    Open(window);
-    if (window.on.activate) window.on.activate();
-}
-
-void HeadlessPlatform::Hide(Window& window) { window.visible = false; }
-
 bool HeadlessPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     out << "dialog " << DialogTitle(dialog) << '\n';

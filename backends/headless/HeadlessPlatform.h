@@ -36,7 +36,7 @@ class HeadlessPlatform : public Platform {
     // Forgets what belongs to one run of the program: timers, windows and surface. Clock, generator, queues and store
     // go on.
     void BeginRun();
-    // Lets a window stand in front, as Show does, without its activation.
+    // Lets a window stand in front, without its activation.
     void Open(Window& window);
     bool HasEnded() const { return hasEnded; }
 
@@ -52,8 +52,6 @@ class HeadlessPlatform : public Platform {
     void SurfaceRestore(int x1, int y1, int x2, int y2) override;
     void SurfaceClear() override;
 
-    void Show(Window& window) override;
-    void Hide(Window& window) override;
     bool ShowModally(Window& dialog) override;
     Extent OuterSize(const Window& window) override;
     Extent InnerSize(const Window& window) override;

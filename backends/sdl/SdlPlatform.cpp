@@ -70,7 +70,15 @@ int SdlPlatform::NoteEndBySystem(void* self, SDL_Event* event) {
 }
 
 void SdlPlatform::Run(Window& mainWindow) {
-    if (!mainWindow.visible) Show(mainWindow);
+    if (!desktop.Open(mainWindow)) {
+        std::fprintf(stderr, "prismfall: no window can be opened: %s.\n", SDL_GetError());
+        std::exit(EXIT_FAILURE);
+    }
+    mainWindow.visible = true;
+    main = &mainWindow;
+    loop.Timers().Handle([&mainWindow] {
+        if (mainWindow.on.activate) mainWindow.on.activate();
+    });
     loop.Run();
 }
 
@@ -101,26 +109,6 @@ void SdlPlatform::SurfaceRestore(int x1, int y1, int x2, int y2) { desktop.Layer
 
 void SdlPlatform::SurfaceClear() { desktop.Layer().Clear(); }
 
-void SdlPlatform::Show(Window& window) {
-    if (window.visible) return;
-    if (!desktop.Open(window)) {
-        std::fprintf(stderr, "prismfall: no window can be opened: %s.\n", SDL_GetError());
-        std::exit(EXIT_FAILURE);
-    }
-    window.visible = true;
-    main = &window;
-    loop.Timers().Handle([&window] {
-        if (window.on.activate) window.on.activate();
-    });
-}
-
-void SdlPlatform::Hide(Window& window) {
-    if (!window.visible) return;
-    window.visible = false;
-    // A dialog's real window is still in use by the handler that hides it; ShowModally lets it go.
-    if (!window.isDialog) desktop.Close(window);
-}
-
 bool SdlPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (!OpenDialog(dialog)) return false;
@@ -147,7 +135,7 @@ bool SdlPlatform::CloseDialog(Window& dialog) {
 // No timer ticks behind an error box.
 void SdlPlatform::ShowMessageBox(std::string_view text) {
     Window box;
-    MakeMessageBox(box, text, desktop.Screen(), [&] { Hide(box); });
+    MakeMessageBox(box, text, desktop.Screen(), [&] { box.Hide(); });
     if (main != nullptr) {
         const Place corner = Position(*main);
         const Extent outer = OuterSize(*main);

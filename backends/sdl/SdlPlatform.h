@@ -33,8 +33,6 @@ class SdlPlatform final : public Platform {
     void SurfaceRestore(int x1, int y1, int x2, int y2) override;
     void SurfaceClear() override;
 
-    void Show(Window& window) override;
-    void Hide(Window& window) override;
     bool ShowModally(Window& dialog) override;
     Extent OuterSize(const Window& window) override;
     Extent InnerSize(const Window& window) override;

@@ -50,7 +50,12 @@ SettingsText StoredSettings() {
 WebPlatform::WebPlatform() : time(PageTime), timers(time) {}
 
 void WebPlatform::Run(Window& mainWindow) {
-    Show(mainWindow);
+    main = &mainWindow;
+    Open(mainWindow, {});
+    Refresh();
+    timers.Handle([&mainWindow] {
+        if (mainWindow.on.activate) mainWindow.on.activate();
+    });
     while (!ended) {
         Work();
         timers.Handle([this] { DeliverMinimised(); });
@@ -177,18 +182,6 @@ void WebPlatform::Open(Window& window, Place place) {
     shown.push_back(std::make_unique<ShownWindow>(window, static_cast<std::int32_t>(shown.size()), place));
     input.Open(window);
 }
-
-void WebPlatform::Show(Window& window) {
-    if (window.visible || ended) return;
-    main = &window;
-    Open(window, {});
-    Refresh();
-    timers.Handle([&window] {
-        if (window.on.activate) window.on.activate();
-    });
-}
-
-void WebPlatform::Hide(Window& window) { window.visible = false; }
 
 bool WebPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
