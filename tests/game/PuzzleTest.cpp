@@ -43,7 +43,9 @@ TEST(LinkPuzzleLines, AppliesTheFirstRuleThatHolds) {
 TEST(Tutorial, APictureAlsoEndsThePauseOfAMinimisedWindow) {
     TestGame game;
     VMain& main = game.QuietStore().Load();
+    game.Machine().SetTimerInterval(Timer::LineExtender, 6);  // as a game of high level has left it
     StartPuzzleGame(main, false, false);
+    EXPECT_EQ(game.Machine().Timers().Interval(Timer::LineExtender), 75);
     game.Click("CmdStart");
     game.Click("cmdPause");
     EXPECT_FALSE(main.GameRunning) << "between two pictures it is a pause as any other";

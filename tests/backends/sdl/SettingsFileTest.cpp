@@ -64,7 +64,8 @@ TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
         });
     };
     std::mt19937 random(Seed());
-    for (int round = 0; round < 30; ++round) {
+    // On a machine with other work it takes more and longer rounds until enough was saved.
+    for (unsigned round = 0; round < 30 || done[0] + done[1] < 20; ++round) {
         std::array<pid_t, 2> copies{};
         for (std::size_t i = 0; i < copies.size(); ++i) {
             copies[i] = fork();
@@ -72,7 +73,7 @@ TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
                 if (save(std::to_string(i)).empty()) ++done[i];
         }
         for (const pid_t copy : copies) {
-            std::this_thread::sleep_for(std::chrono::microseconds(2000 + random() % 15000));
+            std::this_thread::sleep_for(std::chrono::microseconds(2000 + random() % (10000 + 500 * round)));
             kill(copy, SIGKILL);
             waitpid(copy, nullptr, 0);
         }
@@ -85,7 +86,6 @@ TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
             done[i] = count;
         }
     }
-    EXPECT_GT(done[0] + done[1], 10);
 }
 
 TEST_F(SettingsFileTest, WithoutRoomTheOldFileStandsAndNothingIsLeft) {
