@@ -85,15 +85,5 @@ TEST(LineDeleter, ABeamThatStandsTwiceLosesTwoSteps) {
     EXPECT_EQ(InShort(main), "400,400 410,410 blue stopped");
 }
 
-TEST(LineDeleter, RestartsBeamsWhateverTheirState) {
-    TestGame game(kArcadeGame,
-                  "100,100 150,150 blue 0; 300,100 350,150 red stopped 4 dying; 500,100 550,150 red waiting");
-    game.Add("600,100 650,150 green");
-    game.Beam(1).StoppingLines = {&game.Beam(2), &game.Beam(3), &game.Beam(4)};
-    game.Main().Lines.pop_back();  // one that has left already
-    LineDeleter_Timer(game.Main());
-    EXPECT_EQ(InShort(game.Main()), "300,100 350,150 red 4 dying; 500,100 550,150 red");
-}
-
 }  // namespace
 }  // namespace prismfall
