@@ -43,7 +43,7 @@ struct Window {
     std::string_view background;  // a picture laid at the top left and cut off at the edges
     bool isDialog = false;        // a small frame without minimise and maximise boxes
     bool hasIcon = false;
-    bool visible = false;            // set and cleared by the backend
+    bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // without it the close box alone works
     std::vector<Element*> elements;  // stacking order, later ones on top
     WindowHandlers on;

@@ -1,5 +1,5 @@
-// How the beams of a puzzle are joined when it is laid out, its tutorial in a minimised window, and a solution whose
-// beams go while it yields. What each step of a solution does, the solutions themselves show (StallsTest).
+// How the beams of a puzzle are joined when it is laid out, how its tutorial pauses, and a solution whose beams go
+// while it yields. What each step of a solution does, the solutions themselves show (StallsTest).
 #include <gtest/gtest.h>
 
 #include "game/GrowthTick.h"
@@ -40,7 +40,7 @@ TEST(LinkPuzzleLines, AppliesTheFirstRuleThatHolds) {
     }
 }
 
-TEST(Tutorial, APictureAlsoEndsThePauseOfAMinimisedWindow) {
+TEST(Tutorial, ItsSpeedAndItsPauses) {
     TestGame game;
     VMain& main = game.QuietStore().Load();
     game.Machine().SetTimerInterval(Timer::LineExtender, 6);  // as a game of high level has left it
