@@ -9,7 +9,7 @@
 
 #include "backends/sdl/SdlPlatform.h"
 #include "game/MainWindow.h"
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "backends/web/WebPlatform.h"
 #include "game/MainWindow.h"
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace {
 

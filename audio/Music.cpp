@@ -26,58 +26,39 @@ constexpr std::array<LevelTrack, 9> kLevelTracks = {{
 
 }  // namespace
 
-void PlayMusicFile(const VMain& main, std::string_view file, std::int16_t volume) {
-    if (!main.Music) return;
-    Platform& player = main.platform;
-    player.MusicClose();
-    if (const int failure = player.MusicOpen(file); failure != 0) {
-        player.ShowMessageBox(player.MusicFailureText(failure));
+void PlayMusicFile(const Audio& audio, std::string_view file, std::int16_t volume) {
+    if (!audio.settings.Music) return;
+    audio.player.MusicClose();
+    if (const int failure = audio.player.MusicOpen(file); failure != 0) {
+        audio.player.ShowMessageBox(audio.player.MusicFailureText(failure));
         return;
     }
-    SetMusicVolume(main, volume);
-    player.MusicPlayLooping();
+    SetMusicVolume(audio, volume);
+    audio.player.MusicPlayLooping();
 }
 
-void SetMusicVolume(const VMain& main, std::int16_t volume) {
-    if (main.Music) main.platform.MusicSetVolume(volume);
-}
-
-void PlayLevelMusic(const VMain& main, std::int16_t number) {
+void PlayLevelMusic(const Audio& audio, std::int16_t number) {
     for (const LevelTrack& track : kLevelTracks)
         if (std::ranges::find(track.numbers, number) != track.numbers.end())
-            return PlayMusicFile(main, track.file, kMusicVolume);
+            return PlayMusicFile(audio, track.file, kMusicVolume);
 }
 
-void StopMusic(const VMain& main) {
-    if (!main.Music) return;
-    main.platform.MusicStop();
-    main.platform.MusicClose();
+void SetMusicVolume(const Audio& audio, std::int16_t volume) {
+    if (audio.settings.Music) audio.player.MusicSetVolume(volume);
 }
 
-void PauseMusic(const VMain& main) {
-    if (main.Music) main.platform.MusicPause();
+void StopMusic(const Audio& audio) {
+    if (!audio.settings.Music) return;
+    audio.player.MusicStop();
+    audio.player.MusicClose();
 }
 
-void ResumeMusic(const VMain& main) {
-    if (main.Music) main.platform.MusicResume();
+void PauseMusic(const Audio& audio) {
+    if (audio.settings.Music) audio.player.MusicPause();
 }
 
-void SetMusic(VMain& main, Boolean value) {
-    if (value == main.Music) return;
-    if (!value) {
-        StopMusic(main);
-        main.Music = false;
-        return;
-    }
-    main.Music = true;
-    if (main.GameMode == kMainMenu || main.GameMode == kPuzzleMenu) PlayMusicFile(main, kIntroTrack, kMusicVolume);
-    if (main.GameMode == kPuzzleGame) PlayLevelMusic(main, main.CurrentPuzzle);
-    if (main.GameMode == kArcadeGame) PlayLevelMusic(main, main.Level);
-}
-
-void TimerPlayIntro_Timer(VMain& main) {
-    PlayMusicFile(main, kIntroTrack, kMusicVolume);
-    main.platform.StopTimer(Timer::TimerPlayIntro);
+void ResumeMusic(const Audio& audio) {
+    if (audio.settings.Music) audio.player.MusicResume();
 }
 
 }  // namespace prismfall

@@ -7,7 +7,9 @@
 
 namespace prismfall {
 
-// A complete RIFF WAVE file, or nothing for an id that is not there.
+constexpr int kFirstSoundId = 102;
+
+// A complete RIFF WAVE file, or nothing for an id without a file.
 std::span<const std::byte> LoadSoundResource(int id);
 
 }  // namespace prismfall

@@ -7,8 +7,9 @@
 #include "backends/headless/HeadlessPlatform.h"
 #include "bench/BareField.h"
 #include "game/GrowthTick.h"
-#include "game/PlayerInput.h"
-#include "simulation/BeamControl.h"
+#include "game/Modes.h"
+#include "game/RunForward.h"
+#include "platform/Numbers.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/CollisionDetection.h"
 #include "simulation/Playfield.h"
@@ -20,7 +21,7 @@ constexpr int kTicksAtATime = 100;
 constexpr std::int16_t kFastBeamTop = 70;
 
 // The same beams as a game and as bare arrays.
-struct Field {
+struct Pair {
     std::ostream nowhere{nullptr};
     HeadlessPlatform machine{nowhere};
     VMain main{machine};
@@ -28,29 +29,29 @@ struct Field {
     Surface surface;
     std::vector<PixelBox> damage;
 
-    Field() {
-        main.GameMode = kArcadeGame;
-        main.CollisionLineY = kArcadeCollisionLineY;
+    Pair() {
+        EnterMode(main, Mode::ArcadeGame);
+        main.field.CollisionLineY = RowOf(main.GameMode).collisionLineY;
     }
 
     void Add(int tailX, int tailY, int headX, int headY, int color, bool grows) {
-        CLine& beam = main.Beams.Make();
+        CLine& beam = main.field.Beams.Make();
         beam.XStart = Saturated(tailX);
         beam.YStart = Saturated(tailY);
         beam.XEnd = Saturated(headX);
         beam.YEnd = Saturated(headY);
-        beam.Direction = headX >= tailX ? kRightwards : kLeftwards;
-        beam.Color = color;
-        beam.RunMode = grows ? kGrowing : kStopped;
+        beam.Direction = headX >= tailX ? Heading::Rightwards : Heading::Leftwards;
+        beam.Color = static_cast<BeamColor>(color);
+        beam.RunMode = grows ? Motion::Growing : Motion::Stopped;
         beam.Thicknes = kLiveThicknes;
-        main.Lines.push_back(&beam);
+        main.field.Lines.push_back(&beam);
         bare.Add(tailX, tailY, headX, headY, color, grows);
     }
 
     // Puts the heads back to where they were.
     void Rewind(std::size_t beam, int headX, int headY) {
-        main.Lines[beam]->XEnd = bare.xEnd[beam] = static_cast<std::int16_t>(headX);
-        main.Lines[beam]->YEnd = bare.yEnd[beam] = static_cast<std::int16_t>(headY);
+        main.field.Lines[beam]->XEnd = bare.xEnd[beam] = static_cast<std::int16_t>(headX);
+        main.field.Lines[beam]->YEnd = bare.yEnd[beam] = static_cast<std::int16_t>(headY);
     }
 
     // What a frame takes.
@@ -61,7 +62,7 @@ struct Field {
 };
 
 // Thirty that grow among sixty, in lanes of their own, so that none meets another.
-struct BusyField : Field {
+struct BusyField : Pair {
     BusyField() {
         for (int i = 0; i < 60; ++i) Add(HeadX(i) - 20, 80, HeadX(i), 100, i % 4, i % 2 == 0);
     }
@@ -72,34 +73,34 @@ struct BusyField : Field {
 };
 
 void Tick(benchmark::State& state) {
-    BusyField field;
+    BusyField pair;
     for (auto _ : state) {
         for (int tick = 0; tick < kTicksAtATime; ++tick) {
-            ExtendLines(field.main);
-            field.TakeDamage();
+            ExtendLines(pair.main);
+            pair.TakeDamage();
         }
-        if (field.main.Lines[58]->YEnd != 100 + kTicksAtATime) state.SkipWithError("a beam was stopped");
-        field.RewindAll();
+        if (pair.main.field.Lines[58]->YEnd != 100 + kTicksAtATime) state.SkipWithError("a beam was stopped");
+        pair.RewindAll();
     }
     state.SetItemsProcessed(state.iterations() * kTicksAtATime);
 }
 BENCHMARK(Tick);
 
 void TickFloor(benchmark::State& state) {
-    BusyField field;
+    BusyField pair;
     for (auto _ : state) {
         for (int tick = 0; tick < kTicksAtATime; ++tick) {
-            field.bare.Tick(field.surface);
-            field.TakeDamage();
+            pair.bare.Tick(pair.surface);
+            pair.TakeDamage();
         }
-        field.RewindAll();
+        pair.RewindAll();
     }
     state.SetItemsProcessed(state.iterations() * kTicksAtATime);
 }
 BENCHMARK(TickFloor);
 
 // A thousand beams all over the field, and test points that meet none of them: each walk goes to the end.
-struct CrowdedField : Field {
+struct CrowdedField : Pair {
     struct Point {
         std::int16_t x, y;
     };
@@ -114,30 +115,30 @@ struct CrowdedField : Field {
         for (int i = 0; count < points.size(); ++i) {
             const auto x = static_cast<std::int16_t>(20 + i * 211 % 640),
                        y = static_cast<std::int16_t>(70 + i * 173 % 500);
-            if (FindCollision(main, x, y, 1000, kLeftwards, false) == nullptr) points[count++] = {x, y};
+            if (FindCollision(main.field, x, y, 1000, Heading::Leftwards, false) == nullptr) points[count++] = {x, y};
         }
     }
 };
 
 void FindCollisionIn1000(benchmark::State& state) {
-    const CrowdedField field;
+    const CrowdedField pair;
     for (auto _ : state)
-        for (const auto& [x, y] : field.points)
-            benchmark::DoNotOptimize(FindCollision(field.main, x, y, 1000, kLeftwards, false));
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(field.points.size()));
+        for (const auto& [x, y] : pair.points)
+            benchmark::DoNotOptimize(FindCollision(pair.main.field, x, y, 1000, Heading::Leftwards, false));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(pair.points.size()));
 }
 BENCHMARK(FindCollisionIn1000);
 
 void FindCollisionIn1000Floor(benchmark::State& state) {
-    const CrowdedField field;
+    const CrowdedField pair;
     for (auto _ : state)
-        for (const auto& [x, y] : field.points) benchmark::DoNotOptimize(field.bare.FindNear(x, y, 1000, -1));
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(field.points.size()));
+        for (const auto& [x, y] : pair.points) benchmark::DoNotOptimize(pair.bare.FindNear(x, y, 1000, -1));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(pair.points.size()));
 }
 BENCHMARK(FindCollisionIn1000Floor);
 
 // One beam with the whole field before it, among sixty that it passes.
-struct OpenField : Field {
+struct OpenField : Pair {
     OpenField() {
         for (int i = 0; i < 60; ++i) Add(500 + i % 3, 80 + i, 620 + i % 3, 200 + i, i % 4, false);
         Add(20, 67, 23, kFastBeamTop, 1, true);
@@ -149,47 +150,47 @@ struct OpenField : Field {
 };
 
 void SpeedUp(benchmark::State& state) {
-    OpenField field;
+    OpenField pair;
     for (auto _ : state) {
-        SpeedUpLine(field.main, *field.main.Lines[60], false);
-        if (field.main.Lines[60]->YEnd != kFloor - 1) state.SkipWithError("the beam was stopped");
-        field.RewindFast();
+        RunForward(pair.main, *pair.main.field.Lines[60]);
+        if (pair.main.field.Lines[60]->YEnd != kFloor - 1) state.SkipWithError("the beam was stopped");
+        pair.RewindFast();
     }
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(SpeedUp);
 
 void SpeedUpFloor(benchmark::State& state) {
-    OpenField field;
+    OpenField pair;
     for (auto _ : state) {
-        field.bare.RunDown(field.surface, 60);
-        field.RewindFast();
+        pair.bare.RunDown(pair.surface, 60);
+        pair.RewindFast();
     }
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(SpeedUpFloor);
 
-struct FullField : Field {
+struct FullField : Pair {
     FullField() {
         for (int i = 0; i < 60; ++i) Add(30 + 3 * i, 80, 430 + 3 * i, 480, i % 4, false);
     }
 };
 
 void Redraw(benchmark::State& state) {
-    FullField field;
+    FullField pair;
     for (auto _ : state) {
-        RedrawLines(field.main);
-        field.TakeDamage();
+        RedrawLines(pair.main.field);
+        pair.TakeDamage();
     }
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(Redraw);
 
 void RedrawFloor(benchmark::State& state) {
-    FullField field;
+    FullField pair;
     for (auto _ : state) {
-        field.bare.Paint(field.surface);
-        field.TakeDamage();
+        pair.bare.Paint(pair.surface);
+        pair.TakeDamage();
     }
     state.SetItemsProcessed(state.iterations());
 }

@@ -1,13 +1,14 @@
 #include "game/Buttons.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
 #include "game/GameControl.h"
 #include "game/HighScores.h"
+#include "game/Modes.h"
 #include "game/PuzzleMenu.h"
 #include "screens/About.h"
-#include "screens/ButtonFaces.h"
 #include "screens/Options.h"
 #include "simulation/Playfield.h"
 
@@ -15,79 +16,57 @@ namespace prismfall {
 
 namespace {
 
-// In the order of a reset.
-constexpr std::array<ButtonRow, 10> kButtons = {{
-    {"CommandPuzzle", "PuzzleUp", "PuzzleDown", CommandPuzzle_Click},
-    {"CommandArcade", "ArcadeUp", "ArcadeDown", CommandArcade_Click},
-    {"CommandPrevious", "PreviousUp", "PreviousDown", CommandPrevious_Click},
-    {"CommandNext", "NextUp", "NextDown", CommandNext_Click},
-    {"CmdStart", "StartUp", "StartDown", CmdStart_Click},
-    {"cmdPause", "PauseUp", "PauseDown", cmdPause_Click},
-    {"CmdOptions", "OptionsUp", "OptionsDown", CmdOptions_Click},
-    {"CmdScores", "ScoresUp", "ScoresDown", CmdScores_Click},
-    {"CmdAbout", "AboutUp", "AboutDown", CmdAbout_Click},
-    {"CommandExit", "ExitUp", "ExitDown", CommandExit_Click},
-}};
-
-// Faces that a button's tag puts in place of those of the table above.
-struct TaggedFaces {
+struct ButtonClick {
     std::string_view button;
-    std::string_view tag;
-    std::string_view up;
-    std::string_view down;
+    void (*click)(VMain& main);
 };
 
-constexpr std::array<TaggedFaces, 3> kTaggedFaces = {{
-    {"CmdStart", "Restart", "RestartUp", "RestartDown"},
-    {"CmdStart", "Takeover", "TakeoverUp", "TakeoverDown"},
-    {"cmdPause", "Resume", "ResumeUp", "ResumeDown"},
+constexpr std::array<ButtonClick, 10> kClicks = {{
+    {"CommandPuzzle", CommandPuzzle_Click},
+    {"CommandArcade", CommandArcade_Click},
+    {"CommandPrevious", CommandPrevious_Click},
+    {"CommandNext", CommandNext_Click},
+    {"CmdStart", CmdStart_Click},
+    {"cmdPause", cmdPause_Click},
+    {"CmdOptions", CmdOptions_Click},
+    {"CmdScores", CmdScores_Click},
+    {"CmdAbout", CmdAbout_Click},
+    {"CommandExit", CommandExit_Click},
 }};
 
-struct Faces {
-    std::string_view up;
-    std::string_view down;
-};
-
-Faces FacesOf(const ButtonRow& row, const Element& button) {
-    for (const TaggedFaces& tagged : kTaggedFaces)
-        if (tagged.button == button.name && tagged.tag == button.tag) return {tagged.up, tagged.down};
-    return {row.up, row.down};
-}
-
-// Shows a dialog with a running game at rest, and puts the button's Up picture back.
-void OpenDialog(VMain& main, void (*show)(VMain&), Element& button, std::string_view up) {
+// Opens a dialog, with a running game paused meanwhile, and puts the button's Up picture back.
+template <typename Show>
+void OpenDialog(VMain& main, Element& button, Show show) {
     const bool wasRunning = main.GameRunning;
     if (wasRunning) cmdPause_Click(main);
-    show(main);
-    button.picture = up;
+    show();
+    button.picture = button.faces.up;
     if (wasRunning) cmdPause_Click(main);
 }
 
 }  // namespace
 
-void ResetButtons(VMain& main) {
-    for (const ButtonRow& row : kButtons) {
-        Element& button = main.window[row.button];
-        button.picture = FacesOf(row, button).up;
-    }
-}
-
 void Form_MouseMove(VMain& main, float X) {
-    if (main.GameMode == kMainMenu || X > static_cast<float>(kRightWall)) ResetButtons(main);
+    if (main.GameMode == Mode::MainMenu || X > static_cast<float>(kRightWall)) ResetFaces(main.window);
 }
 
-void Button_MouseMove(Element& element) {
-    if (const ButtonRow* row = FindRow(kButtons, element.name)) element.picture = FacesOf(*row, element).down;
+void Button_Click(VMain& main, const Element& element) {
+    const auto row = std::ranges::find(kClicks, element.name, &ButtonClick::button);
+    if (row != kClicks.end()) row->click(main);
 }
 
-void Button_Click(VMain& main, Element& element) {
-    if (const ButtonRow* row = FindRow(kButtons, element.name)) row->click(main);
+void CmdOptions_Click(VMain& main) {
+    OpenDialog(main, main.CmdOptions, [&main] {
+        ShowOptions(main.dialogs, main.VOptions, main.settings, [&main](bool isOn) { SetMusic(main, isOn); });
+    });
 }
 
-void CmdOptions_Click(VMain& main) { OpenDialog(main, ShowOptions, main.CmdOptions, "OptionsUp"); }
+void CmdScores_Click(VMain& main) {
+    OpenDialog(main, main.CmdScores, [&main] { ShowHighScores(main); });
+}
 
-void CmdScores_Click(VMain& main) { OpenDialog(main, ShowHighScores, main.CmdScores, "ScoresUp"); }
-
-void CmdAbout_Click(VMain& main) { OpenDialog(main, ShowAbout, main.CmdAbout, "AboutUp"); }
+void CmdAbout_Click(VMain& main) {
+    OpenDialog(main, main.CmdAbout, [&main] { ShowAbout(main.dialogs, main.VAbout); });
+}
 
 }  // namespace prismfall

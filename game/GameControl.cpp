@@ -1,19 +1,17 @@
 #include "game/GameControl.h"
 
-#include <string_view>
-
 #include "audio/Music.h"
 #include "game/GameTimers.h"
+#include "game/Modes.h"
 #include "game/PuzzleMenu.h"
 #include "game/PuzzleStart.h"
 #include "game/Tutorial.h"
+#include "platform/Numbers.h"
 #include "screens/About.h"
-#include "screens/MainMenu.h"
-#include "screens/SettingsStore.h"
+#include "settings/SettingsStore.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/Playfield.h"
-#include "state/GameModes.h"
 
 namespace prismfall {
 
@@ -22,41 +20,37 @@ namespace {
 // --- Starting.
 
 void ShowArcadeScreen(VMain& main) {
-    main.GameMode = kArcadeGame;
-    ShowMainMenu(main, false);
-    ShowScoreboard(main, true);
-    ClearLines(main);
-    main.CollisionLineY = kArcadeCollisionLineY;
-    ShowFace(main.cmdPause, kPauseFace);
-    main.cmdPause.visible = true;
-    main.platform.SurfaceClear();
+    EnterScreen(main, Mode::ArcadeGame);
+    SetMeaning(main.cmdPause, kPause);
+    ClearLines(main.field);
+    main.field.CollisionLineY = RowOf(main.GameMode).collisionLineY;
 }
 
 void StartScore(VMain& main) {
     main.Score = 0;
     ShowNumber(main.VScore, 0);
     main.LevelLineCount = 0;
-    main.Level = main.StartLevel;
-    PlayLevelMusic(main, main.Level);
+    main.Level = main.settings.StartLevel;
+    PlayLevelMusic(main.audio, main.Level);
     ShowNumber(main.VLevel, main.Level);
     SetLevelSpeed(main);
-    main.GameStartLevel = main.StartLevel;
+    main.GameStartLevel = main.settings.StartLevel;
 }
 
-void MakeOpeningBeams(VMain& main) {
-    for (const int below : {0, main.CollisionLineY / 2, int{main.CollisionLineY}})
-        CreateLine(main, nullptr, false, Saturated(kSpawnHeight + below));
+void MakeOpeningBeams(Field& field) {
+    for (const int below : {0, field.CollisionLineY / 2, int{field.CollisionLineY}})
+        CreateLine(field, Saturated(kSpawnHeight + below));
 }
 
 void TakeOver(VMain& main) {
-    main.GameMode = kPuzzleGame;
-    ShowFace(main.CmdStart, kRestartFace);
+    EnterMode(main, Mode::PuzzleGame);
+    SetMeaning(main.CmdStart, kRestart);
 }
 
 void StartWaitingPuzzle(VMain& main) {
     StartBeamTimers(main);
-    ShowFace(main.CmdStart, kRestartFace);
-    ShowFace(main.cmdPause, kPauseFace);
+    SetMeaning(main.CmdStart, kRestart);
+    SetMeaning(main.cmdPause, kPause);
     main.cmdPause.visible = true;
     main.GameRunning = true;
     main.PuzzleWaiting = false;
@@ -67,14 +61,14 @@ void StartWaitingPuzzle(VMain& main) {
 void StandStill(VMain& main) {
     main.GameRunning = false;
     StopGameTimers(main);
-    ShowFace(main.cmdPause, kResumeFace);
+    SetMeaning(main.cmdPause, kResume);
 }
 
 void GoOn(VMain& main) {
     main.GameRunning = true;
-    if (main.GameMode == kArcadeGame) main.platform.StartTimer(Timer::LineCreator);
+    if (RowOf(main.GameMode).spawnsBeams) main.platform.StartTimer(Timer::LineCreator);
     StartBeamTimers(main);
-    ShowFace(main.cmdPause, kPauseFace);
+    SetMeaning(main.cmdPause, kPause);
 }
 
 // --- Leaving.
@@ -82,48 +76,23 @@ void GoOn(VMain& main) {
 void DropGame(VMain& main) {
     main.GameRunning = false;
     StopGameTimers(main);
-    ClearLines(main);
-    main.platform.SurfaceClear();
+    ClearLines(main.field);
 }
 
-void LeaveArcade(VMain& main) {
-    main.GameMode = kMainMenu;
-    DropGame(main);
-    ShowMainMenu(main, true);
-    ShowScoreboard(main, false);
-}
-
-void LeavePuzzle(VMain& main) {
-    main.GameMode = kPuzzleMenu;
-    DropGame(main);
-    ShowPuzzleMenu(main, true);
-    ShowScoreboard(main, false);
+void DropTutorial(VMain& main) {
     main.TutorialActive = false;
     main.TutorialStep = 0;
 }
 
-void LeavePuzzleMenu(VMain& main) {
-    main.GameMode = kMainMenu;
-    main.platform.SurfaceClear();
-    ShowMainMenu(main, true);
-    ShowScoreboard(main, false);
-}
-
 // Leaves a game for its menu, or the puzzle menu for the main menu.
 void LeaveScreen(VMain& main) {
-    if (IsPuzzle(main)) return LeavePuzzle(main);
-    if (main.GameMode == kArcadeGame) return LeaveArcade(main);
-    LeavePuzzleMenu(main);
-}
-
-void HandleEscape(VMain& main) {
-    if (main.GameMode == kMainMenu) {
-        SaveSettings(main);
-        main.platform.EndProgram();
-        return;
-    }
-    if (IsPuzzle(main)) HideTutorialPictures(main);
-    LeaveScreen(main);
+    const ModeRow& row = RowOf(main.GameMode);
+    if (row.isGame) DropGame(main);
+    if (row.isPuzzle) DropTutorial(main);
+    main.platform.SurfaceClear();
+    const Mode next = row.exitTo;
+    if (next == Mode::PuzzleMenu) return ShowPuzzleMenu(main);
+    EnterScreen(main, next);
 }
 
 }  // namespace
@@ -134,14 +103,14 @@ void CommandArcade_Click(VMain& main) {
     main.platform.StartTimer(Timer::LineCreator);
     StartBeamTimers(main);
     main.GameRunning = true;
-    RedrawLines(main);
+    RedrawLines(main.field);
     StartScore(main);
-    MakeOpeningBeams(main);
+    MakeOpeningBeams(main.field);
 }
 
 void CmdStart_Click(VMain& main) {
     HideTutorialPictures(main);
-    if (main.GameMode == kSolutionReplay) return TakeOver(main);
+    if (main.GameMode == Mode::SolutionReplay) return TakeOver(main);
     if (main.PuzzleWaiting) return StartWaitingPuzzle(main);
     StartPuzzleGame(main, false, false);
 }
@@ -150,46 +119,53 @@ void cmdPause_Click(VMain& main) {
     if (main.TutorialActive && main.TutorialStep != 0) return;
     if (main.GameRunning) {
         StandStill(main);
-        PauseMusic(main);
+        PauseMusic(main.audio);
     } else {
         GoOn(main);
-        ResumeMusic(main);
+        ResumeMusic(main.audio);
     }
 }
 
 void CommandExit_Click(VMain& main) {
     HideTutorialPictures(main);
-    if (main.GameMode == kMainMenu) {
-        SaveSettings(main);
-        StopMusic(main);
+    if (main.GameMode == Mode::MainMenu) {
+        SaveSettings(main.settings, main.platform);
+        StopMusic(main.audio);
         main.platform.EndProgram();
         return;
     }
-    const bool isGame = main.GameMode != kPuzzleMenu;
+    const bool isGame = RowOf(main.GameMode).isGame;
     LeaveScreen(main);
-    if (isGame) PlayMusicFile(main, kIntroTrack, kMusicVolume);
+    if (isGame) PlayIntroMusic(main.audio);
 }
 
 void Form_KeyDown(VMain& main, std::int16_t KeyCode) {
-    if (KeyCode == kEscapeKey) HandleEscape(main);
+    if (KeyCode != kEscapeKey) return;
+    if (main.GameMode == Mode::MainMenu) {
+        SaveSettings(main.settings, main.platform);
+        main.platform.EndProgram();
+        return;
+    }
+    HideTutorialPictures(main);
+    LeaveScreen(main);
 }
 
 void Form_Resize(VMain& main, bool isMinimised) {
     if (isMinimised) {
-        PauseMusic(main);
+        PauseMusic(main.audio);
         if (main.GameRunning) StandStill(main);
         return;
     }
-    ResumeMusic(main);
-    if (main.GameMode != kSolutionReplay) return;
+    ResumeMusic(main.audio);
+    if (main.GameMode != Mode::SolutionReplay) return;
     StartBeamTimers(main);
     main.GameRunning = true;
 }
 
 void Form_Activate(VMain& main) {
-    if (!main.PlayFirstTime) return;
-    main.PlayFirstTime = false;
-    ShowAbout(main);
+    if (!main.settings.PlayFirstTime) return;
+    main.settings.PlayFirstTime = false;
+    ShowAbout(main.dialogs, main.VAbout);
     main.CurrentPuzzle = 1;
     StartPuzzleGame(main, false, false);
 }

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 

@@ -4,8 +4,9 @@
 #include "audio/SoundEffects.h"
 #include "game/GameTimers.h"
 #include "game/HighScores.h"
+#include "game/Modes.h"
 #include "game/PuzzleResult.h"
-#include "screens/MainMenu.h"
+#include "platform/Numbers.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {
@@ -21,9 +22,9 @@ void WaitForBand(const VMain& main) {
 }
 
 // The part of a beam that lies in the band above SweepY.
-void SweepBeam(const VMain& main, const CLine& beam) {
+void SweepBeam(const VMain& main, const BeamBody& beam) {
     if (main.SweepY > beam.YEnd + kSweepBand || main.SweepY < beam.YStart) return;
-    const int sideways = beam.Direction == kRightwards ? 1 : -1;
+    const int sideways = Sideways(beam.Direction);
     const int down = main.SweepY - beam.YStart;
     int x1 = beam.XStart + sideways * (down - kSweepBand);
     int y1 = main.SweepY - kSweepBand;
@@ -37,13 +38,13 @@ void SweepBeam(const VMain& main, const CLine& beam) {
         x2 = beam.XEnd;
         y2 = beam.YEnd;
     }
-    DrawLine(main, x1, y1, x2, y2, kGrey, beam.Direction);
+    DrawLine(main.platform, x1, y1, x2, y2, BeamColor::Grey, beam.Direction);
 }
 
 void ShowEnd(VMain& main) {
-    if (main.GameMode != kArcadeGame) return ShowPuzzleResult(main, false);
+    if (!RowOf(main.GameMode).isScored) return ShowPuzzleResult(main, false);
     ShowHighScores(main);
-    ShowMainMenu(main, true);
+    EnterScreen(main, Mode::MainMenu);
 }
 
 }  // namespace
@@ -52,9 +53,9 @@ void EndGame(VMain& main) {
     main.window.takesInput = false;
     StopGameTimers(main);
     SaveScore(main);
-    StopMusic(main);
+    StopMusic(main.audio);
     main.platform.LetEventsRun();
-    PlaySound2(main, kSoundGameOver, true);
+    PlaySound2(main.audio, Sound::GameOver, true);
     main.GameRunning = false;
     GameOverSweep(main);
     ShowEnd(main);
@@ -64,7 +65,7 @@ void EndGame(VMain& main) {
 void GameOverSweep(VMain& main) {
     for (main.SweepY = kFloor; main.SweepY >= kPlayfieldTop; main.SweepY = Saturated(main.SweepY - kSweepBand)) {
         WaitForBand(main);
-        for (const CLine* beam : main.Lines) SweepBeam(main, *beam);
+        for (const CLine* beam : main.field.Lines) SweepBeam(main, *beam);
     }
 }
 

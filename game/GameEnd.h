@@ -1,7 +1,7 @@
-// How a game ends that is lost: a beam has reached the ground.
+// How a lost game ends: a beam has reached the ground.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 

@@ -1,7 +1,7 @@
-// The three timers that a game runs on, started and stopped together.
+// The three timers that a game runs on: started and stopped together, and as fast as the level.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 
@@ -12,5 +12,9 @@ void StopBeamTimers(const VMain& main);
 
 // Stops all three.
 void StopGameTimers(const VMain& main);
+
+// Sets the intervals of LineCreator and LineExtender by Level: 2500 and 75 ms at level 1, a fifth less at each level
+// above, never less than 1 ms.
+void SetLevelSpeed(const VMain& main);
 
 }  // namespace prismfall

@@ -2,14 +2,17 @@
 // their turn, and ends the game when a beam reaches the ground. GameControl starts and stops its timer.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 
 void LineExtender_Timer(VMain& main);
 
+// A new beam for an Arcade game.
+void LineCreator_Timer(VMain& main);
+
 // One tick. A wall or the floor cuts it short: the beams behind in Lines do not move, and what had collided scores
-// nothing.
+// nothing. The last collision of a puzzle waits for its sound.
 void ExtendLines(VMain& main);
 
 }  // namespace prismfall

@@ -5,8 +5,6 @@
 #include <utility>
 
 #include "game/PuzzleMenu.h"
-#include "screens/ButtonFaces.h"
-#include "screens/Dialogs.h"
 
 namespace prismfall {
 
@@ -27,14 +25,6 @@ constexpr std::array<std::string_view, kScoreRows> kLevelNames = {
 constexpr std::array<std::string_view, kScoreRows> kEndLevelNames = {
     "LabelEndLevel0", "LabelEndLevel1", "LabelEndLevel2", "LabelEndLevel3", "LabelEndLevel4",
     "LabelEndLevel5", "LabelEndLevel6", "LabelEndLevel7", "LabelEndLevel8", "LabelEndLevel9"};
-
-void HideScores(VMain& main) { main.VHighScore2->Hide(); }
-
-constexpr std::array<ButtonRow, 3> kButtons = {{
-    {"Command1", "ClearScoresUp", "ClearScoresDown", ClearScores},
-    {"Command3", "ClearPuzzleProgressUp", "ClearPuzzleProgressDown", ClearPuzzleProgress},
-    {"Command2", "OKScoresUp", "OKScoresDown", HideScores},
-}};
 
 Element MakeLabel(std::string_view name, int left, int top, int width, int height) {
     return {.name = name,
@@ -62,54 +52,54 @@ void AddRow(std::vector<Element>& table, std::size_t row) {
     table.push_back(MakeLabel(kEndLevelNames[row], 272, kLevelRowY[row], 49, kRowHeight));
 }
 
-void MakeHighScores(VMain& main) {
-    main.VHighScore2 = MakeDialog("VHighScore2", "Highscore", 327, 455);
-    main.VHighScore2->hasIcon = true;
+std::vector<Element> MakeElements() {
     std::vector<Element> table = {MakeHeading("Label11", 96, 16, 81, 17, "Score"),
                                   MakeHeading("Label12", 200, 4, 60, 37, "Start Level"),
                                   MakeHeading("Label13", 264, 5, 50, 36, "End Level")};
     for (std::size_t row = 0; row < kScoreRows; ++row) AddRow(table, row);
-    table.push_back(MakeButton("Command3", 22, 374, 191, 40, "ClearPuzzleProgressUp", "Clear puzzle progress"));
-    table.push_back(MakeButton("Command1", 82, 412, 123, 36, "ClearScoresUp", "Clear scores"));
-    table.push_back(MakeButton("Command2", 244, 402, 70, 47, "OKScoresUp", "OK"));
-    main.VHighScore2->Own(std::move(table));
-    WireDialog(main, *main.VHighScore2, kButtons);
+    table.push_back(MakeButton("Command3", 22, 374, 191, 40, {"ClearPuzzleProgressUp", "ClearPuzzleProgressDown"},
+                               "Clear puzzle progress"));
+    table.push_back(MakeButton("Command1", 82, 412, 123, 36, {"ClearScoresUp", "ClearScoresDown"}, "Clear scores"));
+    table.push_back(MakeButton("Command2", 244, 402, 70, 47, {"OKScoresUp", "OKScoresDown"}, "OK"));
+    return table;
 }
 
-void FillRows(VMain& main) {
-    Window& dialog = *main.VHighScore2;
+void MakeHighScores(VMain& main) {
+    main.VHighScore2 = MakeDialog(main.audio, "VHighScore2", "Highscore", {327, 455}, MakeElements(),
+                                  {{"Command1", [&main] { ClearScores(main); }},
+                                   {"Command3", [&main] { ClearPuzzleProgress(main); }},
+                                   {"Command2", [&main] { main.VHighScore2->Hide(); }}});
+    main.VHighScore2->hasIcon = true;
+}
+
+void FillRows(Window& dialog, const ScoreTable& scores) {
     for (std::size_t row = 0; row < kScoreRows; ++row) {
-        ShowNumber(dialog[kScoreNames[row]], main.Scores[row].score);
-        ShowNumber(dialog[kLevelNames[row]], main.Scores[row].startLevel);
-        ShowNumber(dialog[kEndLevelNames[row]], main.Scores[row].endLevel);
+        ShowNumber(dialog[kScoreNames[row]], scores[row].score);
+        ShowNumber(dialog[kLevelNames[row]], scores[row].startLevel);
+        ShowNumber(dialog[kEndLevelNames[row]], scores[row].endLevel);
     }
 }
 
 }  // namespace
 
-void SaveScore(VMain& main) {
-    const ScoreRow game = {main.Score, main.GameStartLevel, main.Level};
-    if (EnterScore(main.Scores, game)) main.Stored.gamesEntered.push_back(game);
-}
+void SaveScore(VMain& main) { EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level}); }
 
 void ShowHighScores(VMain& main) {
     if (!main.VHighScore2) MakeHighScores(main);
-    FillRows(main);
-    ShowDialog(main, main.VHighScore2);
+    FillRows(*main.VHighScore2, main.settings.Scores);
+    ShowDialog(main.dialogs, main.VHighScore2);
 }
 
 void ClearScores(VMain& main) {
-    main.Scores.fill(kClearedRow);
-    main.Stored.scoresCleared = true;
-    main.Stored.gamesEntered.clear();
-    if (main.VHighScore2) FillRows(main);
+    ForgetScores(main.settings);
+    if (main.VHighScore2) FillRows(*main.VHighScore2, main.settings.Scores);
     main.HighScore = 0;
     ShowNumber(main.VHighScore, 0);
 }
 
 void ClearPuzzleProgress(VMain& main) {
-    main.SolvedPuzzles.fill(false);
-    if (main.GameMode == kPuzzleMenu) ShowPuzzleMenu(main, true);
+    main.settings.SolvedPuzzles.fill(false);
+    if (main.GameMode == Mode::PuzzleMenu) ShowPuzzleMenu(main);
 }
 
 }  // namespace prismfall

@@ -1,8 +1,8 @@
 // The table of the ten best Arcade games, the dialog VHighScore2 that shows it, and the two clearings that it offers.
-// The table lives in the state; SettingsStore keeps it from run to run.
+// The table is part of the settings, which are kept from run to run.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 
@@ -16,7 +16,7 @@ void ShowHighScores(VMain& main);
 // Empties the table, HighScore and what the dialog shows, with no question asked.
 void ClearScores(VMain& main);
 
-// Forgets which puzzles have been solved, with no question asked, and draws an open puzzle menu again.
+// Forgets which puzzles have been solved, with no question asked, and redraws an open puzzle menu.
 void ClearPuzzleProgress(VMain& main);
 
 }  // namespace prismfall

@@ -7,21 +7,25 @@
 #include "game/GameControl.h"
 #include "game/GameTimers.h"
 #include "game/GrowthTick.h"
+#include "game/LogoFlicker.h"
+#include "game/Modes.h"
 #include "game/PlayerInput.h"
-#include "game/PuzzleCatalogue.h"
 #include "game/RemovalTick.h"
+#include "game/Scoring.h"
 #include "game/Tutorial.h"
-#include "screens/ButtonFaces.h"
-#include "screens/MainMenu.h"
-#include "screens/SettingsStore.h"
-#include "simulation/BeamSpawning.h"
-#include "simulation/Scoring.h"
+#include "settings/SettingsStore.h"
 
 namespace prismfall {
 
 namespace {
 
 constexpr Extent kOuterSize{806, 629};  // with a nominal frame; the inside is 802 by 602 whatever the desktop draws
+
+// One second after start-up: the intro track, once.
+void TimerPlayIntro_Timer(VMain& main) {
+    PlayIntroMusic(main.audio);
+    main.platform.StopTimer(Timer::TimerPlayIntro);
+}
 
 struct TimerRow {
     Timer timer;
@@ -39,7 +43,7 @@ constexpr std::array<TimerRow, kTimerCount> kTimers = {{
 }};
 
 void PressElementOfMain(VMain& main, Element& element, MouseButton button, float x, float y) {
-    if (element.kind != ElementKind::PressPicture) return PressElement(main, element);
+    if (element.kind != ElementKind::PressPicture) return PressElement(main.audio, element);
     PictTut_MouseDown(main, static_cast<std::size_t>(&element - main.PictTut.data()), button, x, y);
 }
 
@@ -50,14 +54,14 @@ void Connect(VMain& main) {
     on.queryUnload = [&main] { Form_QueryUnload(main); };
     on.unload = [&main] { Form_Unload(main); };
     on.mouseMove = [&main](float x, float) { Form_MouseMove(main, x); };
-    on.elementMove = Button_MouseMove;
+    on.elementMove = ShowDownFace;
     on.mouseDown = [&main](MouseButton button, float x, float y) { Form_MouseDown(main, button, x, y); };
     on.doubleClick = [&main] { Form_DblClick(main); };
     on.keyDown = [&main](std::int16_t code) { Form_KeyDown(main, code); };
     on.elementDown = [&main](Element& element, MouseButton button, float x, float y) {
         PressElementOfMain(main, element, button, x, y);
     };
-    on.elementClick = [&main](Element& element) { Button_Click(main, element); };
+    on.elementClick = [&main](const Element& element) { Button_Click(main, element); };
     main.platform.SetTickHandler([&main](Timer timer) { TickTimer(main, timer); });
 }
 
@@ -68,7 +72,7 @@ void ShowStartNumbers(VMain& main) {
 }
 
 void TakeHighScore(VMain& main) {
-    main.HighScore = main.Scores.front().score;
+    main.HighScore = main.settings.Scores.front().score;
     ShowNumber(main.VHighScore, main.HighScore);
 }
 
@@ -79,24 +83,19 @@ void Form_Load(VMain& main) {
     main.platform.SetOuterSize(main.window, kOuterSize);
     StopGameTimers(main);
     ShowStartNumbers(main);
-    ReadStartSettings(main);
+    ReadSettings(main.settings, main.platform);
     TakeHighScore(main);
-    ReadAudioSettings(main);
-    main.GameMode = kMainMenu;
-    LoadPuzzles(main);
-    LoadPuzzleSolutions(main);
-    ReadSolvedPuzzles(main);
-    ShowMainMenu(main, true);
+    EnterScreen(main, Mode::MainMenu);
     main.PuzzlePage = 1;
-    if (main.Music) main.platform.StartTimer(Timer::TimerPlayIntro);
-    ResetButtons(main);
+    if (main.settings.Music) main.platform.StartTimer(Timer::TimerPlayIntro);
+    ResetFaces(main.window);
     main.TutorialActive = false;
     main.TutorialStep = 0;
 }
 
-void Form_QueryUnload(VMain& main) { SaveSettings(main); }
+void Form_QueryUnload(VMain& main) { SaveSettings(main.settings, main.platform); }
 
-void Form_Unload(VMain& main) { StopMusic(main); }
+void Form_Unload(VMain& main) { StopMusic(main.audio); }
 
 void TickTimer(VMain& main, Timer timer) {
     for (const TimerRow& row : kTimers)

@@ -1,11 +1,11 @@
 // The main window: its start-up, its closing, and which handler each event of the player and the desktop goes to.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 
-// Brings the state to what it is when the main menu first stands: timers, settings, catalogue, menu. Called once,
+// Brings the state to what it is when the main menu first shows: timers, settings, catalogue, menu. Called once,
 // before the window is seen.
 void Form_Load(VMain& main);
 
@@ -16,8 +16,8 @@ void Form_Unload(VMain& main);
 // The tick of a timer.
 void TickTimer(VMain& main, Timer timer);
 
-// Fills main.window, connects it and the timers to their handlers, and loads it. The state must outlive the platform's
-// use of the window.
+// Fills main.window, connects it and the timers to their handlers, and loads it. `main` must outlive the platform's use
+// of the window.
 void MakeMainWindow(VMain& main);
 
 }  // namespace prismfall

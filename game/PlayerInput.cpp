@@ -3,13 +3,15 @@
 #include <cmath>
 
 #include "audio/SoundEffects.h"
+#include "game/Modes.h"
 #include "game/PuzzleMenu.h"
 #include "game/PuzzleStart.h"
+#include "game/RunForward.h"
+#include "platform/Numbers.h"
 #include "simulation/BeamControl.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
 #include "simulation/Playfield.h"
-#include "state/GameModes.h"
 
 namespace prismfall {
 
@@ -17,43 +19,41 @@ namespace {
 
 // --- The beam action of a press.
 
-bool IsInEntryZone(const VMain& main, const CLine& beam) { return beam.YEnd < main.CollisionLineY + kBlueLine; }
+bool IsInEntryZone(const Field& field, const CLine& beam) { return beam.YEnd < field.CollisionLineY + kBlueLine; }
 
-// Arcade: only if the run would end at a beam.
+// Runs the beam forward only if it would end at another one.
 void GuardedSpeedUp(VMain& main, CLine& beam) {
-    const bool endsAtBeam = SpeedUpLine(main, beam, true);
-    main.LookAheadBeams.Clear();
-    if (endsAtBeam) {
-        SpeedUpLine(main, beam, false);
+    if (WouldEndAtBeam(main.field, beam)) {
+        RunForward(main, beam);
     } else {
-        PlaySound2(main, kSoundRefused, false);
+        PlaySound2(main.audio, Sound::Refused, false);
     }
 }
 
 void PlainSpeedUp(VMain& main, CLine& beam) {
-    SpeedUpLine(main, beam, false);
-    if (!AllLinesDeleted(main) || main.GameMode != kPuzzleGame) return;
+    RunForward(main, beam);
+    if (!AllLinesDeleted(main.field) || main.GameMode != Mode::PuzzleGame) return;
     main.platform.LetEventsRun();
-    PlaySound2(main, kSoundPuzzleCleared, true);
+    PlaySound2(main.audio, Sound::PuzzleCleared, true);
 }
 
 void LeftPress(VMain& main, CLine& beam) {
-    if (IsInEntryZone(main, beam)) return BendLine(main, beam);
-    if (main.GameMode == kPuzzleGame && beam.RunMode == kWaiting) {
-        beam.RunMode = kGrowing;
+    if (IsInEntryZone(main.field, beam)) return BendLine(main.field, beam);
+    if (main.GameMode == Mode::PuzzleGame && beam.RunMode == Motion::Waiting) {
+        beam.RunMode = Motion::Growing;
         return;
     }
-    SplitLine(main, beam);
+    SplitLine(main.field, beam);
 }
 
 void RightPress(VMain& main, CLine& beam) {
-    if (IsInEntryZone(main, beam) || main.GameMode == kArcadeGame) return GuardedSpeedUp(main, beam);
-    if (beam.RunMode == kWaiting) beam.RunMode = kGrowing;
+    if (IsInEntryZone(main.field, beam) || main.GameMode == Mode::ArcadeGame) return GuardedSpeedUp(main, beam);
+    if (beam.RunMode == Motion::Waiting) beam.RunMode = Motion::Growing;
     PlainSpeedUp(main, beam);
 }
 
 void PressBeam(VMain& main, MouseButton Button, float X, float Y) {
-    CLine* hit = FindNearestLine(main, Rounded(X), Rounded(Y));
+    CLine* hit = FindNearestLine(main.field, Rounded(X), Rounded(Y));
     if (hit == nullptr) return;
     if (Button == MouseButton::Left) {
         LeftPress(main, *hit);
@@ -68,9 +68,11 @@ void PressPreview(VMain& main, float X, float Y) {
     const float column = std::floor((X - kLeftWall) / (kRightWall - kLeftWall) * kMenuColumns);
     const float row = std::floor((Y - kPlayfieldTop) / (kFloor - kPlayfieldTop) * kMenuRows);
     if (!(column >= 0 && column < kMenuColumns && row >= 0 && row < kMenuRows)) return;
-    PlaySound2(main, kSoundButton, true);
     const int cell = static_cast<int>(row) * kMenuColumns + static_cast<int>(column);
-    main.CurrentPuzzle = Saturated((main.PuzzlePage - 1) * kPuzzlesPerPage + cell + 1);
+    const std::int16_t puzzle = PuzzleInCell(main.PuzzlePage, cell);
+    if (puzzle > kPuzzleCount) return;
+    PlaySound2(main.audio, Sound::Button, true);
+    main.CurrentPuzzle = puzzle;
     StartPuzzleGame(main, false, false);
 }
 
@@ -80,9 +82,8 @@ void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y) {
     main.LastClickX = X;
     main.LastClickY = Y;
     if (main.TutorialActive) return;
-    const bool isGame = main.GameMode == kPuzzleGame || main.GameMode == kArcadeGame;
-    if (isGame && main.GameRunning) return PressBeam(main, Button, X, Y);
-    if (main.GameMode == kPuzzleMenu) PressPreview(main, X, Y);
+    if (RowOf(main.GameMode).takesPresses && main.GameRunning) return PressBeam(main, Button, X, Y);
+    if (main.GameMode == Mode::PuzzleMenu) PressPreview(main, X, Y);
 }
 
 void Form_DblClick(VMain& main) {

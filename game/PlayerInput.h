@@ -2,12 +2,12 @@
 // forward at once, and in the puzzle menu either picks a preview.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 
 // A press on the playfield at (X, Y), in game pixels. Any other button than the left one acts as the right one. The
-// place is kept in every state; beams are out of reach during the tutorial, a pause and a replay.
+// place is remembered in every mode; beams are out of reach during the tutorial, a pause and a replay.
 void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y);
 
 // The second press of a double click: a left press at the place of the last one, while a game runs.

@@ -7,10 +7,15 @@
 #include <string_view>
 
 #include "game/PuzzleTables.h"
+#include "settings/Settings.h"
 
 namespace prismfall {
 
 namespace {
+
+static_assert(kLayoutRows.size() == kPuzzleCount,
+              "kPuzzleCount in settings/Settings.h says how many layouts there are");
+static_assert(kSolutionRows.size() == kPuzzleCount, "every layout needs a solution");
 
 using Rows = std::array<std::string_view, kPuzzleCount>;
 
@@ -29,11 +34,11 @@ class RowReader {
         return true;
     }
 
-    constexpr std::int16_t Digit() {
-        if (rest.empty() || rest.front() < '0' || rest.front() > '9') RejectRow("a digit was expected");
-        const char digit = rest.front();
+    constexpr std::int16_t Digit(std::int16_t lowest = 0, std::int16_t highest = 9) {
+        const int digit = rest.empty() ? -1 : rest.front() - '0';
+        if (digit < lowest || digit > highest) RejectRow("another digit was expected");
         rest.remove_prefix(1);
-        return static_cast<std::int16_t>(digit - '0');
+        return static_cast<std::int16_t>(digit);
     }
 
     constexpr std::int16_t Number() {
@@ -59,31 +64,26 @@ class RowReader {
     std::string_view rest;
 };
 
-using LayoutRecord = std::array<std::int16_t, layout::kFields>;
-using SolutionRecord = std::array<std::int16_t, solution::kFields>;
-
-constexpr LayoutRecord ReadRecord(RowReader& reader, std::int16_t place, LayoutRecord record) {
-    record[layout::kPuzzleLineNr] = reader.NumberInFront(place);
-    record[layout::kX] = reader.Number();
+constexpr void ReadRecord(RowReader& reader, std::int16_t place, LayoutBeam& beam) {
+    beam.PuzzleLineNr = reader.NumberInFront(place);
+    beam.X = reader.Number();
     reader.Need(',');
-    record[layout::kYStart] = reader.Number();
+    beam.YStart = reader.Number();
     reader.Need(',');
-    record[layout::kYEnd] = reader.Number();
+    beam.YEnd = reader.Number();
     reader.Need(',');
-    record[layout::kDirection] = reader.Digit();
-    record[layout::kRunMode] = reader.Digit();
-    record[layout::kColor] = reader.Digit();
-    return record;
+    beam.Direction = static_cast<Heading>(reader.Digit(1, 2));
+    beam.RunMode = static_cast<Motion>(reader.Digit(0, 2));
+    beam.Color = static_cast<BeamColor>(reader.Digit(0, 3));
 }
 
-constexpr SolutionRecord ReadRecord(RowReader& reader, std::int16_t, SolutionRecord record) {
-    record[solution::kTriggerLineNr] = reader.Number();
+constexpr void ReadRecord(RowReader& reader, std::int16_t, SolutionStep& step) {
+    step.TriggerLineNr = reader.Number();
     reader.Need(',');
-    record[solution::kTriggerYEnd] = reader.Number();
-    record[solution::kOtherLineNr] = reader.Take('>') ? reader.Number() : std::int16_t{0};
-    record[solution::kSpeedUp] = reader.Take('s') ? std::int16_t{-1} : std::int16_t{0};
-    record[solution::kBendFirst] = reader.Take('b') ? std::int16_t{-1} : std::int16_t{0};
-    return record;
+    step.TriggerYEnd = reader.Number();
+    step.OtherLineNr = reader.Take('>') ? reader.Number() : std::int16_t{0};
+    step.SpeedUp = reader.Take('s');
+    step.BendFirst = reader.Take('b');
 }
 
 constexpr std::size_t CountRecords(std::string_view row) {
@@ -92,60 +92,48 @@ constexpr std::size_t CountRecords(std::string_view row) {
     return count;
 }
 
-constexpr std::size_t CountNumbers(const Rows& rows, std::size_t fields) {
+constexpr std::size_t CountAllRecords(const Rows& rows) {
     std::size_t count = 0;
-    for (const std::string_view row : rows) count += 1 + CountRecords(row) * fields;
+    for (const std::string_view row : rows) count += CountRecords(row);
     return count;
 }
 
-template <std::size_t Size>
+template <typename Record, std::size_t Size>
 struct Table {
-    std::array<std::int16_t, Size> numbers{};
+    std::array<Record, Size> records{};
     std::array<std::size_t, kPuzzleCount + 1> starts{};  // of each row; the last is the end of all
+
+    constexpr std::span<const Record> Row(std::int16_t puzzle) const {
+        const auto row = static_cast<std::size_t>(puzzle) - 1;
+        return std::span(records).subspan(starts[row], starts[row + 1] - starts[row]);
+    }
 };
 
 template <typename Record, std::size_t Size>
-constexpr Table<Size> ReadTable(const Rows& rows) {
-    Table<Size> table;
+constexpr Table<Record, Size> ReadTable(const Rows& rows) {
+    Table<Record, Size> table;
     std::size_t at = 0;
     for (std::size_t puzzle = 0; puzzle < rows.size(); ++puzzle) {
         table.starts[puzzle] = at;
         const std::size_t count = CountRecords(rows[puzzle]);
-        table.numbers[at++] = static_cast<std::int16_t>(count);
         RowReader reader(rows[puzzle]);
         for (std::size_t place = 1; place <= count; ++place) {
             if (place > 1) reader.Need(' ');
-            for (const std::int16_t number : ReadRecord(reader, static_cast<std::int16_t>(place), Record{}))
-                table.numbers[at++] = number;
+            ReadRecord(reader, static_cast<std::int16_t>(place), table.records[at++]);
         }
-        if (!reader.IsAtEnd()) RejectRow("a row goes on behind its last record");
+        if (!reader.IsAtEnd()) RejectRow("a row goes on after its last record");
     }
     table.starts[rows.size()] = at;
     return table;
 }
 
-constexpr auto kPuzzles = ReadTable<LayoutRecord, CountNumbers(kLayoutRows, layout::kFields)>(kLayoutRows);
-constexpr auto kSolutions = ReadTable<SolutionRecord, CountNumbers(kSolutionRows, solution::kFields)>(kSolutionRows);
-
-template <std::size_t Size>
-void Fill(Catalogue& catalogue, const Table<Size>& table) {
-    for (std::size_t puzzle = 0; puzzle < catalogue.size(); ++puzzle)
-        catalogue[puzzle] = CatalogueEntry(table.numbers)
-                                .subspan(table.starts[puzzle], table.starts[puzzle + 1] - table.starts[puzzle]);
-}
+constexpr auto kPuzzles = ReadTable<LayoutBeam, CountAllRecords(kLayoutRows)>(kLayoutRows);
+constexpr auto kSolutions = ReadTable<SolutionStep, CountAllRecords(kSolutionRows)>(kSolutionRows);
 
 }  // namespace
 
-void LoadPuzzles(VMain& main) { Fill(main.Puzzles, kPuzzles); }
+std::span<const LayoutBeam> PuzzleLayout(std::int16_t puzzle) { return kPuzzles.Row(puzzle); }
 
-void LoadPuzzleSolutions(VMain& main) { Fill(main.PuzzleSolutions, kSolutions); }
-
-CatalogueEntry CurrentLayout(const VMain& main) {
-    return main.Puzzles[static_cast<std::size_t>(main.CurrentPuzzle) - 1];
-}
-
-CatalogueEntry CurrentSolution(const VMain& main) {
-    return main.PuzzleSolutions[static_cast<std::size_t>(main.CurrentPuzzle) - 1];
-}
+std::span<const SolutionStep> PuzzleSolution(std::int16_t puzzle) { return kSolutions.Row(puzzle); }
 
 }  // namespace prismfall

@@ -3,15 +3,14 @@
 #include <array>
 #include <string_view>
 
+#include "game/Modes.h"
 #include "game/PuzzleCatalogue.h"
-#include "screens/MainMenu.h"
+#include "platform/Numbers.h"
 #include "simulation/Playfield.h"
 
 namespace prismfall {
 
 namespace {
-
-constexpr std::int16_t kPageCount = kPuzzleCount / kPuzzlesPerPage;
 
 // Game pixels. The grid divides the playfield; its cells are as much smaller as the gap between them.
 constexpr double kGridWidth = kRightWall - kLeftWall;
@@ -33,13 +32,14 @@ struct Page {
     std::string_view spoken;
 };
 
-constexpr std::array<Page, kPageCount> kPages = {{
+constexpr auto kPages = std::to_array<Page>({
     {"ImageBeginner", "Beginner"},
     {"ImageEasy", "Easy"},
     {"ImageMedium", "Medium"},
     {"ImageHard", "Hard"},
     {"ImagePro", "Pro"},
-}};
+});
+static_assert(kPages.size() == kPageCount, "every page of the puzzle menu needs its name and its picture");
 
 struct Cell {
     int left;  // without the playfield's own offset
@@ -55,60 +55,45 @@ Cell CellAt(int row, int column) {
             .height = Rounded(kGridHeight / kMenuRows - kGap)};
 }
 
-void PlaceMark(VMain& main, const Cell& cell, std::size_t k, std::size_t puzzle) {
-    Element& mark = main.LabelSolved[k];
+void PlaceMark(Element& mark, const Cell& cell, std::int16_t puzzle, bool isSolved) {
     mark.left = static_cast<float>(cell.left + kMarkPlace * cell.width);
     mark.top = static_cast<float>(cell.top + kMarkPlace * cell.height);
-    const bool isTutorial = puzzle == 0;
+    const bool isTutorial = puzzle == 1;
     mark.text = isTutorial ? "Tutorial" : "Solved";
-    mark.visible = isTutorial || main.SolvedPuzzles[puzzle];
+    mark.visible = isTutorial || isSolved;
 }
 
-void DrawPreviewBeam(const VMain& main, const Cell& cell, CatalogueEntry beam) {
-    const int x1 = Rounded(beam[layout::kX] * kFillAcross * cell.width / kDesignWidth);
-    const int y1 = Rounded(beam[layout::kYStart] * kFillDown * cell.height / kDesignHeight);
-    const int y2 = Rounded(beam[layout::kYEnd] * kFillDown * cell.height / kDesignHeight);
-    const int length = beam[layout::kYEnd] - beam[layout::kYStart];
+void DrawPreviewBeam(SurfacePainter& painter, const Cell& cell, const LayoutBeam& beam) {
+    const int x1 = Rounded(beam.X * kFillAcross * cell.width / kDesignWidth);
+    const int y1 = Rounded(beam.YStart * kFillDown * cell.height / kDesignHeight);
+    const int y2 = Rounded(beam.YEnd * kFillDown * cell.height / kDesignHeight);
+    const int length = beam.YEnd - beam.YStart;
     const double aside = cell.width / kDesignWidth * length * kFillAcross;
-    const int x2 = Rounded(beam[layout::kDirection] == kRightwards ? x1 + aside : x1 - aside);
+    const int x2 = Rounded(beam.Direction == Heading::Rightwards ? x1 + aside : x1 - aside);
     const int left = cell.left + kLeftWall;
     const int top = cell.top + kPlayfieldTop;
-    main.platform.SurfaceLine(left + x1, top + y1, left + x2, top + y2,
-                              LineColors[static_cast<std::size_t>(beam[layout::kColor])], kPenWidth);
+    painter.SurfaceLine(left + x1, top + y1, left + x2, top + y2, OfColor(LineColors, beam.Color), kPenWidth);
 }
 
 void DrawCell(VMain& main, int row, int column) {
+    const int place = kMenuColumns * row + column;
+    const std::int16_t puzzle = PuzzleInCell(main.PuzzlePage, place);
+    if (puzzle > kPuzzleCount) return;
     const Cell cell = CellAt(row, column);
-    const int k = kMenuColumns * row + column;
-    const int puzzle = (main.PuzzlePage - 1) * kPuzzlesPerPage + k;
     const int left = cell.left + kLeftWall;
     const int top = cell.top + kPlayfieldTop;
     main.platform.SurfaceBox(left, top, left + cell.width, top + cell.height, kCellColour, kPenWidth);
-    PlaceMark(main, cell, static_cast<std::size_t>(k), static_cast<std::size_t>(puzzle));
-    ForEachRecord(main.Puzzles[static_cast<std::size_t>(puzzle)], layout::kFields,
-                  [&](CatalogueEntry beam) { DrawPreviewBeam(main, cell, beam); });
-}
-
-void ShowMenuElements(VMain& main, bool areVisible) {
-    for (Element* element : {&main.LabelPuzzlePage, &main.CommandPrevious, &main.CommandNext})
-        element->visible = areVisible;
+    PlaceMark(main.LabelSolved[static_cast<std::size_t>(place)], cell, puzzle,
+              main.settings.SolvedPuzzles[static_cast<std::size_t>(puzzle - 1)]);
+    for (const LayoutBeam& beam : PuzzleLayout(puzzle)) DrawPreviewBeam(main.platform, cell, beam);
 }
 
 }  // namespace
 
-void ShowPuzzleMenu(VMain& main, Boolean state) {
-    ShowMainMenu(main, false);
-    main.cmdPause.visible = false;
-    main.platform.SurfaceClear();
-    if (!state) {
-        ShowMenuElements(main, false);
-        main.platform.SurfaceClear();
-        return;
-    }
-    main.GameMode = kPuzzleMenu;
+void ShowPuzzleMenu(VMain& main) {
+    EnterScreen(main, Mode::PuzzleMenu);
     for (int row = 0; row < kMenuRows; ++row)
         for (int column = 0; column < kMenuColumns; ++column) DrawCell(main, row, column);
-    ShowMenuElements(main, true);
     const Page& page = kPages[static_cast<std::size_t>(main.PuzzlePage - 1)];
     main.LabelPuzzlePage.picture = page.picture;
     main.LabelPuzzlePage.spoken = page.spoken;
@@ -116,20 +101,19 @@ void ShowPuzzleMenu(VMain& main, Boolean state) {
 
 void CommandPuzzle_Click(VMain& main) {
     main.platform.StopTimer(Timer::TimerPlayIntro);
-    ShowPuzzleMenu(main, true);
-    ShowScoreboard(main, false);
+    ShowPuzzleMenu(main);
 }
 
 void CommandNext_Click(VMain& main) {
     if (main.PuzzlePage >= kPageCount) return;
     ++main.PuzzlePage;
-    ShowPuzzleMenu(main, true);
+    ShowPuzzleMenu(main);
 }
 
 void CommandPrevious_Click(VMain& main) {
     if (main.PuzzlePage <= 1) return;
     --main.PuzzlePage;
-    ShowPuzzleMenu(main, true);
+    ShowPuzzleMenu(main);
 }
 
 }  // namespace prismfall

@@ -2,17 +2,23 @@
 // the page.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 
 constexpr int kMenuColumns = 3;
 constexpr int kMenuRows = 3;
 constexpr std::int16_t kPuzzlesPerPage = kMenuColumns * kMenuRows;
+constexpr std::int16_t kPageCount = (kPuzzleCount + kPuzzlesPerPage - 1) / kPuzzlesPerPage;
 
-// Draws the page PuzzlePage and makes the menu the present screen; or takes it away, with all else on the surface, and
-// leaves GameMode alone.
-void ShowPuzzleMenu(VMain& main, Boolean state);
+// The puzzle in a cell of a page, from 1; cells are counted from 0, row by row. On the last page it may be above
+// kPuzzleCount: the cell is empty.
+constexpr std::int16_t PuzzleInCell(std::int16_t page, int cell) {
+    return static_cast<std::int16_t>((page - 1) * kPuzzlesPerPage + cell + 1);
+}
+
+// Shows the menu at the page PuzzlePage.
+void ShowPuzzleMenu(VMain& main);
 
 void CommandPuzzle_Click(VMain& main);
 

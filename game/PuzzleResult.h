@@ -1,12 +1,12 @@
 // The dialog at the end of a puzzle: the verdict, and what to do next.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 
 // Shows VPuzzleResult. A solved puzzle offers the next one (a disabled button after the last) and the menu, a lost one
 // its solution, the menu and another try. Returns when the dialog has closed and the chosen move has been made.
-void ShowPuzzleResult(VMain& main, Boolean Solved);
+void ShowPuzzleResult(VMain& main, bool Solved);
 
 }  // namespace prismfall

@@ -2,11 +2,10 @@
 
 #include "audio/Music.h"
 #include "game/GameTimers.h"
+#include "game/Modes.h"
 #include "game/PuzzleCatalogue.h"
-#include "game/PuzzleMenu.h"
-#include "screens/MainMenu.h"
+#include "platform/Numbers.h"
 #include "simulation/BeamRemoval.h"
-#include "simulation/BeamSpawning.h"
 #include "simulation/CollisionDetection.h"
 #include "simulation/Playfield.h"
 
@@ -21,59 +20,49 @@ constexpr int kHeadOnBeamGap = 4;
 // Design units to pixels: four fifths, rounded down.
 std::int16_t Scaled(std::int16_t design) { return static_cast<std::int16_t>(design * 4 / 5); }
 
-void ChooseMode(VMain& main, Boolean Solution) {
-    main.GameMode = Solution ? kSolutionReplay : kPuzzleGame;
-    if (!Solution) main.TutorialActive = main.CurrentPuzzle == kTutorialPuzzle;
-}
-
-void ShowPuzzleScreen(VMain& main) {
-    ShowPuzzleMenu(main, false);
-    ShowScoreboard(main, true);
-    main.cmdPause.visible = false;
-    main.CmdStart.visible = true;
-    main.platform.SurfaceClear();
+void ShowPuzzleScreen(VMain& main, Mode mode) {
+    EnterScreen(main, mode);
     main.Level = 1;
-    PlayLevelMusic(main, main.CurrentPuzzle);
-    main.CollisionLineY = kPuzzleCollisionLineY;
+    PlayLevelMusic(main.audio, main.CurrentPuzzle);
+    main.field.CollisionLineY = RowOf(mode).collisionLineY;
     ShowNumber(main.LabelPuzzleNr, main.CurrentPuzzle);
 }
 
-void ShowButtons(VMain& main, const ButtonFace& startFace) {
-    ShowFace(main.CmdStart, startFace);
-    ShowFace(main.cmdPause, kPauseFace);
+void SetButtons(VMain& main, const ButtonMeaning& start) {
+    SetMeaning(main.CmdStart, start);
+    SetMeaning(main.cmdPause, kPause);
 }
 
 void WaitForPlayer(VMain& main) {
     StopBeamTimers(main);
     main.GameRunning = false;
-    ShowButtons(main, kStartFace);
+    SetButtons(main, kStart);
     main.PuzzleWaiting = true;
 }
 
 void RunAtOnce(VMain& main) {
     StartBeamTimers(main);
     main.GameRunning = true;
-    ShowButtons(main, kTakeoverFace);
+    SetButtons(main, kTakeover);
 }
 
-void LayOutBeam(VMain& main, CatalogueEntry record) {
-    CLine& beam = main.Beams.Make();
-    beam.PuzzleLineNr = record[layout::kPuzzleLineNr];
-    beam.Direction = record[layout::kDirection];
-    beam.XStart = Saturated(kLeftWall + Scaled(record[layout::kX]));
-    beam.YStart = Saturated(kPlayfieldTop + Scaled(record[layout::kYStart]));
-    beam.YEnd = Saturated(kPlayfieldTop + Scaled(record[layout::kYEnd]));
-    const int length = beam.YEnd - beam.YStart;
-    beam.XEnd = Saturated(beam.XStart + (beam.Direction == kRightwards ? length : -length));
-    beam.RunMode = record[layout::kRunMode];
-    beam.Color = record[layout::kColor];
+void LayOutBeam(Field& field, const LayoutBeam& layout) {
+    CLine& beam = field.Beams.Make();
+    beam.PuzzleLineNr = layout.PuzzleLineNr;
+    beam.Direction = layout.Direction;
+    beam.XStart = Saturated(kLeftWall + Scaled(layout.X));
+    beam.YStart = Saturated(kPlayfieldTop + Scaled(layout.YStart));
+    beam.YEnd = Saturated(kPlayfieldTop + Scaled(layout.YEnd));
+    beam.XEnd = Saturated(beam.XStart + Sideways(beam.Direction) * (beam.YEnd - beam.YStart));
+    beam.RunMode = layout.RunMode;
+    beam.Color = layout.Color;
     beam.Thicknes = kLiveThicknes;
-    main.Lines.push_back(&beam);
+    field.Lines.push_back(&beam);
 }
 
 void DrawBack(CLine& beam, int pixels) {
     beam.YEnd = Saturated(beam.YEnd - pixels);
-    beam.XEnd = Saturated(beam.XEnd + (beam.Direction == kRightwards ? -pixels : pixels));
+    beam.XEnd = Saturated(beam.XEnd - Sideways(beam.Direction) * pixels);
 }
 
 bool IsChain(const CLine& a, const CLine& b) { return a.Color == b.Color && a.XEnd == b.XStart && a.YEnd == b.YStart; }
@@ -107,27 +96,27 @@ void LinkPair(CLine& a, CLine& b) {
 
 }  // namespace
 
-void StartPuzzleGame(VMain& main, Boolean nextPuzzle, Boolean Solution) {
+void StartPuzzleGame(VMain& main, bool nextPuzzle, bool Solution) {
     if (nextPuzzle && main.CurrentPuzzle < kPuzzleCount) ++main.CurrentPuzzle;
-    ChooseMode(main, Solution);
-    ShowPuzzleScreen(main);
+    if (!Solution) main.TutorialActive = main.CurrentPuzzle == kTutorialPuzzle;
+    ShowPuzzleScreen(main, Solution ? Mode::SolutionReplay : Mode::PuzzleGame);
     main.platform.StopTimer(Timer::LineCreator);
     if (Solution) {
         RunAtOnce(main);
     } else {
         WaitForPlayer(main);
     }
-    ClearLines(main);
+    ClearLines(main.field);
     main.Score = 0;
     SetLevelSpeed(main);
-    ForEachRecord(CurrentLayout(main), layout::kFields, [&](CatalogueEntry record) { LayOutBeam(main, record); });
-    LinkPuzzleLines(main);
-    RedrawLines(main);
+    for (const LayoutBeam& beam : PuzzleLayout(main.CurrentPuzzle)) LayOutBeam(main.field, beam);
+    LinkPuzzleLines(main.field);
+    RedrawLines(main.field);
 }
 
-void LinkPuzzleLines(VMain& main) {
-    for (CLine* a : main.Lines)
-        for (CLine* b : main.Lines)
+void LinkPuzzleLines(Field& field) {
+    for (CLine* a : field.Lines)
+        for (CLine* b : field.Lines)
             if (a != b) LinkPair(*a, *b);
 }
 

@@ -9,9 +9,9 @@ namespace prismfall {
 
 // clang-format off
 
-// A beam is X,YStart,YEnd,DRC: D the direction, R the run mode, C the colour. Its number is its place in the row, unless
-// it stands in front with a colon.
-constexpr std::array<std::string_view, 45> kLayoutRows = {
+// A beam is X,YStart,YEnd,DRC: D the direction, R the run mode, C the color. Its number is its place in the row, unless
+// that is given in front, with a colon.
+constexpr auto kLayoutRows = std::to_array<std::string_view>({
     /*  1 */ "0,0,200,213 200,0,200,212 300,200,400,112 500,200,380,113 400,0,20,210 750,0,85,120 0,200,230,213",
     /*  2 */ "0,0,250,201 250,250,375,202 375,375,400,220 125,0,125,201 250,125,250,200 375,250,375,203 "
              "500,375,400,222 250,0,125,213",
@@ -113,10 +113,10 @@ constexpr std::array<std::string_view, 45> kLayoutRows = {
     /* 44 */ "405,155,300,201 395,155,300,101 550,300,450,102 250,300,450,200 100,0,25,210 750,0,25,112",
     /* 45 */ "350,70,170,211 450,70,170,112 225,220,320,212 325,220,320,110 475,220,320,211 575,220,320,110 "
              "100,370,470,211 200,370,470,112 11:600,370,470,212 12:700,370,470,111",
-};
+});
 
 // A step is TriggerLineNr,TriggerYEnd, then >k if it acts on beam k, s if it speeds up, b if it bends first.
-constexpr std::array<std::string_view, 45> kSolutionRows = {
+constexpr auto kSolutionRows = std::to_array<std::string_view>({
     /*  1 */ "2,186 2,235>6 3,359",
     /*  2 */ "8,195 5,219>7 7,347 5,277 2,325s 4,138sb",
     /*  3 */ "11,68 12,75 1,86 15,93 1,198 6,193 14,370s 13,427s",
@@ -172,7 +172,7 @@ constexpr std::array<std::string_view, 45> kSolutionRows = {
              "11,467s",
     /* 44 */ "6,72 6,112 5,126 5,186 1,312 2,323",
     /* 45 */ "3,286 1,182 2,193 8,440 4,330 1,279s 3,405s 4,340 4,349 4,370s 2,200s",
-};
+});
 
 // clang-format on
 

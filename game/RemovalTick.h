@@ -2,7 +2,7 @@
 // the beams that they had stopped grow on, and finds out that a puzzle is solved.
 #pragma once
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 

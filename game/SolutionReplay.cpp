@@ -1,62 +1,55 @@
 #include "game/SolutionReplay.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "audio/SoundEffects.h"
-#include "game/PuzzleCatalogue.h"
-#include "simulation/BeamControl.h"
+#include "game/RunForward.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/BeamSpawning.h"
-#include "simulation/Playfield.h"
 
 namespace prismfall {
 
 namespace {
 
-struct ScriptStep {
-    std::int16_t otherLineNr;
-    bool speedUp;
-    bool bendFirst;
-};
-
-std::optional<ScriptStep> StepFor(CatalogueEntry script, const CLine& beam) {
-    std::optional<ScriptStep> found;
-    ForEachRecord(script, solution::kFields, [&](CatalogueEntry step) {
-        if (found || step[solution::kTriggerLineNr] != beam.PuzzleLineNr) return;
-        if (step[solution::kTriggerYEnd] != beam.YEnd) return;
-        found = {step[solution::kOtherLineNr], step[solution::kSpeedUp] != 0, step[solution::kBendFirst] != 0};
+const SolutionStep* StepFor(std::span<const SolutionStep> script, const CLine& beam) {
+    const auto step = std::ranges::find_if(script, [&beam](const SolutionStep& candidate) {
+        return candidate.TriggerLineNr == beam.PuzzleLineNr && candidate.TriggerYEnd == beam.YEnd;
     });
-    return found;
+    return step == script.end() ? nullptr : &*step;
 }
 
 void SoundIfCleared(const VMain& main) {
-    if (!AllLinesDeleted(main) || main.GameMode != kSolutionReplay) return;
+    if (!AllLinesDeleted(main.field) || main.GameMode != Mode::SolutionReplay) return;
     main.platform.LetEventsRun();
-    PlaySound2(main, kSoundPuzzleCleared, true);
+    PlaySound2(main.audio, Sound::PuzzleCleared, true);
 }
 
-void ActOnTrigger(VMain& main, const ScriptStep& step, CLine& beam) {
-    if (!step.speedUp) {
-        SplitLine(main, beam);
+void ActOnTrigger(VMain& main, const SolutionStep& step, CLine& beam) {
+    if (!step.SpeedUp) {
+        SplitLine(main.field, beam);
         return;
     }
-    SpeedUpLine(main, step.bendFirst ? SplitLine(main, beam) : beam, false);
+    RunForward(main, step.BendFirst ? SplitLine(main.field, beam) : beam);
     SoundIfCleared(main);
 }
 
-void ActOnOther(VMain& main, const ScriptStep& step, CLine& other) {
-    CLine& moving = step.bendFirst ? SplitLine(main, other) : other;
-    moving.RunMode = kGrowing;
-    if (step.speedUp) SpeedUpLine(main, moving, false);
+void ActOnOther(VMain& main, const SolutionStep& step, CLine& other) {
+    CLine& moving = step.BendFirst ? SplitLine(main.field, other) : other;
+    moving.RunMode = Motion::Growing;
+    if (step.SpeedUp) RunForward(main, moving);
 }
 
 // The beams that these steps append are not acted on.
-void ActOnOthers(VMain& main, const ScriptStep& step) {
-    const std::size_t count = main.Lines.size();
+void ActOnOthers(VMain& main, const SolutionStep& step) {
+    const std::vector<CLine*>& beams = main.field.Lines;
+    const std::size_t count = beams.size();
     for (std::size_t i = 0; i < count; ++i)
-        if (main.Lines[i]->PuzzleLineNr == step.otherLineNr) ActOnOther(main, step, *main.Lines[i]);
+        if (beams[i]->PuzzleLineNr == step.OtherLineNr) ActOnOther(main, step, *beams[i]);
 }
 
-void Act(VMain& main, const ScriptStep& step, CLine& beam) {
-    if (step.otherLineNr == 0) {
+void Act(VMain& main, const SolutionStep& step, CLine& beam) {
+    if (step.OtherLineNr == 0) {
         ActOnTrigger(main, step, beam);
     } else {
         ActOnOthers(main, step);
@@ -65,14 +58,14 @@ void Act(VMain& main, const ScriptStep& step, CLine& beam) {
 
 }  // namespace
 
-void PlaySolutionStep(VMain& main) {
-    const CatalogueEntry script = CurrentSolution(main);
-    const std::size_t count = main.Lines.size();
+void PlaySolutionStep(VMain& main, std::span<const SolutionStep> script) {
+    const std::vector<CLine*>& beams = main.field.Lines;
+    const std::size_t count = beams.size();
     // A step can yield, and then beams may go.
-    for (std::size_t i = 0; i < count && i < main.Lines.size(); ++i) {
-        CLine& beam = *main.Lines[i];
-        if (beam.RunMode != kGrowing) continue;
-        if (const auto step = StepFor(script, beam)) Act(main, *step, beam);
+    for (std::size_t i = 0; i < count && i < beams.size(); ++i) {
+        CLine& beam = *beams[i];
+        if (beam.RunMode != Motion::Growing) continue;
+        if (const SolutionStep* step = StepFor(script, beam)) Act(main, *step, beam);
     }
 }
 

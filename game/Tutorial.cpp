@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "simulation/BeamControl.h"
+#include "game/RunForward.h"
 #include "simulation/BeamSpawning.h"
-#include "simulation/Playfield.h"
 
 namespace prismfall {
 
@@ -70,28 +69,29 @@ PressSpot SeenPart(const Spot& spot, const Element& picture) {
             bottom - spot.yAbove, spot.rightButtonOnly};
 }
 
-CLine* FindBeam(const VMain& main, std::int16_t number) {
-    const auto beam = std::ranges::find(main.Lines, number, &CLine::PuzzleLineNr);
-    return beam == main.Lines.end() ? nullptr : *beam;
+CLine* FindBeam(const Field& field, std::int16_t number) {
+    const auto beam = std::ranges::find(field.Lines, number, &CLine::PuzzleLineNr);
+    return beam == field.Lines.end() ? nullptr : *beam;
 }
 
 // After its bend the beam's number stands for two segments, of which only one grows.
-CLine* FindGrowingBeam(const VMain& main, std::int16_t number) {
-    const auto beam = std::ranges::find_if(
-        main.Lines, [number](const CLine* line) { return line->PuzzleLineNr == number && line->RunMode == kGrowing; });
-    return beam == main.Lines.end() ? nullptr : *beam;
+CLine* FindGrowingBeam(const Field& field, std::int16_t number) {
+    const auto beam = std::ranges::find_if(field.Lines, [number](const CLine* line) {
+        return line->PuzzleLineNr == number && line->RunMode == Motion::Growing;
+    });
+    return beam == field.Lines.end() ? nullptr : *beam;
 }
 
 void BendForPlayer(VMain& main) {
-    if (CLine* beam = FindBeam(main, kBentBeam)) SplitLine(main, *beam);
+    if (CLine* beam = FindBeam(main.field, kBentBeam)) SplitLine(main.field, *beam);
 }
 
 void StartForPlayer(VMain& main) {
-    if (CLine* beam = FindBeam(main, kStartedBeam)) beam->RunMode = kGrowing;
+    if (CLine* beam = FindBeam(main.field, kStartedBeam)) beam->RunMode = Motion::Growing;
 }
 
 void SpeedUpForPlayer(VMain& main) {
-    if (CLine* beam = FindGrowingBeam(main, kBentBeam)) SpeedUpLine(main, *beam, false);
+    if (CLine* beam = FindGrowingBeam(main.field, kBentBeam)) RunForward(main, *beam);
 }
 
 void ActForPlayer(VMain& main) {
@@ -105,7 +105,7 @@ void ActForPlayer(VMain& main) {
 void EndPauseByMinimising(VMain& main) {
     main.GameRunning = true;
     main.platform.StartTimer(Timer::LineDeleter);
-    ShowFace(main.cmdPause, kPauseFace);
+    SetMeaning(main.cmdPause, kPause);
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ void MarkTutorialSpots(VMain& main) {
 }
 
 void TriggerTutorial(VMain& main) {
-    const CLine* clock = FindBeam(main, kClockBeam);
+    const CLine* clock = FindBeam(main.field, kClockBeam);
     if (clock == nullptr) return;
     const auto moment = std::ranges::find(kMoments, clock->YEnd, &Moment::trigger);
     if (moment == kMoments.end()) return;

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 

@@ -48,6 +48,14 @@ struct PressSpot {
     bool operator==(const PressSpot&) const = default;
 };
 
+// The two pictures of a button.
+struct ButtonFaces {
+    std::string_view up = {};
+    std::string_view down = {};  // while the pointer is over it
+
+    bool operator==(const ButtonFaces&) const = default;
+};
+
 // One element of a window. The box is in game pixels of the window's inner area, or of `panel` if there is one, and
 // covers x from `left` to below `left + width`. Names, pictures, tags and font families are literals.
 struct Element {
@@ -63,7 +71,8 @@ struct Element {
     std::string_view picture = {};      // name of the picture it shows, empty for none
     std::string_view spoken = {};       // what a screen reader says of it, before its text; empty for decoration
     std::string text = {};              // starts at the left and top edge; what does not fit is cut off
-    std::string_view tag = {};          // which of several pairs of faces a button has
+    ButtonFaces faces = {};             // of a Button: what `picture` changes between
+    std::string_view tag = {};          // which of its meanings a button has that has several
     Colour colour = kBlack;             // of text, marks and outlines
     std::optional<Colour> ground = {};  // what a label stands on; without it the text lies on what is below
     Font font = {};

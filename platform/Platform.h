@@ -1,20 +1,22 @@
-// Everything that the game asks of a machine: one surface, windows, timers, a clock, random numbers, settings, sounds
-// and music. Backends live in backends/; the game knows this interface alone. Version 2.
+// Everything that the game asks of a machine: one surface (SurfacePainter.h), random numbers (Chance.h), settings
+// (SettingsKeeper.h), windows, timers, a clock, sounds and music. Backends live in backends/; the game knows this
+// interface alone, and a part of the game that needs one facet of it takes that one. Version 3.
 //
 // Everything happens on one thread. Places and widths are game pixels, times are milliseconds. No call fails in a way
-// that the game has to handle: a backend that cannot do a thing does nothing, but for the opening of music.
+// that the game has to handle: a backend that cannot do a thing does nothing, except opening music.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "platform/Chance.h"
 #include "platform/Element.h"
+#include "platform/SettingsKeeper.h"
+#include "platform/SurfacePainter.h"
 #include "platform/Window.h"
 
 namespace prismfall {
@@ -39,35 +41,8 @@ struct Wave {
     std::span<const std::byte> bytes;
 };
 
-struct SettingValue {
-    std::string section;
-    std::string key;
-    std::string text;
-};
-
-// The text that a store holds, or nothing.
-using SettingsReader = std::function<std::optional<std::string>(std::string_view section, std::string_view key)>;
-using SettingsChange = std::function<std::vector<SettingValue>(const SettingsReader& stored)>;
-
-class Platform {
+class Platform : public SurfacePainter, public Chance, public SettingsKeeper {
   public:
-    Platform() = default;
-    Platform(const Platform&) = delete;
-    Platform& operator=(const Platform&) = delete;
-    virtual ~Platform() = default;
-
-    // --- The surface of the main window. What is painted stays until painted over, and lies over the background.
-
-    // Paints an opaque line: every pixel whose centre lies within half of `width` of the segment, ends round.
-    // Places outside the surface are cut off.
-    virtual void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) = 0;
-    // Paints the outline of the rectangle between two corners.
-    virtual void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) = 0;
-    // Brings the background back from (x1, y1) to (x2, y2), the second corner excluded.
-    virtual void SurfaceRestore(int x1, int y1, int x2, int y2) = 0;
-    // Brings the whole background back.
-    virtual void SurfaceClear() = 0;
-
     // --- Windows. Their elements are plain data: a backend draws what has changed, the game never asks for it. The
     // main window is opened by whatever runs the backend; then its `activate` handler runs.
 
@@ -101,26 +76,13 @@ class Platform {
     // interval 0 never ticks.
     virtual void SetTimerInterval(Timer timer, int milliseconds) = 0;
 
-    // --- Time and chance.
+    // --- Time.
 
     // Lets pending events run: what has changed is painted, due timers tick, and from the second call in a handler on
     // input is handled.
     virtual void LetEventsRun() = 0;
     // Milliseconds of the machine's clock from some fixed moment; never runs backwards.
     virtual std::int64_t Clock() = 0;
-    // Uniform from 0 up to but not including 1.
-    virtual double Random() = 0;
-    virtual void SeedRandomFromClock() = 0;
-
-    // --- Settings: texts by application, section and key, for this user, that outlast the run.
-
-    virtual std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
-                                    std::string_view fallback) = 0;
-    // Changes the store in one step that no other run of the program can come between: `change` is handed a way to read
-    // what the store holds now, whoever wrote it, and returns the values to write. All of them are stored or none:
-    // whatever happens meanwhile, the old store or the new one is found afterwards. False if nothing could be stored;
-    // the backend tells the player.
-    virtual bool ChangeSettings(std::string_view application, const SettingsChange& change) = 0;
 
     // --- Sound: one at a time, a new one cuts off the old. The bytes stay valid for the whole run.
 

@@ -4,16 +4,11 @@
 #include <array>
 #include <string_view>
 
-#include "screens/ButtonFaces.h"
-#include "screens/Dialogs.h"
+#include "screens/MainElements.h"
 
 namespace prismfall {
 
 namespace {
-
-void HideAbout(VMain& main) { main.VAbout->Hide(); }
-
-constexpr std::array<ButtonRow, 1> kButtons = {{{"Command1", "OKAboutUp", "OKAboutDown", HideAbout}}};
 
 enum class Style { Plain, Bold, Italic };
 
@@ -85,19 +80,17 @@ std::vector<Element> MakeElements() {
     outline.picture = {};
     outline.colour = kCream;
     table.push_back(outline);
-    table.push_back(MakeButton("Command1", 176, 422, 65, 50, "OKAboutUp", "OK"));
+    table.push_back(MakeButton("Command1", 176, 422, 65, 50, {"OKAboutUp", "OKAboutDown"}, "OK"));
     return table;
 }
 
 }  // namespace
 
-void ShowAbout(VMain& main) {
-    if (!main.VAbout) {
-        main.VAbout = MakeDialog("VAbout", "About Prisfall v1.1", 408, 472);
-        main.VAbout->Own(MakeElements());
-        WireDialog(main, *main.VAbout, kButtons);
-    }
-    ShowDialog(main, main.VAbout);
+void ShowAbout(const DialogHost& host, std::unique_ptr<Window>& VAbout) {
+    if (!VAbout)
+        VAbout = MakeDialog(host.audio, "VAbout", "About Prisfall v1.1", {408, 472}, MakeElements(),
+                            {{"Command1", [&VAbout] { VAbout->Hide(); }}});
+    ShowDialog(host, VAbout);
 }
 
 }  // namespace prismfall

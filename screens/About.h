@@ -1,11 +1,13 @@
 // The dialog VAbout: the game's manual and credits on one fixed page.
 #pragma once
 
-#include "state/VMain.h"
+#include <memory>
+
+#include "screens/Dialogs.h"
 
 namespace prismfall {
 
-// Shows the dialog; returns when it has closed.
-void ShowAbout(VMain& main);
+// Shows the dialog, which is made at its first use and kept in `VAbout`; returns when it has closed.
+void ShowAbout(const DialogHost& host, std::unique_ptr<Window>& VAbout);
 
 }  // namespace prismfall

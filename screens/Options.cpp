@@ -4,10 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "audio/Music.h"
-#include "audio/SoundEffects.h"
-#include "screens/ButtonFaces.h"
-#include "screens/Dialogs.h"
+#include "screens/MainElements.h"
 
 namespace prismfall {
 
@@ -22,35 +19,21 @@ constexpr float kFramePoints = 12;
 constexpr float kOptionPoints = 9.75F;
 
 // The OK button.
-void ApplyLevel(VMain& main) {
-    Window& dialog = *main.VOptions;
+void ApplyLevel(Window& dialog, Settings& settings) {
     for (std::size_t i = 0; i < kLevelOptions.size(); ++i) {
         if (!dialog[kLevelOptions[i]].checked) continue;
-        SetStartLevel(main, static_cast<std::int16_t>(i + 1));
+        SetStartLevel(settings, static_cast<std::int16_t>(i + 1));
         break;
     }
     dialog.Hide();
 }
 
-constexpr std::array<ButtonRow, 1> kButtons = {{{"Command1", "OKOptionsUp", "OKOptionsDown", ApplyLevel}}};
-
-void CheckSoundEffects_Click(VMain& main) { SetSoundEffects(main, (*main.VOptions)["CheckSoundEffects"].checked); }
-
-void CheckMusic_Click(VMain& main) { SetMusic(main, (*main.VOptions)["CheckMusic"].checked); }
-
-void SelectOption(Window& dialog, const Element& option) {
-    for (const std::string_view name : kLevelOptions) dialog[name].checked = name == option.name;
+void SelectOption(Window& dialog, std::string_view option) {
+    for (const std::string_view name : kLevelOptions) dialog[name].checked = name == option;
 }
 
-void ToggleOrSelect(VMain& main, Element& element) {
-    if (element.kind == ElementKind::RadioButton) return SelectOption(*main.VOptions, element);
-    element.checked = !element.checked;
-    if (element.name == "CheckMusic") {
-        CheckMusic_Click(main);
-    } else {
-        CheckSoundEffects_Click(main);
-    }
-}
+// Whether it is checked now.
+bool Toggle(Element& box) { return box.checked = !box.checked; }
 
 Element MakeElement(std::string_view name, ElementKind kind, int left, int top, int width, int height,
                     std::string text) {
@@ -77,33 +60,43 @@ std::vector<Element> MakeElements() {
     table.push_back(MakeElement("Frame2", ElementKind::GroupFrame, 135, 17, 82, 83, "Sound"));
     table.push_back(MakeElement("CheckSoundEffects", ElementKind::CheckBox, 144, 32, 63, 38, "Effects"));
     table.push_back(MakeElement("CheckMusic", ElementKind::CheckBox, 144, 56, 63, 41, "Music"));
-    table.push_back(MakeButton("Command1", 142, 238, 73, 49, "OKOptionsUp", "OK"));
+    table.push_back(MakeButton("Command1", 142, 238, 73, 49, {"OKOptionsUp", "OKOptionsDown"}, "OK"));
     return table;
 }
 
-// Marks what the state holds. A start level that no button stands for is not marked.
-void Options_Load(VMain& main) {
-    Window& dialog = *main.VOptions;
+// Marks the present settings. A start level without a button is not marked.
+void Options_Load(Window& dialog, const Settings& settings) {
     for (std::size_t i = 0; i < kLevelOptions.size(); ++i)
-        dialog[kLevelOptions[i]].checked = main.StartLevel == static_cast<std::int16_t>(i + 1);
-    dialog["CheckSoundEffects"].checked = main.SoundEffects;
-    dialog["CheckMusic"].checked = main.Music;
+        dialog[kLevelOptions[i]].checked = settings.StartLevel == static_cast<std::int16_t>(i + 1);
+    dialog["CheckSoundEffects"].checked = settings.SoundEffects;
+    dialog["CheckMusic"].checked = settings.Music;
 }
 
-void MakeOptions(VMain& main) {
-    main.VOptions = MakeDialog("VOptions", "Options", 237, 297);
-    main.VOptions->Own(MakeElements());
-    WireDialog(main, *main.VOptions, kButtons, [&main](Element& element) { ToggleOrSelect(main, element); });
-    Options_Load(main);
+std::vector<DialogClick> MakeClicks(std::unique_ptr<Window>& VOptions, Settings& settings,
+                                    std::function<void(bool isOn)> setMusic) {
+    std::vector<DialogClick> clicks = {
+        {"Command1", [&] { ApplyLevel(*VOptions, settings); }},
+        {"CheckSoundEffects", [&] { SetSoundEffects(settings, Toggle((*VOptions)["CheckSoundEffects"])); }},
+        {"CheckMusic", [&, setMusic = std::move(setMusic)] { setMusic(Toggle((*VOptions)["CheckMusic"])); }}};
+    for (const std::string_view option : kLevelOptions)
+        clicks.push_back({option, [&VOptions, option] { SelectOption(*VOptions, option); }});
+    return clicks;
 }
 
 }  // namespace
 
-void ShowOptions(VMain& main) {
-    if (!main.VOptions) MakeOptions(main);
-    ShowDialog(main, main.VOptions);
+void ShowOptions(const DialogHost& host, std::unique_ptr<Window>& VOptions, Settings& settings,
+                 std::function<void(bool isOn)> setMusic) {
+    if (!VOptions) {
+        VOptions = MakeDialog(host.audio, "VOptions", "Options", {237, 297}, MakeElements(),
+                              MakeClicks(VOptions, settings, std::move(setMusic)));
+        Options_Load(*VOptions, settings);
+    }
+    ShowDialog(host, VOptions);
 }
 
-void SetStartLevel(VMain& main, std::int16_t start) { main.StartLevel = start; }
+void SetStartLevel(Settings& settings, std::int16_t start) { settings.StartLevel = start; }
+
+void SetSoundEffects(Settings& settings, bool value) { settings.SoundEffects = value; }
 
 }  // namespace prismfall

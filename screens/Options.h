@@ -3,15 +3,23 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 
-#include "state/VMain.h"
+#include "screens/Dialogs.h"
+#include "settings/Settings.h"
 
 namespace prismfall {
 
-// Shows the dialog; returns when it has closed.
-void ShowOptions(VMain& main);
+// Shows the dialog, which is made at its first use and kept in `VOptions`; returns when it has closed. `setMusic`
+// switches the music, which needs to know the track that fits what is being played.
+void ShowOptions(const DialogHost& host, std::unique_ptr<Window>& VOptions, Settings& settings,
+                 std::function<void(bool isOn)> setMusic);
 
 // The level of the next Arcade game. A game in progress does not change.
-void SetStartLevel(VMain& main, std::int16_t start);
+void SetStartLevel(Settings& settings, std::int16_t start);
+
+// Switches the effects on or off. A sound that is playing plays on.
+void SetSoundEffects(Settings& settings, bool value);
 
 }  // namespace prismfall

@@ -2,13 +2,11 @@
 
 #include <cmath>
 
-#include "audio/SoundEffects.h"
-#include "simulation/BeamRemoval.h"
+#include "platform/Numbers.h"
 #include "simulation/BeamSpawning.h"
+#include "simulation/BeamStrike.h"
 #include "simulation/CollisionDetection.h"
 #include "simulation/Playfield.h"
-#include "simulation/Scoring.h"
-#include "state/GameModes.h"
 
 namespace prismfall {
 
@@ -16,66 +14,42 @@ namespace {
 
 constexpr float kClickReach = 50;  // pixels; a head at exactly this distance is out of reach
 
-// --- The run of a speeded beam.
-
-void EnterPlayfield(const VMain& main, CLine& ln, int y) {
-    const int limit = main.CollisionLineY + kFastEntryLimit;
-    if (y < limit) EraseLine(main, ln);
-    if (y == limit) BeginTrail(ln);
+void EnterPlayfield(const Field& field, BeamBody& beam, int y) {
+    const int limit = field.CollisionLineY + kFastEntryLimit;
+    if (y < limit) EraseLine(field.painter, beam);
+    if (y == limit) BeginTrail(beam);
 }
 
-bool Bounce(VMain& main, CLine& ln, const Step& step, Boolean Simulate) {
-    ln.XEnd = step.x;
-    ln.YEnd = step.y;
-    ln.RunMode = kStopped;
-    CLine* next = CreateLine(main, &ln, Simulate, kSpawnHeight);
-    return SpeedUpLine(main, *next, Simulate);
-}
+// Where the straight run of one segment ends, the beam being moved there.
+struct RunEnd {
+    Outcome outcome = Outcome::AtFloor;
+    CLine* hit = nullptr;  // if it was a beam
+};
 
-// The run has ended at `hit`. Gives the number of collisions to score.
-std::int16_t Strike(VMain& main, CLine& ln, CLine& hit) {
-    ln.RunMode = kStopped;
-    hit.StoppingLines.push_back(&ln);
-    if (hit.Color != ln.Color || ln.Thicknes <= 0) {
-        PlaySound2(main, kSoundStopped, false);
-        return 0;
+template <typename PaintStep>
+RunEnd RunStraight(const Field& field, BeamBody& beam, PaintStep paintStep) {
+    for (;;) {
+        const Step step = NextStep(beam);
+        EnterPlayfield(field, beam, step.y);
+        if (MeetsWall(beam.Direction, step.x)) {
+            MoveHead(beam, step);
+            return {Outcome::Bounced};
+        }
+        if (step.y >= kFloor) return {Outcome::AtFloor};
+        CLine* hit = FindCollision(field, step.testX, step.testY, beam.YEnd, beam.Direction, true);
+        if (hit != nullptr) return {Outcome::Stopped, hit};
+        paintStep(step);
+        MoveHead(beam, step);
     }
-    StartRemoval(main, ln, false);
-    StartRemoval(main, hit, true);
-    PlaySound2(main, AllLinesDeleted(main) && IsPuzzle(main) ? kSoundPuzzleCleared : kSoundDestroyed, false);
-    return 1;
-}
-
-void StrikeAndScore(VMain& main, CLine& ln, CLine& hit) {
-    const std::int16_t count = Strike(main, ln, hit);
-    if (main.GameMode != kArcadeGame) return;
-    if (count > 0) AddScore(main, count);
-    RedrawCollisionLine(main);
-}
-
-void TakeStep(const VMain& main, CLine& ln, const Step& step, Boolean Simulate) {
-    const std::int16_t prevX = ln.XEnd;
-    const std::int16_t prevY = ln.YEnd;
-    ln.XEnd = step.x;
-    ln.YEnd = step.y;
-    if (!Simulate) DrawLine(main, prevX, prevY, step.x, step.y, ln.Color, ln.Direction);
-}
-
-// The beam itself, or a copy to look ahead with.
-CLine& BeamToRun(VMain& main, CLine& oLine, Boolean Simulate) {
-    if (!Simulate) return oLine;
-    CLine& copy = main.LookAheadBeams.Make();
-    copy.Copy(oLine);
-    return copy;
 }
 
 }  // namespace
 
-CLine* FindNearestLine(const VMain& main, std::int16_t X, std::int16_t Y) {
+CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y) {
     CLine* nearest = nullptr;
     float best = kClickReach;
-    for (CLine* beam : main.Lines) {
-        if (beam->RunMode != kGrowing && beam->RunMode != kWaiting) continue;
+    for (CLine* beam : field.Lines) {
+        if (beam->RunMode == Motion::Stopped) continue;
         const auto dx = static_cast<float>(Saturated(beam->XEnd - X));
         const auto dy = static_cast<float>(Saturated(beam->YEnd - Y));
         const float distance = std::sqrt(dx * dx + dy * dy);
@@ -86,27 +60,27 @@ CLine* FindNearestLine(const VMain& main, std::int16_t X, std::int16_t Y) {
     return nearest;
 }
 
-void BendLine(VMain& main, CLine& oLine) {
-    EraseLine(main, oLine);
+void BendLine(Field& field, CLine& oLine) {
+    EraseLine(field.painter, oLine);
     oLine.XStart = oLine.XEnd;
     oLine.YStart = oLine.YEnd;
     oLine.Direction = TurnedRound(oLine.Direction);
 }
 
-bool SpeedUpLine(VMain& main, CLine& oLine, Boolean Simulate) {
-    CLine& ln = BeamToRun(main, oLine, Simulate);
+Outcome SpeedUpLine(Field& field, CLine& oLine) {
+    for (CLine* beam = &oLine;; beam = &SplitLine(field, *beam)) {
+        const auto paintStep = [&](const Step& step) { DrawStep(field.painter, *beam, step); };
+        const RunEnd end = RunStraight(field, *beam, paintStep);
+        if (end.hit != nullptr) return StrikeLine(field, *beam, *end.hit, true);
+        if (end.outcome == Outcome::AtFloor) return end.outcome;
+    }
+}
+
+bool WouldEndAtBeam(const Field& field, BeamBody copy) {
     for (;;) {
-        const Step step = NextStep(ln);
-        EnterPlayfield(main, ln, step.y);
-        if (MeetsWall(ln.Direction, step.x)) return Bounce(main, ln, step, Simulate);
-        if (step.y >= kFloor) return false;
-        CLine* hit = FindCollision(main, step.testX, step.testY, ln.YEnd, ln.Direction, true);
-        if (hit == nullptr) {
-            TakeStep(main, ln, step, Simulate);
-            continue;
-        }
-        if (!Simulate) StrikeAndScore(main, ln, *hit);
-        return true;
+        const RunEnd end = RunStraight(field, copy, [](const Step&) {});
+        if (end.outcome != Outcome::Bounced) return end.hit != nullptr;
+        copy = NextSegment(copy);
     }
 }
 

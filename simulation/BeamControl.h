@@ -1,23 +1,26 @@
-// What a player's hand does to a beam, whoever plays: the player, the tutorial or a solution.
+// What a hand does to a beam, whether the player's, the tutorial's or a solution's: find it, bend it, run it forward.
 #pragma once
 
 #include <cstdint>
 
-#include "state/VMain.h"
+#include "simulation/Field.h"
 
 namespace prismfall {
 
-// The growing or waiting beam whose head is nearest to (X, Y), the earliest in Lines of those equally near; nothing if
-// it is 50 pixels away or more.
-CLine* FindNearestLine(const VMain& main, std::int16_t X, std::int16_t Y);
+// The growing or waiting beam whose head is nearest to (X, Y), the earliest in Lines of those equally near; null if it
+// is 50 pixels away or more.
+CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y);
 
-// Turns a beam in the entry zone round on the spot: what was drawn of it goes, and it runs on the other way.
-void BendLine(VMain& main, CLine& oLine);
+// Turns a beam in the entry zone round on the spot: what was drawn of it is erased, and it runs on the other way.
+void BendLine(Field& field, CLine& oLine);
 
-// Runs a beam forward to its end, painting as it goes, bouncing at walls as new segments; true if the run ends at a
-// beam, which then stops it or is destroyed with it, with sound and points. It stops one step above the ground
-// otherwise. With `Simulate` it only tells the result: no beam of Lines changes and nothing sounds, but what is above
-// the entry limit is painted out all the same.
-bool SpeedUpLine(VMain& main, CLine& oLine, Boolean Simulate);
+// Runs a beam forward to its end, painting as it goes and bouncing at walls as new segments of its chain. Where it runs
+// into a beam it is stopped or destroyed with it; otherwise it ends AtFloor, one step above the ground. GoesOn and
+// Bounced never come of it.
+Outcome SpeedUpLine(Field& field, CLine& oLine);
+
+// Whether SpeedUpLine would end at a beam. No beam changes; but what is painted of `copy` above the entry limit is
+// erased, as the real run would.
+bool WouldEndAtBeam(const Field& field, BeamBody copy);
 
 }  // namespace prismfall

@@ -3,29 +3,34 @@
 
 #include <cstdint>
 
-#include "state/VMain.h"
+#include "simulation/Field.h"
 
 namespace prismfall {
 
-// One step of removal for a beam and, through the links, for all of its chain in the same colour: each becomes dying
-// and stands still, is painted out and painted again `Thickness` wide, without edges. Only `oLine` itself keeps
-// `ByFastLine`. This is also how a level rise reaches the timers.
-void DeleteLine(VMain& main, CLine& oLine, std::int16_t Thickness, Boolean ByFastLine);
+// One step of removal for a beam and, through the links, for all of its chain in the same color: each is dying from
+// now on and stops, is erased, and is painted again `Thickness` wide, without edges. Only `oLine` itself keeps
+// `ByFastLine`.
+void DeleteLine(Field& field, CLine& oLine, std::int16_t Thickness, bool ByFastLine);
 
 // Takes the first step for a beam that has been struck, and enters it in DyingLines for the next ones.
-void StartRemoval(VMain& main, CLine& oLine, Boolean ByFastLine);
+void StartRemoval(Field& field, CLine& oLine, bool ByFastLine);
 
-// The step of removal after the one that the beam stands in.
-std::int16_t NextThickness(const CLine& beam);
+// The next step for all of DyingLines; those that are gone leave that list. A beam that is in it twice loses two steps,
+// and is erased once more after it has gone. Whether there was any.
+bool ThinDyingLines(Field& field);
 
-// Paints all beams again, since a removal has painted out what lay under it. Those that begin above the blue line are
-// left to the growth tick.
-void RedrawLines(const VMain& main);
+// Takes the beams out of Lines that have thinned to nothing, and lets those that waited behind them grow on. Whether
+// there was any.
+bool RemoveGoneLines(Field& field);
 
-// Ends all beams. Nothing is painted.
-void ClearLines(VMain& main);
+// Paints all beams again, since a removal has erased what lay under it. Those that begin above the blue line are left
+// to the growth tick.
+void RedrawLines(const Field& field);
+
+// Ends all beams. Paints nothing.
+void ClearLines(Field& field);
 
 // Whether every beam of Lines is dying; true for none.
-Boolean AllLinesDeleted(const VMain& main);
+bool AllLinesDeleted(const Field& field);
 
 }  // namespace prismfall

@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "simulation/Playfield.h"
-#include "state/GameModes.h"
 
 namespace prismfall {
 
@@ -18,106 +17,83 @@ constexpr int kColumnCount = 33;
 constexpr int kSpawnRange = 642;  // pixels that the random column is taken from; the last column has only two of them
 constexpr int kMostTries = 1000;
 
-constexpr float kCreatorInterval = 2500.0F;
-constexpr float kExtenderInterval = 75.0F;
-constexpr float kLevelFactor = 0.8F;
-constexpr std::int16_t kTopSpeedLevel = 64;  // from here on both intervals are at their shortest
+// Upper bounds of the random number for colors 0 to 2; the rest is color 3.
+constexpr std::array<double, 3> kColorBounds = {0.25, 0.5, 0.75};
 
-// Upper bounds of the random number for colours 0 to 2; the rest is colour 3.
-constexpr std::array<double, 3> kColourBounds = {0.25, 0.5, 0.75};
-
-bool IsColumnTaken(const VMain& main, int x) {
-    return std::ranges::any_of(main.Lines, [x](const CLine* beam) { return beam->XStart == x; });
+bool IsColumnTaken(const Field& field, int x) {
+    return std::ranges::any_of(field.Lines, [x](const CLine* beam) { return beam->XStart == x; });
 }
 
-bool AreAllColumnsTaken(const VMain& main) {
+bool AreAllColumnsTaken(const Field& field) {
     for (int column = 0; column < kColumnCount; ++column)
-        if (!IsColumnTaken(main, kFirstColumn + kColumnStep * column)) return false;
+        if (!IsColumnTaken(field, kFirstColumn + kColumnStep * column)) return false;
     return true;
 }
 
-std::optional<std::int16_t> FindFreeColumn(const VMain& main) {
-    if (AreAllColumnsTaken(main)) return std::nullopt;
+std::optional<std::int16_t> FindFreeColumn(const Field& field) {
+    if (AreAllColumnsTaken(field)) return std::nullopt;
     for (int tries = 0; tries < kMostTries; ++tries) {
-        const double column = std::floor(main.platform.Random() * kSpawnRange / kColumnStep);
+        const double column = std::floor(field.chance.Random() * kSpawnRange / kColumnStep);
         const int x = kFirstColumn + kColumnStep * static_cast<int>(column);
-        if (!IsColumnTaken(main, x)) return static_cast<std::int16_t>(x);
+        if (!IsColumnTaken(field, x)) return static_cast<std::int16_t>(x);
     }
     return std::nullopt;
 }
 
-double FreshRandom(const VMain& main) {
-    main.platform.SeedRandomFromClock();
-    return main.platform.Random();
+double FreshRandom(Chance& chance) {
+    chance.SeedRandomFromClock();
+    return chance.Random();
 }
 
-std::int32_t RandomColour(const VMain& main) {
-    const double random = FreshRandom(main);
-    return static_cast<std::int32_t>(
-        std::ranges::count_if(kColourBounds, [random](double bound) { return random >= bound; }));
+Heading RandomHeading(Chance& chance) { return FreshRandom(chance) > 0.5 ? Heading::Leftwards : Heading::Rightwards; }
+
+BeamColor RandomColor(Chance& chance) {
+    const double random = FreshRandom(chance);
+    return static_cast<BeamColor>(
+        std::ranges::count_if(kColorBounds, [random](double bound) { return random >= bound; }));
 }
 
-void ContinueChain(const VMain& main, CLine& beam, CLine& oLine) {
-    beam.XStart = oLine.XEnd;
-    beam.YStart = oLine.YEnd;
-    beam.Direction = TurnedRound(oLine.Direction);
-    beam.Color = oLine.Color;
-    beam.DoubleSpeed = oLine.DoubleSpeed;
-    beam.LinkedLines.push_back(&oLine);
-    oLine.LinkedLines.push_back(&beam);
-    if (IsPuzzle(main)) beam.PuzzleLineNr = oLine.PuzzleLineNr;
+// A growing beam without length.
+BeamBody MakeSpot(std::int16_t x, std::int16_t y, Heading heading, BeamColor color) {
+    return {.XStart = x,
+            .XEnd = x,
+            .YStart = y,
+            .YEnd = y,
+            .Direction = heading,
+            .Color = color,
+            .RunMode = Motion::Growing,
+            .Thicknes = kLiveThicknes};
 }
 
-void StartInColumn(const VMain& main, CLine& beam, std::int16_t x, std::int16_t y) {
-    beam.XStart = x;
-    beam.XStartOrg = x;
-    beam.YStart = y;
-    beam.Direction = FreshRandom(main) > 0.5 ? kLeftwards : kRightwards;
-    beam.Color = RandomColour(main);
+CLine& Append(Field& field, const BeamBody& body) {
+    CLine& beam = field.Beams.Make(body);
+    field.Lines.push_back(&beam);
+    return beam;
 }
-
-void MakeLive(CLine& beam) {
-    beam.Thicknes = kLiveThicknes;
-    beam.XEnd = beam.XStart;
-    beam.YEnd = beam.YStart;
-    beam.RunMode = kGrowing;
-}
-
-int IntervalOf(float milliseconds) { return std::max(1, int{Rounded(milliseconds)}); }
 
 }  // namespace
 
-CLine* CreateLine(VMain& main, CLine* oLine, Boolean Simulate, std::int16_t StartY) {
-    main.platform.SeedRandomFromClock();
-    const std::optional<std::int16_t> column = oLine == nullptr ? FindFreeColumn(main) : std::nullopt;
-    if (oLine == nullptr && !column) return nullptr;
-    CLine& beam = Simulate ? main.LookAheadBeams.Make() : main.Beams.Make();
-    if (oLine != nullptr) {
-        ContinueChain(main, beam, *oLine);
-    } else {
-        StartInColumn(main, beam, *column, StartY);
-    }
-    MakeLive(beam);
-    if (!Simulate) main.Lines.push_back(&beam);
-    return &beam;
+CLine* CreateLine(Field& field, std::int16_t StartY) {
+    field.chance.SeedRandomFromClock();
+    const std::optional<std::int16_t> column = FindFreeColumn(field);
+    if (!column) return nullptr;
+    const Heading heading = RandomHeading(field.chance);
+    return &Append(field, MakeSpot(*column, StartY, heading, RandomColor(field.chance)));
 }
 
-CLine& SplitLine(VMain& main, CLine& oLine) {
-    oLine.RunMode = kStopped;
-    return *CreateLine(main, &oLine, false, kSpawnHeight);
+BeamBody NextSegment(const BeamBody& beam) {
+    BeamBody segment = MakeSpot(beam.XEnd, beam.YEnd, TurnedRound(beam.Direction), beam.Color);
+    segment.PuzzleLineNr = beam.PuzzleLineNr;
+    return segment;
 }
 
-void SetLevelSpeed(const VMain& main) {
-    float creator = kCreatorInterval;
-    float extender = kExtenderInterval;
-    for (std::int16_t level = 2; level <= std::min(main.Level, kTopSpeedLevel); ++level) {
-        creator *= kLevelFactor;
-        extender *= kLevelFactor;
-    }
-    main.platform.SetTimerInterval(Timer::LineCreator, IntervalOf(creator));
-    main.platform.SetTimerInterval(Timer::LineExtender, IntervalOf(extender));
+CLine& SplitLine(Field& field, CLine& oLine) {
+    oLine.RunMode = Motion::Stopped;
+    field.chance.SeedRandomFromClock();  // at every beam that is made, random or not
+    CLine& segment = Append(field, NextSegment(oLine));
+    segment.LinkedLines.push_back(&oLine);
+    oLine.LinkedLines.push_back(&segment);
+    return segment;
 }
-
-void LineCreator_Timer(VMain& main) { CreateLine(main, nullptr, false, kSpawnHeight); }
 
 }  // namespace prismfall

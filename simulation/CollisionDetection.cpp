@@ -1,4 +1,4 @@
-// See CollisionDetection.h. All distances are floats of 32 bits: solution scripts hang on each of them.
+// See CollisionDetection.h. All distances are floats of 32 bits: the solutions of puzzles depend on each of them.
 #include "simulation/CollisionDetection.h"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ constexpr int kHeadsMeet = 3;            // heads nearer than this in x and y me
 constexpr int kSurelyApart = 3;
 static_assert(kHeadsMeet <= kSurelyApart, "a head that can be met lies no farther than that either");
 
-bool IsOutOfPlay(const CLine& beam, Boolean FastLine) {
+bool IsOutOfPlay(const CLine& beam, bool FastLine) {
     if (!beam.Deleted) return false;
     return FastLine || beam.Thicknes != kStruckThicknes || beam.DeletedByFastLine;
 }
@@ -38,17 +38,17 @@ bool IsHitByDistance(const CLine& beam, std::int16_t X, std::int16_t Y) {
 }
 
 // Two beams that run towards each other at about the same height, where the test point passes below the other's head.
-bool IsHitByHead(const CLine& beam, std::int16_t X, std::int16_t PrevY, std::int32_t Direction) {
+bool IsHitByHead(const CLine& beam, std::int16_t X, std::int16_t PrevY, Heading Direction) {
     return std::abs(PrevY - beam.YEnd) < kHeadsMeet && std::abs(X - beam.XEnd) < kHeadsMeet &&
            Direction != beam.Direction;
 }
 
 }  // namespace
 
-CLine* FindCollision(const VMain& main, std::int16_t X, std::int16_t Y, std::int16_t PrevY, std::int32_t Direction,
-                     Boolean FastLine) {
-    if (Y <= main.CollisionLineY + kBlueLine) return nullptr;
-    for (CLine* beam : main.Lines) {
+CLine* FindCollision(const Field& field, std::int16_t X, std::int16_t Y, std::int16_t PrevY, Heading Direction,
+                     bool FastLine) {
+    if (Y <= field.CollisionLineY + kBlueLine) return nullptr;
+    for (CLine* beam : field.Lines) {
         if (IsBeside(beam->XStart, beam->XEnd, X) || IsOutOfPlay(*beam, FastLine)) continue;
         if (!IsBeside(beam->YStart, beam->YEnd, Y) && IsHitByDistance(*beam, X, Y)) return beam;
         if (IsHitByHead(*beam, X, PrevY, Direction)) return beam;

@@ -3,16 +3,16 @@
 
 #include <cstdint>
 
-#include "state/VMain.h"
+#include "simulation/Field.h"
 
 namespace prismfall {
 
-// The first beam of Lines that is near enough to the test point (X, Y), or nothing. A beam is hit at a distance of 1 or
+// The first beam of Lines that is near enough to the test point (X, Y), or null. A beam is hit at a distance of 1 or
 // less, or by its head, if that runs the other way at about the height `PrevY` of the moving head before its step.
-// Nothing is hit at or above the blue line. `FastLine` asks for a beam that is speeded up, which runs through every
+// Nothing is hit at or above the blue line. `FastLine` is for a beam that runs forward: it passes through every
 // dying beam; a growing one still strikes those in the first step of their removal.
-CLine* FindCollision(const VMain& main, std::int16_t X, std::int16_t Y, std::int16_t PrevY, std::int32_t Direction,
-                     Boolean FastLine);
+CLine* FindCollision(const Field& field, std::int16_t X, std::int16_t Y, std::int16_t PrevY, Heading Direction,
+                     bool FastLine);
 
 // The point of the segment (X1, Y1) to (X2, Y2) that is nearest to (X, Y), and its distance.
 void PointToSegmentDistance(float X, float Y, float X1, float Y1, float X2, float Y2, float& NearestX, float& NearestY,

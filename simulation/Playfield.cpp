@@ -1,5 +1,7 @@
 #include "simulation/Playfield.h"
 
+#include "platform/Numbers.h"
+
 namespace prismfall {
 
 namespace {
@@ -11,55 +13,59 @@ constexpr int kRepairReach = 10;     // rows of wall that are repaired above and
 
 }  // namespace
 
-Step NextStep(const CLine& beam) {
-    const int sideways = beam.Direction == kRightwards ? 1 : -1;
+Step NextStep(const BeamBody& beam) {
+    const int sideways = Sideways(beam.Direction);
     const std::int16_t x = Saturated(beam.XEnd + sideways);
     const std::int16_t y = Saturated(beam.YEnd + 1);
     return {x, y, Saturated(x + kAhead * sideways), Saturated(y + kAhead)};
 }
 
-bool IsAtRightWall(int x) { return x >= kRightWall; }
+void MoveHead(BeamBody& beam, const Step& step) {
+    beam.XEnd = step.x;
+    beam.YEnd = step.y;
+}
 
-bool MeetsWall(std::int32_t direction, int x) { return direction == kRightwards ? IsAtRightWall(x) : x < kLeftWall; }
+bool MeetsWall(Heading direction, int x) { return direction == Heading::Rightwards ? x >= kRightWall : x < kLeftWall; }
 
-void BeginTrail(CLine& beam) {
-    const int back = beam.Direction == kRightwards ? -1 : 1;
-    beam.XStart = Saturated(beam.XEnd + back);
+void BeginTrail(BeamBody& beam) {
+    beam.XStart = Saturated(beam.XEnd - Sideways(beam.Direction));
     beam.YStart = Saturated(beam.YEnd - 1);
 }
 
-void DrawLine(const VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, std::int32_t Direction) {
-    const auto colour = static_cast<std::size_t>(Color);
-    const int outwards = Direction == kRightwards ? kEdgeOffset : -kEdgeOffset;
-    Platform& surface = main.platform;
-    surface.SurfaceLine(x1, y1, x2, y2, LineColors[colour], kBeamWidth);
-    surface.SurfaceLine(x1, y1 - kEdgeOffset, x2 + outwards, y2, LineColorsUpper[colour], 1);
-    surface.SurfaceLine(x1 - outwards, y1, x2, y2 + kEdgeOffset, LineColorsLower[colour], 1);
+void DrawLine(SurfacePainter& painter, int x1, int y1, int x2, int y2, BeamColor Color, Heading Direction) {
+    const int outwards = kEdgeOffset * Sideways(Direction);
+    painter.SurfaceLine(x1, y1, x2, y2, OfColor(LineColors, Color), kBeamWidth);
+    painter.SurfaceLine(x1, y1 - kEdgeOffset, x2 + outwards, y2, OfColor(LineColorsUpper, Color), 1);
+    painter.SurfaceLine(x1 - outwards, y1, x2, y2 + kEdgeOffset, OfColor(LineColorsLower, Color), 1);
 }
 
-void EraseLine(const VMain& main, const CLine& oLine) {
-    main.platform.SurfaceLine(oLine.XStart, oLine.YStart, oLine.XEnd, oLine.YEnd, kBlack, kBeamWidth);
-    RepairWalls(main, oLine);
+void DrawStep(SurfacePainter& painter, const BeamBody& beam, const Step& step) {
+    DrawLine(painter, beam.XEnd, beam.YEnd, step.x, step.y, beam.Color, beam.Direction);
 }
 
-void RepairWalls(const VMain& main, const CLine& oLine) {
-    if (oLine.XEnd < kNearLeftWall) return RepairLeftWall(main, oLine.YEnd);
-    if (oLine.XStart < kNearLeftWall) return RepairLeftWall(main, oLine.YStart);
-    if (oLine.XEnd > kNearRightWall) return RepairRightWall(main, oLine.YEnd);
-    if (oLine.XStart > kNearRightWall) RepairRightWall(main, oLine.YStart);
+void EraseLine(SurfacePainter& painter, const BeamBody& oLine) {
+    painter.SurfaceLine(oLine.XStart, oLine.YStart, oLine.XEnd, oLine.YEnd, kBlack, kBeamWidth);
+    RepairWalls(painter, oLine);
 }
 
-void RepairLeftWall(const VMain& main, int y) {
-    main.platform.SurfaceRestore(7, y - kRepairReach, 14, y + kRepairReach);
+void RepairWalls(SurfacePainter& painter, const BeamBody& oLine) {
+    if (oLine.XEnd < kNearLeftWall) return RepairLeftWall(painter, oLine.YEnd);
+    if (oLine.XStart < kNearLeftWall) return RepairLeftWall(painter, oLine.YStart);
+    if (oLine.XEnd > kNearRightWall) return RepairRightWall(painter, oLine.YEnd);
+    if (oLine.XStart > kNearRightWall) RepairRightWall(painter, oLine.YStart);
 }
 
-void RepairRightWall(const VMain& main, int y) {
-    main.platform.SurfaceRestore(665, y - kRepairReach, 672, y + kRepairReach);
+void RepairLeftWall(SurfacePainter& painter, int y) {
+    painter.SurfaceRestore(7, y - kRepairReach, 14, y + kRepairReach);
 }
 
-void RedrawCollisionLine(const VMain& main) {
-    const int y = main.CollisionLineY + kBlueLine;
-    main.platform.SurfaceLine(kLeftWall, y, kRightWall, y, kBlueLineColour, 1);
+void RepairRightWall(SurfacePainter& painter, int y) {
+    painter.SurfaceRestore(665, y - kRepairReach, 672, y + kRepairReach);
+}
+
+void RedrawCollisionLine(const Field& field) {
+    const int y = field.CollisionLineY + kBlueLine;
+    field.painter.SurfaceLine(kLeftWall, y, kRightWall, y, kBlueLineColour, 1);
 }
 
 }  // namespace prismfall

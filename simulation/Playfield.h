@@ -3,9 +3,10 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
-#include "state/VMain.h"
+#include "simulation/Field.h"
 
 namespace prismfall {
 
@@ -19,7 +20,7 @@ namespace prismfall {
 //    64   |  a speeded beam begins its trail |
 //    65   |  a growing beam begins its trail |  from here on it moves at every tick
 //         |                                  |
-//   586   +----------------------------------+  the ground; a head stands at 585 at the lowest
+//   586   +----------------------------------+  the ground; a head gets to 585 at most
 //
 // A head moves one pixel down and one sideways at a time. At x 13 or 670 it has met a wall.
 constexpr int kLeftWall = 14;    // a head moving left stops at the first x below it
@@ -35,15 +36,15 @@ constexpr int kBlueLine = 20;
 constexpr int kFastEntryLimit = 24;  // where a speeded beam begins to leave a trail
 constexpr int kEntryLimit = 25;      // where a growing beam does
 
-constexpr std::int16_t kArcadeCollisionLineY = 40;
-constexpr std::int16_t kPuzzleCollisionLineY = 0;
-
-// Blue, green, red, yellow; and the grey of a game's end, which no beam has.
-constexpr std::size_t kGrey = 4;
+// How each color of BeamColor is painted: the core of a beam, its upper edge and its lower one.
 inline constexpr std::array<Colour, 5> LineColors = {0xFF0000, 0x008000, 0x0000FF, 0x00C0C0, 0x808080};
 inline constexpr std::array<Colour, 5> LineColorsUpper = {0xFFC000, 0x00FF00, 0xC0C0A0, 0xC0FFFF, 0xC0C0C0};
 inline constexpr std::array<Colour, 5> LineColorsLower = {0x800000, 0x000400, 0x0000C0, 0x008080, 0xA0A0A0};
 constexpr Colour kBlueLineColour = 0xFF0000;
+
+constexpr Colour OfColor(const std::array<Colour, 5>& colours, BeamColor color) {
+    return colours[static_cast<std::size_t>(color)];
+}
 
 // The next place of a head, one pixel down and one sideways, and the point ahead of it at which collisions are looked
 // for.
@@ -54,29 +55,30 @@ struct Step {
     std::int16_t testY;
 };
 
-Step NextStep(const CLine& beam);
+Step NextStep(const BeamBody& beam);
+void MoveHead(BeamBody& beam, const Step& step);
 
-bool IsAtRightWall(int x);
-// Whether a head that moves in that direction has met a wall at x.
-bool MeetsWall(std::int32_t direction, int x);
+// Whether a head that moves in that direction has reached a wall at x.
+bool MeetsWall(Heading direction, int x);
 
 // Sets a beam's tail one step behind its head: from here on it leaves a trail.
-void BeginTrail(CLine& beam);
+void BeginTrail(BeamBody& beam);
 
-// Paints one piece of beam: a core five pixels wide, a bright edge along its upper side, a dark one along its lower.
-// `Color` is an index into LineColors, kGrey included.
-void DrawLine(const VMain& main, int x1, int y1, int x2, int y2, std::int32_t Color, std::int32_t Direction);
+// Paints one piece of a beam: a core five pixels wide, a bright edge along its upper side, a dark one along its lower.
+void DrawLine(SurfacePainter& painter, int x1, int y1, int x2, int y2, BeamColor Color, Heading Direction);
+// Paints the piece that a beam's head adds by that step, before it moves.
+void DrawStep(SurfacePainter& painter, const BeamBody& beam, const Step& step);
 
-// Paints a whole beam out in black and repairs the wall that this cut into.
-void EraseLine(const VMain& main, const CLine& oLine);
+// Paints a whole beam black and repairs the wall that this cut into.
+void EraseLine(SurfacePainter& painter, const BeamBody& oLine);
 
 // Brings the frame back beside an end of the beam: the first that applies of head left, tail left, head right, tail
 // right.
-void RepairWalls(const VMain& main, const CLine& oLine);
-void RepairLeftWall(const VMain& main, int y);
-void RepairRightWall(const VMain& main, int y);
+void RepairWalls(SurfacePainter& painter, const BeamBody& oLine);
+void RepairLeftWall(SurfacePainter& painter, int y);
+void RepairRightWall(SurfacePainter& painter, int y);
 
 // Paints the blue line below which beams can collide.
-void RedrawCollisionLine(const VMain& main);
+void RedrawCollisionLine(const Field& field);
 
 }  // namespace prismfall

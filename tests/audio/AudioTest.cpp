@@ -1,11 +1,12 @@
 // Which track plays when, and the sounds that the program carries.
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 
 #include "audio/Music.h"
 #include "audio/SoundResources.h"
-#include "tests/support/TestField.h"
+#include "backends/headless/HeadlessPlatform.h"
 
 namespace prismfall {
 namespace {
@@ -15,16 +16,19 @@ TEST(Music, EveryNumberHasItsTrackAndOthersNone) {
     constexpr std::string_view kTracks =
         "003 019 011 014 010 024 025 030 Oce 014 010 024 025 030 Oce 003 019 011 025 030 Oce 003 019 "
         "011 014 010 024 003 019 011 014 010 024 025 030 Oce 014 010 024 025 030 Oce 003 019 011 ";
-    TestField field(kPuzzleGame);
-    VMain& main = field.Main();
-    main.Music = true;
+    std::ostringstream printed;
+    HeadlessPlatform machine(printed);
+    Settings settings;
+    settings.Music = true;
+    const Audio audio{machine, settings};
     std::string tracks;
     for (std::int16_t number = -1; number <= 46; ++number) {
-        PlayLevelMusic(main, number);
-        const std::string printed = field.TakePrinted();
-        const auto name = printed.find("Side_Scroller-");
-        if (name != std::string::npos) tracks += printed.substr(name + 14, 3) + ' ';
-        EXPECT_EQ(printed.ends_with(".mp3\"\nmusic volume 900\nmusic play\n"), number >= 1 && number <= 45) << number;
+        PlayLevelMusic(audio, number);
+        const std::string lines = printed.str();
+        printed.str({});
+        const auto name = lines.find("Side_Scroller-");
+        if (name != std::string::npos) tracks += lines.substr(name + 14, 3) + ' ';
+        EXPECT_EQ(lines.ends_with(".mp3\"\nmusic volume 900\nmusic play\n"), number >= 1 && number <= 45) << number;
     }
     EXPECT_EQ(tracks, kTracks);
 }

@@ -9,7 +9,7 @@
 #include "backends/headless/HeadlessPlatform.h"
 #include "game/MainWindow.h"
 #include "platform/SettingsText.h"
-#include "screens/SettingsStore.h"
+#include "settings/SettingsStore.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using prismfall::SettingsText;
@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& [name, text] : file.Values()) machine.PutSetting(name.first, name.second, text);
     prismfall::VMain main(machine);
     prismfall::MakeMainWindow(main);
-    prismfall::SaveSettings(main);
+    prismfall::SaveSettings(main.settings, machine);
     for (const auto& [name, text] : machine.Store()) file.Set(name.first, name.second, text);
     if (SettingsText(file.Text()).Values() != machine.Store()) std::abort();
     return 0;

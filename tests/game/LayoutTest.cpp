@@ -78,7 +78,7 @@ void DescribeSpots(std::ostream& out, TestGame& game, std::size_t picture) {
 // When the pictures of the tutorial come, by the height of the beam that is its clock, and where.
 void DescribeMoments(std::ostream& out, TestGame& game) {
     VMain& main = game.Main();
-    game.Add("400,20 400,20 red #4; 300,300 324,324 red #4; 300,300 324,324 red #3");
+    AddBeams(game.Main().field, "400,20 400,20 red #4; 300,300 324,324 red #4; 300,300 324,324 red #3");
     for (CLine& clock = game.Beam(1); clock.YEnd < 586; ++clock.YEnd) {
         main.TutorialStep = 0;
         main.platform.StartTimer(Timer::LineExtender);
@@ -97,15 +97,14 @@ TEST(Layout, StandsAsItShould) {
     VMain& main = game.QuietStore().Load();
     main.platform.SetPosition(main.window, {100, -30});
     Describe(out, game.Machine(), main.window);
-    for (Element* button : {&main.CmdStart, &main.cmdPause}) {
-        for (const std::string_view tag : {"Restart", "Takeover", "Resume"}) {
-            button->tag = tag;
-            Describe(out, main.window, *button);
-        }
+    for (const auto& [button, meaning] :
+         {std::pair{&main.CmdStart, kRestart}, {&main.CmdStart, kTakeover}, {&main.cmdPause, kResume}}) {
+        SetMeaning(*button, meaning);
+        Describe(out, main.window, *button);
     }
     game.Machine().onDialog = [&](Window& dialog) { Describe(out, game.Machine(), dialog); };
-    ShowAbout(main);
-    ShowOptions(main);
+    ShowAbout(main.dialogs, main.VAbout);
+    ShowOptions(main.dialogs, main.VOptions, main.settings, {});
     ShowHighScores(main);
     ShowPuzzleResult(main, true);
     DescribeMoments(out, game);

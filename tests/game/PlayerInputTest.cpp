@@ -31,32 +31,31 @@ constexpr char kPresses[] = R"(
 TEST(Form_MouseDown, DoesWhatTheTableSays) {
     for (const auto& row : Rows(kPresses)) {
         TestGame game(ModeNamed(row[0].substr(0, 6)), row[1]);
-        game.Add(row[2]);
+        AddBeams(game.Main().field, row[2]);
         game.Machine().onYield = [&] { game.Print("yield\n"); };
         VMain& main = game.Main();
-        const std::size_t count = main.Lines.size();
+        const std::size_t count = main.field.Lines.size();
         const MouseButton button = row[0].ends_with("left") ? MouseButton::Left : MouseButton::Right;
         Form_MouseDown(main, button, 131.4F, static_cast<float>(game.Beam(1).YEnd) - 0.4F);
         EXPECT_EQ(InShort(game.Beam(1)), row[3]);
-        EXPECT_EQ(main.Lines.size() > count ? InShort(*main.Lines.back()) : "", row[4]) << row[1];
+        EXPECT_EQ(main.field.Lines.size() > count ? InShort(*main.field.Lines.back()) : "", row[4]) << row[1];
         std::string printed = game.TakePrinted();
         std::ranges::replace(printed, '\n', ' ');
         EXPECT_EQ(printed, row[5] + (row[5].empty() ? "" : " ")) << row[1];
-        EXPECT_EQ(main.LookAheadBeams.Count(), 0U);
     }
 }
 
 TEST(Form_MouseDown, RoundsHalvesToTheEvenPixelAndADoubleClickRepeatsIt) {
-    TestGame game(kPuzzleGame, "100,100 150,150 blue waiting");
+    TestGame game(Mode::PuzzleGame, "100,100 150,150 blue waiting");
     for (const float y : {199.75F, 99.5F, 100.5F}) Form_MouseDown(game.Main(), MouseButton::Left, 150, y);
-    EXPECT_EQ(InShort(game.Main()), "100,100 150,150 blue waiting") << "50 away, each of them";
+    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue waiting") << "50 away, each of them";
     game.Main().GameRunning = false;
     Form_MouseDown(game.Main(), MouseButton::Right, 150, 101.5F);
     Form_DblClick(game.Main());
-    EXPECT_EQ(InShort(game.Main()), "100,100 150,150 blue waiting") << "the game stands still";
+    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue waiting") << "the game stands still";
     game.Main().GameRunning = true;
     Form_DblClick(game.Main());
-    EXPECT_EQ(InShort(game.Main()), "100,100 150,150 blue") << "a left press where the last one was";
+    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue") << "a left press where the last one was";
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 // while it yields. What each step of a solution does, the solutions themselves show (StallsTest).
 #include <gtest/gtest.h>
 
-#include "game/GrowthTick.h"
 #include "game/PuzzleStart.h"
+#include "game/SolutionReplay.h"
 #include "game/Tutorial.h"
 #include "tests/support/TestGame.h"
 
@@ -29,13 +29,13 @@ constexpr char kLayouts[] = R"(
 
 TEST(LinkPuzzleLines, AppliesTheFirstRuleThatHolds) {
     for (const auto& row : Rows(kLayouts)) {
-        TestGame game(kPuzzleGame, row[0]);
+        TestGame game(Mode::PuzzleGame, row[0]);
         VMain& main = game.Main();
-        LinkPuzzleLines(main);
+        LinkPuzzleLines(main.field);
         std::string linked;
-        for (const CLine* beam : main.Lines)
+        for (const CLine* beam : main.field.Lines)
             linked += std::to_string(beam->XEnd) + ',' + std::to_string(beam->YEnd) + ':' +
-                      Places(main, beam->LinkedLines) + '/' + Places(main, beam->StoppingLines) + ' ';
+                      Places(main.field, beam->LinkedLines) + '/' + Places(main.field, beam->StoppingLines) + ' ';
         EXPECT_EQ(linked, row[1] + ' ') << row[0];
     }
 }
@@ -60,15 +60,15 @@ TEST(Tutorial, ItsSpeedAndItsPauses) {
 }
 
 TEST(PlaySolutionStep, StandsBeamsThatGoWhileItYields) {
-    TestGame game(kSolutionReplay, "100,100 150,150 blue 1 #1; 400,100 200,300 blue stopped 1 #2");
-    constexpr std::int16_t kScript[] = {2, 1, 150, -1, 0, 0, 2, 300, 0, 0, 0};
-    game.Main().PuzzleSolutions[1] = kScript;
+    TestGame game(Mode::SolutionReplay, "100,100 150,150 blue 1 #1; 400,100 200,300 blue stopped 1 #2");
+    constexpr SolutionStep kScript[] = {{.TriggerLineNr = 1, .TriggerYEnd = 150, .SpeedUp = true},
+                                        {.TriggerLineNr = 2, .TriggerYEnd = 300}};
     game.Beam(1).StoppingLines = {&game.Beam(2)};  // so that it would fire its step, if it had not gone
     game.Machine().SetTimerInterval(Timer::LineDeleter, 1);
     game.Machine().StartTimer(Timer::LineDeleter);
-    ExtendLines(game.Main());
+    PlaySolutionStep(game.Main(), kScript);
     EXPECT_EQ(game.TakePrinted(), "sound 4 async\ndialog VPuzzleResult solved\nsound 4 sync\n");
-    EXPECT_TRUE(game.Main().Lines.empty());
+    EXPECT_TRUE(game.Main().field.Lines.empty());
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "game/GameControl.h"
 #include "game/PlayerInput.h"
 #include "game/PuzzleStart.h"
+#include "platform/Numbers.h"
 #include "simulation/BeamControl.h"
 #include "simulation/Playfield.h"
 #include "tests/support/TestGame.h"
@@ -26,7 +27,7 @@ long FromEnvironment(const char* name, long fallback) {
 
 class RandomPlayer : public TestGame {
   public:
-    explicit RandomPlayer(std::uint32_t seed) : random(seed) { QuietStore().Load().SoundEffects = false; }
+    explicit RandomPlayer(std::uint32_t seed) : random(seed) { QuietStore().Load().settings.SoundEffects = false; }
 
     // Clicks now and then, and lets about one growth tick pass. Between games it starts a puzzle, a replay or an Arcade
     // game at a random level.
@@ -46,7 +47,7 @@ class RandomPlayer : public TestGame {
 
     void StartAGame() {
         ++games;
-        main->StartLevel = static_cast<std::int16_t>(Number(1, 12));
+        main->settings.StartLevel = static_cast<std::int16_t>(Number(1, 12));
         if (Chance(50)) return CommandArcade_Click(*main);
         const bool isSolution = Chance(20);
         main->CurrentPuzzle = static_cast<std::int16_t>(Number(2, kPuzzleCount));  // 1 has the tutorial
@@ -57,12 +58,12 @@ class RandomPlayer : public TestGame {
     // On beams mostly. A bend of a beam that stands on a wall leads out of the field, so that is left out.
     void Press() {
         int x = Number(0, 700), y = Number(0, 600);
-        if (!main->Lines.empty() && Chance(90)) {
-            const CLine& beam = Beam(static_cast<std::size_t>(Number(1, static_cast<int>(main->Lines.size()))));
+        if (!main->field.Lines.empty() && Chance(90)) {
+            const CLine& beam = Beam(static_cast<std::size_t>(Number(1, static_cast<int>(main->field.Lines.size()))));
             x = beam.XEnd + Number(-9, 9);
             y = beam.YEnd + Number(-9, 9);
         }
-        const CLine* hit = FindNearestLine(*main, Saturated(x), Saturated(y));
+        const CLine* hit = FindNearestLine(main->field, Saturated(x), Saturated(y));
         const bool isOnWall = hit != nullptr && (hit->XEnd < kLeftWall || hit->XEnd >= kRightWall);
         const MouseButton button = Chance(70) && !isOnWall ? MouseButton::Left : MouseButton::Right;
         Form_MouseDown(*main, button, static_cast<float>(x), static_cast<float>(y));
@@ -78,7 +79,7 @@ bool Holds(const std::vector<CLine*>& beams, const CLine* beam) {
 
 // What is wrong with a beam; empty for nothing.
 std::string WrongWith(const CLine& beam) {
-    const int across = (beam.XEnd - beam.XStart) * (beam.Direction == kRightwards ? 1 : -1);
+    const int across = (beam.XEnd - beam.XStart) * (beam.Direction == Heading::Rightwards ? 1 : -1);
     if (across != beam.YEnd - beam.YStart || across < 0) return "not a diagonal in its direction";
     if (beam.XEnd < kLeftWall - 1 || beam.XEnd > kRightWall) return "head beyond a wall";
     if (beam.XStart < kLeftWall - 2 || beam.XStart > kRightWall + 1) return "tail beyond a wall";
@@ -90,12 +91,13 @@ std::string WrongWith(const CLine& beam) {
 }
 
 std::string WrongWith(const VMain& main) {
-    for (const CLine* beam : main.Lines)
+    for (const CLine* beam : main.field.Lines)
         if (const std::string wrong = WrongWith(*beam); !wrong.empty()) return InShort(*beam) + ": " + wrong;
-    if (std::set(main.Lines.begin(), main.Lines.end()).size() != main.Lines.size()) return "a beam twice in Lines";
-    for (const CLine* beam : main.DyingLines)
+    if (std::set(main.field.Lines.begin(), main.field.Lines.end()).size() != main.field.Lines.size())
+        return "a beam twice in Lines";
+    for (const CLine* beam : main.field.DyingLines)
         if (!beam->Deleted) return InShort(*beam) + ": in DyingLines and not dying";
-    return main.LookAheadBeams.Count() == 0 ? "" : "a look-ahead left beams";
+    return "";
 }
 
 TEST(RandomPlay, KeepsWhatMustHold) {
@@ -106,7 +108,7 @@ TEST(RandomPlay, KeepsWhatMustHold) {
     for (long tick = 0; tick < ticks; ++tick) {
         player.PlayATick();
         ASSERT_EQ(WrongWith(main), "") << "PRISMFALL_TEST_SEED=" << seed << ", tick " << tick;
-        ASSERT_LT(main.Beams.Count(), 1000U) << "beams that have gone are not kept";
+        ASSERT_LT(main.field.Beams.Count(), 1000U) << "beams that have gone are not kept";
     }
     EXPECT_GT(main.HighScore, 0) << "beams collide";
     EXPECT_GT(player.games, ticks / 1000) << "games come to an end";

@@ -58,7 +58,7 @@ void LoadReplay(Machine& machine, VMain& main, std::int16_t puzzle, std::int16_t
     MakeMainWindow(main);
     machine.SetPainting(true);
     main.CurrentPuzzle = puzzle;
-    main.GrowthToggle = toggle;
+    main.field.GrowthToggle = toggle;
 }
 
 std::string ReplayOnTheDriver(std::int16_t puzzle, std::int16_t toggle) {

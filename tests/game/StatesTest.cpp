@@ -16,7 +16,7 @@ namespace {
 std::string Looks(TestGame& game) {
     const VMain& main = game.Main();
     const auto& timers = game.Machine().Timers();
-    std::string looks = std::to_string(main.GameMode);
+    std::string looks = std::to_string(static_cast<int>(main.GameMode));
     for (const auto& [holds, word] : {std::pair{main.GameRunning, " running"},
                                       {timers.IsOn(Timer::LineCreator), " C"},
                                       {timers.IsOn(Timer::LineExtender), " E"},
@@ -32,9 +32,10 @@ void Do(TestGame& game, const std::string& what) {
     VMain& main = game.Main();
     const bool isFirst = what == "tutorial";
     if (what == "lose" || what == "solve") {
-        main.Lines.clear();
+        main.field.Lines.clear();
         // One beam that has come down to the floor; or two of one colour before their collision, and time for it.
-        game.Add(what == "lose" ? "100,500 185,585 green" : "100,100 150,150 green; 220,100 170,150 green");
+        AddBeams(game.Main().field,
+                 what == "lose" ? "100,500 185,585 green" : "100,100 150,150 green; 220,100 170,150 green");
         if (what == "solve") return game.Machine().Run(2000);
         return game.Machine().Fire(Timer::LineExtender);
     }
@@ -86,11 +87,11 @@ TEST(States, AnArcadeGameBeginsAfresh) {
     main.HighScore = 90;
     main.Score = main.LevelLineCount = 70;
     main.VScore.text = "70";
-    game.Add("21,100 31,110 blue");
+    AddBeams(game.Main().field, "21,100 31,110 blue");
     game.Machine().SetPainting(true);
     game.Click("CommandArcade");
     EXPECT_EQ(game.TakePrinted(), "sound 7 sync\nclear\nclear\nline 14 60 670 60 0xFF0000 1\n");
-    EXPECT_EQ(main.Lines.size(), 3U);
+    EXPECT_EQ(main.field.Lines.size(), 3U);
     EXPECT_EQ(main.VScore.text + '/' + std::to_string(main.Score), "0/0");
     EXPECT_EQ(std::tuple(main.LevelLineCount, main.HighScore), std::tuple(0, 90));
 }
@@ -104,14 +105,14 @@ TEST(States, AGamesEndTakesNoInput) {
     int yields = 0;
     game.Machine().onYield = [&] {
         ++yields;
-        const std::string before = InShort(main) + Looks(game);
+        const std::string before = InShort(main.field) + Looks(game);
         const WindowInput& input = game.Machine().Input();
         input.PressSurface(main.window, MouseButton::Left, 185, 585);
         input.DoubleClickSurface(main.window);
         input.Key(main.window, kEscapeKey);
         for (const std::string_view button : {"CommandExit", "cmdPause", "CmdAbout", "CommandPuzzle"})
             game.Click(button);
-        EXPECT_EQ(InShort(main) + Looks(game), before);
+        EXPECT_EQ(InShort(main.field) + Looks(game), before);
     };
     game.TakePrinted();
     Do(game, "lose");

@@ -1,4 +1,4 @@
-// How beams come into play, and how fast.
+// How beams come into play.
 #include "simulation/BeamSpawning.h"
 
 #include <gtest/gtest.h>
@@ -8,9 +8,9 @@
 namespace prismfall {
 namespace {
 
-CLine* Spawn(TestField& field, std::initializer_list<double> numbers) {
-    for (const double number : numbers) field.Machine().QueueRandom(number);
-    return CreateLine(field.Main(), nullptr, false, 20);
+CLine* Spawn(TestField& test, std::initializer_list<double> numbers) {
+    test.dice.numbers = numbers;
+    return CreateLine(test.field, 20);
 }
 
 TEST(CreateLine, ARandomBeamByItsNumbers) {
@@ -21,50 +21,34 @@ TEST(CreateLine, ARandomBeamByItsNumbers) {
                                                               {639.99 / 642, 0.3, 0.5, "641,20 641,20 red"},
                                                               {640.01 / 642, 0.7, 0.7499, "661,20 661,20 red left"},
                                                               {0.999999, 0.7, 0.75, "661,20 661,20 yellow left"}}) {
-        TestField field(kArcadeGame);
-        const CLine* beam = Spawn(field, {column, direction, colour});
-        EXPECT_EQ(InShort(field.Main()), expected);
-        EXPECT_EQ(beam->XStartOrg, beam->XStart);
+        TestField test("arcade");
+        Spawn(test, {column, direction, colour});
+        EXPECT_EQ(InShort(test.field), expected);
     }
 }
 
 TEST(CreateLine, PassesOverColumnsThatAreTaken) {
     // A dying beam takes its column too, a head takes none.
-    TestField field(kArcadeGame, "41,20 50,29 blue dying; 61,200 90,229 blue; 100,200 81,219 blue");
-    EXPECT_EQ(Spawn(field, {1.5 * 20 / 642, 2.5 * 20 / 642, 3.5 * 20 / 642})->XStart, 81);
+    TestField test("arcade", "41,20 50,29 blue dying; 61,200 90,229 blue; 100,200 81,219 blue");
+    EXPECT_EQ(Spawn(test, {1.5 * 20 / 642, 2.5 * 20 / 642, 3.5 * 20 / 642})->XStart, 81);
     for (int column = 0; column < 33; ++column)
-        if (column != 7) field.Add(std::to_string(21 + 20 * column) + ",100 300,300 blue");
-    EXPECT_EQ(Spawn(field, {0.5, 7.5 * 20 / 642})->XStart, 161) << "one is free";
-    EXPECT_EQ(Spawn(field, {0.125}), nullptr);
-    EXPECT_EQ(field.Machine().Random(), 0.125) << "no number is drawn when none is free";
-    LineCreator_Timer(field.Main());
-    EXPECT_EQ(field.Main().Lines.size(), 37U);
+        if (column != 7) AddBeams(test.field, std::to_string(21 + 20 * column) + ",100 300,300 blue");
+    EXPECT_EQ(Spawn(test, {0.5, 7.5 * 20 / 642})->XStart, 161) << "one is free";
+    EXPECT_EQ(Spawn(test, {0.125}), nullptr);
+    EXPECT_EQ(test.dice.numbers.size(), 1U) << "no number is drawn when none is free";
 }
 
-TEST(CreateLine, TheNextSegmentOfAChain) {
-    for (const auto& [mode, simulate, from, expected] :
-         {std::tuple{kArcadeGame, false, "100,100 150,150 yellow stopped 3 dying #7", "150,150 150,150 yellow left"},
-          {kPuzzleGame, false, "100,100 50,150 yellow #7", "50,150 50,150 yellow #7"},
-          {kSolutionReplay, true, "100,100 150,150 red #7", "150,150 150,150 red left #7"}}) {
-        TestField field(mode, from);
-        CLine& source = field.Beam(1);
-        CLine* segment = CreateLine(field.Main(), &source, simulate, 99);
-        EXPECT_EQ(InShort(*segment) + InShort(source), std::string(expected) + from);
-        EXPECT_EQ(segment->LinkedLines, std::vector<CLine*>{&source});
-        EXPECT_EQ(source.LinkedLines, std::vector<CLine*>{segment});
-        EXPECT_EQ(field.Main().Lines.size(), simulate ? 1U : 2U);
-    }
-}
-
-TEST(SetLevelSpeed, IntervalsByLevel) {
-    TestField field(kArcadeGame);
-    const auto& timers = field.Machine().Timers();
-    for (const auto& [level, creator, extender] :
-         {std::tuple{-5, 2500, 75}, {1, 2500, 75}, {5, 1024, 31}, {23, 18, 1}, {32767, 1, 1}}) {
-        field.Main().Level = static_cast<std::int16_t>(level);
-        SetLevelSpeed(field.Main());
-        EXPECT_EQ(timers.Interval(Timer::LineCreator), creator) << "level " << level;
-        EXPECT_EQ(timers.Interval(Timer::LineExtender), extender) << "level " << level;
+TEST(SplitLine, GoesOnWithTheNextSegmentOfTheChain) {
+    for (const auto& [from, stopped, expected] :
+         {std::tuple{"100,100 150,150 yellow 3 dying #7", "100,100 150,150 yellow stopped 3 dying #7",
+                     "150,150 150,150 yellow left #7"},
+          {"100,100 50,150 yellow #7", "100,100 50,150 yellow stopped #7", "50,150 50,150 yellow #7"}}) {
+        TestField test("puzzle", from);
+        CLine& source = test.Beam(1);
+        CLine& segment = SplitLine(test.field, source);
+        EXPECT_EQ(InShort(test.field), std::string(stopped) + "; " + expected);
+        EXPECT_EQ(segment.LinkedLines, std::vector<CLine*>{&source});
+        EXPECT_EQ(source.LinkedLines, std::vector<CLine*>{&segment});
     }
 }
 

@@ -46,10 +46,10 @@ TEST(FindCollision, HitsWhatTheTableSays) {
              {"100,0 200,100 blue", 121, 21, kFarAway, true, true},
              {"100,0 200,100 blue", 90, 21, kFarAway, false, false},
          }) {
-        TestField field(kPuzzleGame, c.beams);
+        TestField test("puzzle", c.beams);
         for (const bool fast : {false, true}) {
-            const CLine* hit = FindCollision(field.Main(), c.x, c.y, c.prevY, kLeftwards, fast);
-            EXPECT_EQ(hit == &field.Beam(1), fast ? c.isHitBySpeeded : c.isHit)
+            const CLine* hit = FindCollision(test.field, c.x, c.y, c.prevY, Heading::Leftwards, fast);
+            EXPECT_EQ(hit == &test.Beam(1), fast ? c.isHitBySpeeded : c.isHit)
                 << c.beams << " at " << c.x << ',' << c.y << ' ' << c.prevY << (fast ? " fast" : "");
         }
     }

@@ -1,78 +1,51 @@
-// A playfield on a headless machine, for the tests of the floors below game/, and beams in words.
+// A playfield by itself, for the tests of beams: it prints what is painted and takes random numbers from a list.
 #pragma once
 
-#include <functional>
-#include <memory>
+#include <deque>
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "backends/headless/HeadlessPlatform.h"
-#include "state/VMain.h"
+#include "platform/Surface.h"
+#include "tests/support/BeamWords.h"
 
 namespace prismfall {
 
-// Lets a test look and act while a dialog stands or a handler yields.
-class TestMachine : public HeadlessPlatform {
+// Paints on a surface of its own, and prints each operation if asked to.
+class TestPainter : public SurfacePainter {
   public:
-    using HeadlessPlatform::HeadlessPlatform;
+    bool isPrinting = false;
+    std::ostringstream printed;
+    Surface surface;
 
-    std::function<void(Window& dialog)> onDialog;  // before the queued answers
-    std::function<void()> onYield;
+    void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
+    void SurfaceBox(int, int, int, int, Colour, int) override {}
+    void SurfaceRestore(int x1, int y1, int x2, int y2) override;
+    void SurfaceClear() override {}
+};
 
-    bool ShowModally(Window& dialog) override {
-        if (onDialog) onDialog(dialog);
-        return HeadlessPlatform::ShowModally(dialog);
-    }
-    void LetEventsRun() override {
-        if (onYield) onYield();
-        HeadlessPlatform::LetEventsRun();
-    }
+class TestDice : public Chance {
+  public:
+    std::deque<double> numbers;  // the next ones; afterwards always 0
+
+    double Random() override;
+    void SeedRandomFromClock() override {}
 };
 
 class TestField {
   public:
-    // Beams in words (see InShort) on a playfield of `gameMode` in play, with effects and without music. No timer runs.
-    explicit TestField(std::int32_t gameMode, std::string_view beams = {}) : TestField() { Play(gameMode, beams); }
+    // Beams in words on the playfield of an Arcade game, with its entry zone, or of a puzzle. The next growth tick
+    // moves the beams of the entry zone too.
+    explicit TestField(std::string_view kind, std::string_view beams = {});
 
-    TestMachine& Machine() { return machine; }
-    VMain& Main() { return *main; }
+    TestPainter painter;
+    TestDice dice;
+    Field field{painter, dice};
 
     // A beam by its place in Lines, from 1.
-    CLine& Beam(std::size_t place) { return *main->Lines.at(place - 1); }
-    // Appends beams in words to Lines.
-    void Add(std::string_view beams);
-
-    // Something of the test's own between the lines.
-    void Print(std::string_view text) { printed << text; }
-    // The lines printed since the last call.
+    CLine& Beam(std::size_t place) { return *field.Lines.at(place - 1); }
+    // What was printed since the last call.
     std::string TakePrinted();
-
-  protected:
-    TestField() : machine(printed), main(std::make_unique<VMain>(machine)) {}
-    void Play(std::int32_t gameMode, std::string_view beams);
-
-    std::ostringstream printed;
-    TestMachine machine;
-    std::unique_ptr<VMain> main;
 };
-
-// A table in words: a line a row, its cells between bars, without the blanks around them.
-std::vector<std::vector<std::string>> Rows(std::string_view table);
-
-// The GameMode called "puzzle", "arcade" or "replay".
-std::int32_t ModeNamed(std::string_view name);
-
-// A beam in words: "100,300 110,310 blue" is tail, head and colour of a live beam that grows; then "left" or "right" if
-// the ends do not tell the direction, "stopped" or "waiting", the thickness if it is not 5, "dying" for one that is
-// Deleted, "fast" for one that a speeded beam has struck, and "#4" for the PuzzleLineNr.
-std::string InShort(const CLine& beam);
-
-// All of Lines, "; " between two beams.
-std::string InShort(const VMain& main);
-
-// Beams by their places in Lines, from 1: "1 3"; 0 for one that is not there.
-std::string Places(const VMain& main, const std::vector<CLine*>& beams);
 
 }  // namespace prismfall

@@ -1,14 +1,27 @@
 #include "tests/support/TestGame.h"
 
+#include <utility>
+
 #include "game/MainWindow.h"
+#include "game/Modes.h"
 
 namespace prismfall {
 
-TestGame::TestGame(std::int32_t gameMode, std::string_view beams) {
+Mode ModeNamed(std::string_view name) {
+    if (name == "replay") return Mode::SolutionReplay;
+    return name == "arcade" ? Mode::ArcadeGame : Mode::PuzzleGame;
+}
+
+TestGame::TestGame(Mode mode, std::string_view beams) : TestGame() {
     QuietStore().Load();
     for (std::size_t timer = 0; timer < kTimerCount; ++timer) machine.StopTimer(static_cast<Timer>(timer));
     machine.SurfaceClear();
-    Play(gameMode, beams);
+    EnterMode(*main, mode);
+    main->GameRunning = true;
+    main->CurrentPuzzle = 2;
+    main->field.GrowthToggle = 1;  // the next growth tick moves the beams of the entry zone too
+    main->field.CollisionLineY = RowOf(mode).collisionLineY;
+    AddBeams(main->field, beams);
     TakePrinted();
 }
 
@@ -27,5 +40,11 @@ TestGame& TestGame::QuietStore() {
 }
 
 void TestGame::Click(std::string_view element) { machine.Input().PressAndClick(main->window, main->window[element]); }
+
+std::string TestGame::TakePrinted() {
+    std::string lines = std::move(printed).str();
+    printed.str({});
+    return lines;
+}
 
 }  // namespace prismfall

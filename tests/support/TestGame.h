@@ -1,26 +1,49 @@
 // A whole game on a headless machine, for tests.
 #pragma once
 
-#include "tests/support/TestField.h"
+#include <memory>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include "game/VMain.h"
+#include "tests/support/BeamWords.h"
+#include "tests/support/TestMachine.h"
 
 namespace prismfall {
 
-class TestGame : public TestField {
+// The mode called "puzzle", "arcade" or "replay".
+Mode ModeNamed(std::string_view name);
+
+class TestGame {
   public:
     // A machine without a program; settings can be put before Load. Effects, music and the first run are as an empty
     // store has them, unless QuietStore is called first.
-    TestGame() = default;
-    // A quiet program with beams in words on an empty playfield of `gameMode`, in play: no timer runs.
-    explicit TestGame(std::int32_t gameMode, std::string_view beams = {});
+    TestGame() : machine(printed), main(std::make_unique<VMain>(machine)) {}
+    // A quiet program with beams in words on an empty playfield of `mode`, in play: no timer runs.
+    explicit TestGame(Mode mode, std::string_view beams = {});
+
+    TestMachine& Machine() { return machine; }
+    VMain& Main() { return *main; }
+    // A beam by its place in Lines, from 1.
+    CLine& Beam(std::size_t place) { return *main->field.Lines.at(place - 1); }
 
     // Starts the program into its main menu.
     VMain& Load();
-
     // A store in which the first run is over and the music is off.
     TestGame& QuietStore();
-
     // A press and a click of the left button on an element of the main window.
     void Click(std::string_view element);
+
+    // Something of the test's own between the lines.
+    void Print(std::string_view text) { printed << text; }
+    // The lines printed since the last call.
+    std::string TakePrinted();
+
+  protected:
+    std::ostringstream printed;
+    TestMachine machine;
+    std::unique_ptr<VMain> main;
 };
 
 }  // namespace prismfall

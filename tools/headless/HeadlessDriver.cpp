@@ -8,6 +8,7 @@
 #include <string>
 
 #include "game/MainWindow.h"
+#include "game/Modes.h"
 #include "game/PuzzleStart.h"
 #include "simulation/BeamRemoval.h"
 #include "tools/headless/StateDump.h"
@@ -32,14 +33,14 @@ constexpr std::int64_t kLowest = std::numeric_limits<std::int16_t>::min();
 constexpr std::int64_t kHighest = std::numeric_limits<std::int16_t>::max();
 
 constexpr std::array<Member, 9> kMembers = {{
-    {"GrowthToggle", 0, 1, [](VMain& main, std::int16_t value) { main.GrowthToggle = value; }},
-    {"StartLevel", kLowest, kHighest, [](VMain& main, std::int16_t value) { main.StartLevel = value; }},
+    {"GrowthToggle", 0, 1, [](VMain& main, std::int16_t value) { main.field.GrowthToggle = value; }},
+    {"StartLevel", kLowest, kHighest, [](VMain& main, std::int16_t value) { main.settings.StartLevel = value; }},
     {"Level", kLowest, kHighest, [](VMain& main, std::int16_t value) { main.Level = value; }},
     {"LevelLineCount", kLowest, kHighest, [](VMain& main, std::int16_t value) { main.LevelLineCount = value; }},
     {"Score", kLowest, kHighest, [](VMain& main, std::int16_t value) { main.Score = value; }},
     {"CurrentPuzzle", 1, kPuzzleCount, [](VMain& main, std::int16_t value) { main.CurrentPuzzle = value; }},
-    {"CollisionLineY", kLowest, kHighest, [](VMain& main, std::int16_t value) { main.CollisionLineY = value; }},
-    {"GameMode", kMainMenu, kSolutionReplay, [](VMain& main, std::int16_t value) { main.GameMode = value; }},
+    {"CollisionLineY", kLowest, kHighest, [](VMain& main, std::int16_t value) { main.field.CollisionLineY = value; }},
+    {"GameMode", 0, 4, [](VMain& main, std::int16_t value) { EnterMode(main, static_cast<Mode>(value)); }},
     {"GameRunning", 0, 1, [](VMain& main, std::int16_t value) { main.GameRunning = value != 0; }},
 }};
 
@@ -105,7 +106,7 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
          }},
         {"fire", 1, 2, true, [](Driver& driver, Arguments& words) { driver.FireTimer(words); }},
         {"set", 2, 2, true, [](Driver& driver, Arguments& words) { driver.SetMember(words); }},
-        {"clear", 0, 0, true, [](Driver& driver, Arguments&) { ClearLines(*driver.main); }},
+        {"clear", 0, 0, true, [](Driver& driver, Arguments&) { ClearLines(driver.main->field); }},
         {"beam", 7, 7, true, [](Driver& driver, Arguments& words) { driver.AddBeam(words); }},
         {"puzzle", 1, 1, true, [](Driver& driver, Arguments& words) { driver.StartPuzzle(words, false); }},
         {"solution", 1, 1, true, [](Driver& driver, Arguments& words) { driver.StartPuzzle(words, true); }},
@@ -229,19 +230,17 @@ void HeadlessDriver::SetMember(Arguments& words) {
 }
 
 void HeadlessDriver::AddBeam(Arguments& words) {
-    CLine beam;
+    BeamBody beam;
     beam.XStart = words.ShortNumber();
     beam.YStart = words.ShortNumber();
     beam.XEnd = words.ShortNumber();
     beam.YEnd = words.ShortNumber();
-    beam.Direction = static_cast<std::int32_t>(words.WholeNumber(kLeftwards, kRightwards));
-    beam.Color = static_cast<std::int32_t>(words.WholeNumber(0, 3));
-    beam.RunMode = static_cast<std::int32_t>(words.WholeNumber(kStopped, kWaiting));
+    beam.Direction = static_cast<Heading>(words.WholeNumber(1, 2));
+    beam.Color = static_cast<BeamColor>(words.WholeNumber(0, 3));
+    beam.RunMode = static_cast<Motion>(words.WholeNumber(0, 2));
     beam.Thicknes = kLiveThicknes;
     if (!words.IsGood()) return;
-    CLine& added = main->Beams.Make();
-    added.Copy(beam);
-    main->Lines.push_back(&added);
+    main->field.Lines.push_back(&main->field.Beams.Make(beam));
 }
 
 void HeadlessDriver::StartPuzzle(Arguments& words, bool isSolution) {

@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "backends/headless/HeadlessPlatform.h"
-#include "state/VMain.h"
+#include "game/VMain.h"
 #include "tools/headless/ScriptWords.h"
 
 namespace prismfall {

@@ -11,39 +11,46 @@ namespace prismfall {
 
 namespace {
 
-int Flag(Boolean value) { return value ? 1 : 0; }
+int Flag(bool value) { return value ? 1 : 0; }
 
-// The place of a beam in Lines, from 1; 0 for one that is no longer there.
-std::ptrdiff_t PlaceOf(const VMain& main, const CLine* beam) {
-    const auto found = std::ranges::find(main.Lines, beam);
-    return found == main.Lines.end() ? 0 : found - main.Lines.begin() + 1;
+template <typename Enum>
+int NumberOf(Enum value) {
+    return static_cast<int>(value);
 }
 
-void PrintPlaces(std::ostream& out, const VMain& main, const std::vector<CLine*>& beams, char separator) {
+// The place of a beam in Lines, from 1; 0 for one that is no longer there.
+std::ptrdiff_t PlaceOf(const Field& field, const CLine* beam) {
+    const auto found = std::ranges::find(field.Lines, beam);
+    return found == field.Lines.end() ? 0 : found - field.Lines.begin() + 1;
+}
+
+void PrintPlaces(std::ostream& out, const Field& field, const std::vector<CLine*>& beams, char separator) {
     if (beams.empty()) out << '-';
     for (std::size_t i = 0; i < beams.size(); ++i) {
         if (i > 0) out << separator;
-        out << PlaceOf(main, beams[i]);
+        out << PlaceOf(field, beams[i]);
     }
 }
 
-void PrintBeam(std::ostream& out, const VMain& main, const CLine& beam) {
-    out << "beam " << PlaceOf(main, &beam) << ' ' << beam.XStart << ',' << beam.YStart << ' ' << beam.XEnd << ','
-        << beam.YEnd << " dir=" << beam.Direction << " color=" << beam.Color << " mode=" << beam.RunMode
-        << " thick=" << static_cast<int>(beam.Thicknes) << " deleted=" << Flag(beam.Deleted)
-        << " fast=" << Flag(beam.DeletedByFastLine) << " nr=" << beam.PuzzleLineNr << " links=";
-    PrintPlaces(out, main, beam.LinkedLines, ',');
+void PrintBeam(std::ostream& out, const Field& field, const CLine& beam) {
+    out << "beam " << PlaceOf(field, &beam) << ' ' << beam.XStart << ',' << beam.YStart << ' ' << beam.XEnd << ','
+        << beam.YEnd << " dir=" << NumberOf(beam.Direction) << " color=" << NumberOf(beam.Color)
+        << " mode=" << NumberOf(beam.RunMode) << " thick=" << static_cast<int>(beam.Thicknes)
+        << " deleted=" << Flag(beam.Deleted) << " fast=" << Flag(beam.DeletedByFastLine) << " nr=" << beam.PuzzleLineNr
+        << " links=";
+    PrintPlaces(out, field, beam.LinkedLines, ',');
     out << " stops=";
-    PrintPlaces(out, main, beam.StoppingLines, ',');
+    PrintPlaces(out, field, beam.StoppingLines, ',');
     out << '\n';
 }
 
 void PrintState(std::ostream& out, const VMain& main) {
-    out << "state mode=" << main.GameMode << " running=" << Flag(main.GameRunning)
+    out << "state mode=" << NumberOf(main.GameMode) << " running=" << Flag(main.GameRunning)
         << " waiting=" << Flag(main.PuzzleWaiting) << " puzzle=" << main.CurrentPuzzle << " page=" << main.PuzzlePage
         << " level=" << main.Level << " count=" << main.LevelLineCount << " score=" << main.Score
-        << " high=" << main.HighScore << " toggle=" << main.GrowthToggle << " tutorial=" << Flag(main.TutorialActive)
-        << '/' << main.TutorialStep << " liney=" << main.CollisionLineY << '\n';
+        << " high=" << main.HighScore << " toggle=" << main.field.GrowthToggle
+        << " tutorial=" << Flag(main.TutorialActive) << '/' << main.TutorialStep
+        << " liney=" << main.field.CollisionLineY << '\n';
 }
 
 void PrintTimers(std::ostream& out, const TimerWheel& timers) {
@@ -76,9 +83,9 @@ void PrintElement(std::ostream& out, const Element& element) {
 void PrintDump(std::ostream& out, const VMain& main, const TimerWheel& timers) {
     PrintState(out, main);
     PrintTimers(out, timers);
-    for (const CLine* beam : main.Lines) PrintBeam(out, main, *beam);
+    for (const CLine* beam : main.field.Lines) PrintBeam(out, main.field, *beam);
     out << "dying ";
-    PrintPlaces(out, main, main.DyingLines, ' ');
+    PrintPlaces(out, main.field, main.field.DyingLines, ' ');
     out << '\n';
 }
 
@@ -91,10 +98,11 @@ void PrintElements(std::ostream& out, const VMain& main) {
 }
 
 void PrintSettings(std::ostream& out, const VMain& main, std::int64_t time) {
-    out << "settings start=" << main.StartLevel << " gamestart=" << main.GameStartLevel << " music=" << Flag(main.Music)
-        << " effects=" << Flag(main.SoundEffects) << " first=" << Flag(main.PlayFirstTime) << " time=" << time << '\n';
+    out << "settings start=" << main.settings.StartLevel << " gamestart=" << main.GameStartLevel
+        << " music=" << Flag(main.settings.Music) << " effects=" << Flag(main.settings.SoundEffects)
+        << " first=" << Flag(main.settings.PlayFirstTime) << " time=" << time << '\n';
     int number = 0;
-    for (const ScoreRow& row : main.Scores)
+    for (const ScoreRow& row : main.settings.Scores)
         out << "row " << ++number << ' ' << row.score << ' ' << row.startLevel << ' ' << row.endLevel << '\n';
 }
 

@@ -4,7 +4,7 @@
 #include <ostream>
 
 #include "backends/headless/HeadlessPlatform.h"
-#include "state/VMain.h"
+#include "game/VMain.h"
 
 namespace prismfall {
 

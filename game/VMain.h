@@ -1,0 +1,62 @@
+// The state of the game. There is one for a run of the program; every topic of this folder is a pair of files with free
+// functions on it. What lies below has a state of its own, and takes only that.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "audio/Audio.h"
+#include "game/Mode.h"
+#include "platform/Platform.h"
+#include "platform/Window.h"
+#include "screens/Dialogs.h"
+#include "screens/MainElements.h"
+#include "settings/Settings.h"
+#include "simulation/Field.h"
+
+namespace prismfall {
+
+struct VMain : MainElements {
+    explicit VMain(Platform& machine)
+        : platform(machine), field(machine, machine), audio{machine, settings}, dialogs{machine, window, audio} {}
+
+    Platform& platform;
+    Window window;
+    Field field;
+    Settings settings;
+    Audio audio;
+    DialogHost dialogs;
+
+    // --- What is played.
+    Mode GameMode = Mode::MainMenu;  // changed by EnterMode alone
+    bool GameRunning = false;
+    bool PuzzleWaiting = false;  // a puzzle is laid out and waits for CmdStart
+    bool TutorialActive = false;
+    std::int16_t TutorialStep = 0;  // the tutorial picture that is shown, 0 for none
+    float LastClickX = 0;           // of the last press, game pixels
+    float LastClickY = 0;
+
+    std::int16_t Score = 0;
+    std::int16_t HighScore = 0;
+    std::int16_t Level = 1;
+    std::int16_t LevelLineCount = 0;  // collisions since the last level rise
+    std::int16_t GameStartLevel = 0;
+
+    std::int16_t CurrentPuzzle = 1;  // 1 to kPuzzleCount
+    std::int16_t PuzzlePage = 1;     // of the puzzle menu, 1 to kPageCount
+
+    // --- The pop-up of a collision of several beams.
+    BeamColor MultiColor = BeamColor::Blue;  // of the last collision in a growth tick, of several beams or not
+    Heading MultiDirection = Heading::Leftwards;
+    std::int16_t MultiTicks = 0;  // since it came up
+
+    std::int16_t SweepY = 0;  // lower edge of the grey band at a game's end
+
+    // --- The dialogs, each made at its first use.
+    std::unique_ptr<Window> VHighScore2;
+    std::unique_ptr<Window> VPuzzleResult;
+    std::unique_ptr<Window> VAbout;
+    std::unique_ptr<Window> VOptions;
+};
+
+}  // namespace prismfall

@@ -1,0 +1,44 @@
+// What outlasts a run of the program: options, the score table, which puzzles have been solved.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "settings/ScoreTable.h"
+
+namespace prismfall {
+
+constexpr std::int16_t kPuzzleCount = 45;  // whose progress is kept; game/PuzzleTables.h must have as many
+
+// What this run knows of the store. Other runs write to the same one, so a save must tell what this run has changed
+// from what it merely found (see SettingsStore.h).
+struct StoreMemory {
+    std::map<std::pair<std::string, std::string>, std::string> texts;  // by section and key, as last read or saved
+    // Since the score table was last read or saved:
+    bool scoresCleared = false;
+    std::vector<ScoreRow> gamesEntered;  // after the clearing, if there was one
+};
+
+struct Settings {
+    bool PlayFirstTime = false;   // the program has never run before
+    std::int16_t StartLevel = 1;  // of an Arcade game
+    bool Music = false;
+    bool SoundEffects = false;
+    ScoreTable Scores;
+    std::array<bool, kPuzzleCount> SolvedPuzzles = {};  // puzzle n is entry n - 1
+    StoreMemory Stored;
+};
+
+// Enters a finished game in the score table, below older equal ones, if its score is high enough. The last row drops
+// out. A score of 0 never enters.
+void EnterGame(Settings& settings, const ScoreRow& game);
+
+// Empties the score table.
+void ForgetScores(Settings& settings);
+
+}  // namespace prismfall

@@ -1,0 +1,178 @@
+#include "settings/SettingsStore.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace prismfall {
+
+namespace {
+
+constexpr std::string_view kApplication = "Tavelor";
+constexpr std::string_view kGeneral = "General";
+constexpr std::string_view kScores = "Scores";
+constexpr std::string_view kSolvedPuzzles = "SolvedPuzzles";
+
+std::string KeyOf(std::string_view word, std::size_t number) { return std::string(word) + std::to_string(number); }
+
+// --- Values and their texts.
+
+std::string TextOf(std::int16_t number) { return std::to_string(number); }
+std::string TextOf(bool value) { return value ? "True" : "False"; }
+
+// An optional sign and digits, nothing else, within 16 bits.
+std::optional<std::int16_t> ParseNumber(std::string_view text) {
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+        if (text.starts_with('-')) return std::nullopt;
+    }
+    std::int16_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+bool IsSameWithoutCase(std::string_view text, std::string_view lower) {
+    return std::ranges::equal(text, lower, {}, [](unsigned char letter) { return std::tolower(letter); });
+}
+
+std::optional<bool> ParseBoolean(std::string_view text) {
+    if (IsSameWithoutCase(text, "true")) return true;
+    if (IsSameWithoutCase(text, "false")) return false;
+    return std::nullopt;
+}
+
+// --- Reading.
+
+// The text of a value, or `fallback` if there is none.
+using TextReader = std::function<std::string(std::string_view section, std::string_view key, std::string fallback)>;
+
+std::int16_t ReadNumber(const TextReader& read, std::string_view section, std::string_view key, std::int16_t fallback) {
+    return ParseNumber(read(section, key, TextOf(fallback))).value_or(fallback);
+}
+
+bool ReadBoolean(const TextReader& read, std::string_view section, std::string_view key, bool fallback) {
+    return ParseBoolean(read(section, key, TextOf(fallback))).value_or(fallback);
+}
+
+ScoreTable ReadScores(const TextReader& read) {
+    ScoreTable table;
+    for (std::size_t i = 0; i < kScoreRows; ++i) {
+        ScoreRow& row = table[i];
+        row.score = ReadNumber(read, kScores, KeyOf("Score", i + 1), row.score);
+        row.startLevel = ReadNumber(read, kScores, KeyOf("Level", i + 1), row.startLevel);
+        row.endLevel = ReadNumber(read, kScores, KeyOf("EndLevel", i + 1), row.endLevel);
+    }
+    return table;
+}
+
+// Reads from the store, and remembers what was read.
+TextReader ReaderOf(SettingsKeeper& store, StoreMemory& memory) {
+    return [&](std::string_view section, std::string_view key, const std::string& fallback) {
+        std::string text = store.ReadSetting(kApplication, section, key, fallback);
+        memory.texts[{std::string(section), std::string(key)}] = text;
+        return text;
+    };
+}
+
+// --- Saving.
+
+void AddScores(std::vector<SettingValue>& values, const ScoreTable& table) {
+    for (std::size_t i = 0; i < kScoreRows; ++i) {
+        values.push_back({std::string(kScores), KeyOf("Score", i + 1), TextOf(table[i].score)});
+        values.push_back({std::string(kScores), KeyOf("Level", i + 1), TextOf(table[i].startLevel)});
+        values.push_back({std::string(kScores), KeyOf("EndLevel", i + 1), TextOf(table[i].endLevel)});
+    }
+}
+
+// All 79, in the order in which they are written.
+std::vector<SettingValue> AllValues(const Settings& settings, const ScoreTable& scores) {
+    std::vector<SettingValue> values = {{std::string(kGeneral), "PlayFirstTime", TextOf(settings.PlayFirstTime)},
+                                        {std::string(kGeneral), "StartLevel", TextOf(settings.StartLevel)},
+                                        {std::string(kGeneral), "Music", TextOf(settings.Music)},
+                                        {std::string(kGeneral), "SoundEffects", TextOf(settings.SoundEffects)}};
+    AddScores(values, scores);
+    for (std::size_t i = 0; i < kPuzzleCount; ++i)
+        values.push_back({std::string(kSolvedPuzzles), KeyOf("Puzzle", i + 1), TextOf(settings.SolvedPuzzles[i])});
+    return values;
+}
+
+// What this run last read or saved, or nothing.
+std::optional<std::string> KnownText(const StoreMemory& memory, const std::string& section, const std::string& key) {
+    const auto known = memory.texts.find({section, key});
+    if (known == memory.texts.end()) return std::nullopt;
+    return known->second;
+}
+
+bool IsTableAsKnown(const StoreMemory& memory, const SettingsReader& stored) {
+    std::vector<SettingValue> names;
+    AddScores(names, {});
+    return std::ranges::all_of(names, [&](const SettingValue& name) {
+        const std::optional<std::string> text = stored(name.section, name.key);
+        return !text || text == KnownText(memory, name.section, name.key);
+    });
+}
+
+// The table that the store is to hold.
+ScoreTable MergedScores(const Settings& settings, const SettingsReader& stored) {
+    if (IsTableAsKnown(settings.Stored, stored)) return settings.Scores;
+    ScoreTable table;
+    if (settings.Stored.scoresCleared) {
+        table.fill(kClearedRow);
+    } else {
+        table = ReadScores([&stored](std::string_view section, std::string_view key, const std::string& fallback) {
+            return stored(section, key).value_or(fallback);
+        });
+    }
+    for (const ScoreRow& game : settings.Stored.gamesEntered) EnterScore(table, game);
+    return table;
+}
+
+// The score table has been merged with what the store holds, so that is what it is compared with.
+bool IsToBeWritten(const StoreMemory& memory, const SettingValue& value, const SettingsReader& stored) {
+    const std::optional<std::string> text = stored(value.section, value.key);
+    if (!text) return true;
+    return value.text != (value.section == kScores ? text : KnownText(memory, value.section, value.key));
+}
+
+void RememberSaved(Settings& settings, const ScoreTable& scores) {
+    settings.Scores = scores;
+    StoreMemory& memory = settings.Stored;
+    for (SettingValue& value : AllValues(settings, scores))
+        memory.texts[{std::move(value.section), std::move(value.key)}] = std::move(value.text);
+    memory.scoresCleared = false;
+    memory.gamesEntered.clear();
+}
+
+}  // namespace
+
+void ReadSettings(Settings& settings, SettingsKeeper& store) {
+    const TextReader read = ReaderOf(store, settings.Stored);
+    settings.PlayFirstTime = ReadBoolean(read, kGeneral, "PlayFirstTime", true);
+    settings.StartLevel = ReadNumber(read, kGeneral, "StartLevel", 1);
+    settings.Scores = ReadScores(read);
+    settings.Music = ReadBoolean(read, kGeneral, "Music", true);
+    settings.SoundEffects = ReadBoolean(read, kGeneral, "SoundEffects", true);
+    for (std::size_t i = 0; i < kPuzzleCount; ++i)
+        settings.SolvedPuzzles[i] = ReadBoolean(read, kSolvedPuzzles, KeyOf("Puzzle", i + 1), false);
+}
+
+void SaveSettings(Settings& settings, SettingsKeeper& store) {
+    ScoreTable scores;
+    const bool isSaved = store.ChangeSettings(kApplication, [&](const SettingsReader& stored) {
+        scores = MergedScores(settings, stored);
+        std::vector<SettingValue> values = AllValues(settings, scores);
+        std::erase_if(values,
+                      [&](const SettingValue& value) { return !IsToBeWritten(settings.Stored, value, stored); });
+        return values;
+    });
+    if (isSaved) RememberSaved(settings, scores);
+}
+
+}  // namespace prismfall
