@@ -2,6 +2,7 @@
 #include <array>
 #include <cstdint>
 
+#include "backends/web/Imports.h"
 #include "backends/web/WebPlatform.h"
 #include "game/MainWindow.h"
 #include "game/VMain.h"
@@ -24,6 +25,11 @@ extern "C" {
 __attribute__((export_name("suspendedStack"))) SuspendedStack* GetSuspendedStack() {
     stack = {room.data(), room.data() + room.size()};
     return &stack;
+}
+
+__attribute__((export_name("recordSizes"))) const prismfall::page::RecordSizes* GetRecordSizes() {
+    static constexpr prismfall::page::RecordSizes kSizes;
+    return &kSizes;
 }
 
 __attribute__((export_name("run"))) void Run() {

@@ -13,6 +13,11 @@ namespace prismfall {
 // 0xBBGGRR: blue in the high byte, red in the low byte.
 using Colour = std::uint32_t;
 
+// 0xFFRRGGBB, as pictures and surfaces have their pixels.
+constexpr std::uint32_t PixelOf(Colour colour) {
+    return 0xFF000000U | (colour & 0x0000FFU) << 16 | (colour & 0x00FF00U) | (colour & 0xFF0000U) >> 16;
+}
+
 constexpr Colour kBlack = 0x000000;
 constexpr Colour kRed = 0x0000FF;
 
@@ -20,7 +25,7 @@ enum class ElementKind {
     Picture,       // shows `picture`
     Button,        // shows `picture`; sounds at a press and has a click
     PressPicture,  // shows `picture`; takes presses with their place, has no click
-    Label,         // shows `text`; not there for the mouse, which meets what lies beneath
+    Label,         // shows `text`; ignored by the mouse, which reaches what lies beneath
     RadioButton,   // a round mark when `checked`, then `text`; has a click, takes fast presses
     CheckBox,      // a square mark when `checked`, then `text`; has a click, takes fast presses
     GroupFrame,    // a frame with `text` in its upper edge
@@ -66,7 +71,7 @@ struct Element {
     int width = 0;
     int height = 0;
     bool visible = true;
-    bool enabled = true;                // a disabled element is not there for the mouse
+    bool enabled = true;                // a disabled element is ignored by the mouse
     bool fastPresses = false;           // the second press of a double click is a press as well
     std::string_view picture = {};      // name of the picture it shows, empty for none
     std::string_view spoken = {};       // what a screen reader says of it, before its text; empty for decoration
@@ -88,12 +93,20 @@ struct Element {
 
 inline void ShowNumber(Element& label, int number) { label.text = std::to_string(number); }
 
+// Where the element's box begins in its window.
+inline float LeftInWindow(const Element& element) {
+    return element.left + (element.panel != nullptr ? element.panel->left : 0);
+}
+inline float TopInWindow(const Element& element) {
+    return element.top + (element.panel != nullptr ? element.panel->top : 0);
+}
+
 inline bool IsShown(const Element& element) {
     return element.visible && (element.panel == nullptr || element.panel->visible);
 }
 
-// Labels, and what is hidden or disabled, are not there for the mouse.
-inline bool IsThereForMouse(const Element& element) {
+// Labels, and what is hidden or disabled, are ignored by the mouse.
+inline bool TakesMouse(const Element& element) {
     return IsShown(element) && element.enabled && element.kind != ElementKind::Label;
 }
 

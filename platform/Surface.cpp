@@ -87,10 +87,6 @@ class Stroke {
     Wide reach = 0;
 };
 
-constexpr std::uint32_t ToPixel(Colour colour) {
-    return 0xFF000000U | (colour & 0x0000FFU) << 16 | (colour & 0x00FF00U) | (colour & 0xFF0000U) >> 16;
-}
-
 constexpr PixelBox kWholeSurface{0, 0, Surface::kWidth, Surface::kHeight};
 
 constexpr std::size_t kMostDamageBoxes = 512;  // beyond that one box round all is cheaper to show
@@ -109,7 +105,7 @@ void Surface::Line(int x1, int y1, int x2, int y2, Colour colour, int width) {
     if (width <= 0) return;
     if (pixels.empty()) pixels.assign(static_cast<std::size_t>(kWidth) * kHeight, kUnpainted);
     const Stroke stroke(x1, y1, x2, y2, width);
-    const std::uint32_t pixel = ToPixel(colour);
+    const std::uint32_t pixel = PixelOf(colour);
     const int top = std::max(std::min(y1, y2) - width / 2, 0);
     const int bottom = std::min(std::max(y1, y2) + width / 2, kHeight - 1);
     for (int y = top; y <= bottom; ++y) {

@@ -7,7 +7,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr int kTicksATurn = 64;  // far more than six timers need to make up for lateness below their intervals
+constexpr int kTicksPerTurn = 64;  // far more than six timers need to make up for lateness below their intervals
 
 }  // namespace
 
@@ -30,6 +30,10 @@ void TimerWheel::StopAll() {
     for (State& state : states) state.isOn = false;
 }
 
+std::int64_t TimerWheel::MomentInMilliseconds() const {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Moment()).count();
+}
+
 int TimerWheel::Interval(Timer timer) const {
     const Nanoseconds interval = states[static_cast<std::size_t>(timer)].interval;
     return static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(interval).count());
@@ -49,17 +53,17 @@ std::optional<Nanoseconds> TimerWheel::NextDue() const {
     return states[static_cast<std::size_t>(*first)].due;
 }
 
-void TimerWheel::Look() {
-    lastLook = time.Now();
+void TimerWheel::ReadClock() {
+    lastReading = time.Now();
     if (time.StandsStill()) return;
     const bool isStalled = std::ranges::any_of(
-        states, [this](const State& state) { return state.MayTick() && lastLook - state.due >= state.interval; });
-    if (isStalled) StallUntil(*NextDue());
+        states, [this](const State& state) { return state.MayTick() && lastReading - state.due >= state.interval; });
+    if (isStalled) StallFrom(*NextDue());
 }
 
-void TimerWheel::StallUntil(Nanoseconds moment) {
-    time.Stall(lastLook - moment);
-    lastLook = moment;
+void TimerWheel::StallFrom(Nanoseconds moment) {
+    time.Stall(lastReading - moment);
+    lastReading = moment;
 }
 
 bool TimerWheel::TickDue() { return TickWithin(std::nullopt); }
@@ -67,11 +71,11 @@ bool TimerWheel::TickDue() { return TickWithin(std::nullopt); }
 // Without a limit, all that is due by game time.
 bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
     for (int ticks = 0;; ++ticks) {
-        Look();
+        ReadClock();
         const std::optional<Nanoseconds> due = NextDue();
-        if (!due || *due > limit.value_or(lastLook)) return ticks > 0;
-        if (ticks == kTicksATurn) {
-            StallUntil(*due - Nanoseconds(1));  // the next turn begins with it
+        if (!due || *due > limit.value_or(lastReading)) return ticks > 0;
+        if (ticks == kTicksPerTurn) {
+            StallFrom(*due - Nanoseconds(1));  // the next turn begins with it
             return true;
         }
         Tick(*First(), *due);
@@ -79,7 +83,7 @@ bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
 }
 
 void TimerWheel::RenewMoment() {
-    if (running) running = Handler{.moment = time.Now(), .hasLetEventsRun = true};
+    if (running) running = Handler{.moment = WholeMilliseconds(time.Now()), .hasLetEventsRun = true};
 }
 
 void TimerWheel::TickFirst() { Tick(*First(), time.Now()); }

@@ -1,7 +1,7 @@
 // The six timers on game time, and the moments of all handlers. A handler has one moment: that of a tick is the time at
-// which it was due, that of everything else is game time as it begins. What a handler starts or re-times counts from
-// its moment, so timers that are started together fall due together, however long the handler takes and however late it
-// is.
+// which it was due, that of everything else is game time as it begins, less what it has above a whole millisecond. What
+// a handler starts or re-times counts from its moment, so timers that are started together fall due together, however
+// long the handler takes and however late it is, and every due time is a whole millisecond that a text can name.
 #pragma once
 
 #include <array>
@@ -27,9 +27,12 @@ class TimerWheel {
     void SetInterval(Timer timer, int milliseconds);
     void StopAll();
 
+    // Game time, in milliseconds, of the handler that is running.
+    std::int64_t MomentInMilliseconds() const;
+
     bool IsOn(Timer timer) const { return states[static_cast<std::size_t>(timer)].isOn; }
     int Interval(Timer timer) const;  // milliseconds
-    // The earliest game time at which a timer is due that may tick: one that runs, has an interval above 0, and whose
+    // The earliest game time at which a timer is due that may tick: one that is on, has an interval above 0, and whose
     // handler is not running. Nothing if there is none, and while game time stands still.
     std::optional<Nanoseconds> NextDue() const;
 
@@ -38,20 +41,21 @@ class TimerWheel {
     // Lets all that is due tick, in the order of due times, at the same time in the order of Timer. Before each tick
     // the clock is read once; if a timer that may tick is late by its interval or more, the lateness of the one that is
     // due first becomes a stall. Where ticks take longer than their timers' intervals a turn ends after some of them.
-    // While game time stands still nothing ticks. Whether anything did.
+    // While game time stands still nothing ticks. Returns whether anything did.
     bool TickDue();
 
     // Runs the handler of an input, an activation or the like, after all that was due by then has ticked.
     template <typename Call>
     void Handle(Call handler) {
         TickDue();
-        const Running handling(*this, lastLook);
+        const Running handling(*this, WholeMilliseconds(lastReading));
         handler();
     }
 
     // For a handler that lets events run. The first time only what is due within 1 ms of its moment ticks, and
-    // `takeInput` is not called; later all that is due ticks, then `takeInput` is called, which may Handle what there
-    // is and tells whether there was anything. Afterwards the handler's moment is game time. Whether anything was done.
+    // `takeInput` is not called; later all that is due ticks, then `takeInput` is called, which may Handle pending
+    // input and returns whether there was any. Afterwards the handler's moment is game time. Returns whether anything
+    // was done.
     template <typename TakeInput>
     bool LetEventsRun(TakeInput takeInput) {
         const bool isFirst = running && !running->hasLetEventsRun;
@@ -66,9 +70,9 @@ class TimerWheel {
 
     // --- For a clock that is moved by hand and never late.
 
-    // Lets the timer that is due first tick, of which there must be one. The tick's moment is game time.
+    // Lets the timer that is due first tick; there must be one. The tick's moment is game time.
     void TickFirst();
-    // Calls a timer's handler at game time, due or not; it counts as running, and its due time stays.
+    // Calls a timer's handler at game time, whether or not it is due; it counts as running, and its due time stays.
     void Fire(Timer timer) { CallHandler(timer, time.Now()); }
 
   private:
@@ -104,12 +108,15 @@ class TimerWheel {
     };
 
     State& Of(Timer timer) { return states[static_cast<std::size_t>(timer)]; }
-    Nanoseconds Moment() const { return running ? running->moment : time.Now(); }
+    static Nanoseconds WholeMilliseconds(Nanoseconds gameTime) {
+        return std::chrono::floor<std::chrono::milliseconds>(gameTime);
+    }
+    Nanoseconds Moment() const { return running ? running->moment : WholeMilliseconds(time.Now()); }
     std::optional<Timer> First() const;
-    // Reads the clock into lastLook, and leaves out a stall.
-    void Look();
-    // Makes what lies between `moment` and the last look a stall.
-    void StallUntil(Nanoseconds moment);
+    // Reads the clock into lastReading, and leaves out a stall.
+    void ReadClock();
+    // Makes the time from `moment` to the last reading a stall.
+    void StallFrom(Nanoseconds moment);
     bool TickWithin(std::optional<Nanoseconds> limit);
     void Tick(Timer timer, Nanoseconds moment);
     void CallHandler(Timer timer, Nanoseconds moment);
@@ -118,7 +125,7 @@ class TimerWheel {
     std::array<State, kTimerCount> states;
     std::function<void(Timer)> tick;
     std::optional<Handler> running;
-    Nanoseconds lastLook{0};
+    Nanoseconds lastReading{0};
 };
 
 }  // namespace prismfall

@@ -27,9 +27,9 @@ struct WindowHandlers {
     std::function<void()> doubleClick;  // the second press of a double click, in place of mouseDown
     std::function<void(std::int16_t code)> keyDown;
     std::function<void(bool minimised)> resize;
-    std::function<void()> queryUnload;  // the window may be about to go; can come more than once, as where a hidden
+    std::function<void()> queryUnload;  // the window may be about to close; can come more than once, as where a hidden
                                         // page may never be seen again
-    std::function<void()> unload;       // the window goes
+    std::function<void()> unload;       // the window closes
     std::function<void(Element&)> elementMove;
     std::function<void(Element&, MouseButton button, float x, float y)> elementDown;
     std::function<void(Element&)> elementClick;  // press and release of the left button on the same element
@@ -44,7 +44,7 @@ struct Window {
     bool isDialog = false;        // a small frame without minimise and maximise boxes
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
-    bool takesInput = true;          // without it the close box alone works
+    bool takesInput = true;          // if false, only the close box works
     std::vector<Element*> elements;  // stacking order, later ones on top
     WindowHandlers on;
 
@@ -52,16 +52,16 @@ struct Window {
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    // Takes elements into the window's own keeping, on top of those it has, once.
+    // Takes ownership of the elements and puts them on top. Call once.
     void Own(std::vector<Element> table) {
         owned = std::move(table);
         for (Element& element : owned) elements.push_back(&element);
     }
 
-    // Of a dialog that stands: the end of its ShowModally, once the handler that calls this has ended.
+    // Ends an open dialog's ShowModally when the calling handler returns.
     void Hide() { visible = false; }
 
-    // The element of that name, or nothing.
+    // The element of that name, or null.
     Element* Find(std::string_view elementName) {
         for (Element* element : elements)
             if (element->name == elementName) return element;
@@ -75,7 +75,7 @@ struct Window {
         std::abort();
     }
 
-    // The topmost element at a place that the mouse can meet, or nothing for the surface.
+    // The topmost element at a place that takes the mouse, or null for the surface.
     Element* ElementAt(float x, float y) {
         const auto covers = [x, y](const Element* element) { return Covers(*element, x, y); };
         const auto topmost = std::find_if(elements.rbegin(), elements.rend(), covers);
@@ -84,9 +84,9 @@ struct Window {
 
   private:
     static bool Covers(const Element& element, float x, float y) {
-        if (!IsThereForMouse(element)) return false;
-        const float left = element.left + (element.panel != nullptr ? element.panel->left : 0);
-        const float top = element.top + (element.panel != nullptr ? element.panel->top : 0);
+        if (!TakesMouse(element)) return false;
+        const float left = LeftInWindow(element);
+        const float top = TopInWindow(element);
         return x >= left && x < left + static_cast<float>(element.width) && y >= top &&
                y < top + static_cast<float>(element.height);
     }

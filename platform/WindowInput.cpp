@@ -57,7 +57,7 @@ void WindowInput::Press(Window& window, MouseButton button, const PressPlace& pl
     if (button == MouseButton::Left) {
         const bool isSecond =
             last.isFirst && place.time - last.place.time <= doubleClickTime && IsNearLast(window, place);
-        const Met first = std::exchange(last, {&window, element, place, !isSecond});
+        const Reached first = std::exchange(last, {&window, element, place, !isSecond});
         pressed = nullptr;
         if (isSecond && (first.window != &window || first.element != element)) return;
         if (isSecond && element == nullptr) return DoubleClickSurface(window);
@@ -65,9 +65,7 @@ void WindowInput::Press(Window& window, MouseButton button, const PressPlace& pl
         pressed = element;
     }
     if (element == nullptr) return PressSurface(window, button, place.x, place.y);
-    const float x = place.x - element->left - (element->panel != nullptr ? element->panel->left : 0);
-    const float y = place.y - element->top - (element->panel != nullptr ? element->panel->top : 0);
-    PressOn(window, *element, button, x, y);
+    PressOn(window, *element, button, place.x - LeftInWindow(*element), place.y - TopInWindow(*element));
 }
 
 void WindowInput::Release(Window& window, MouseButton button, float x, float y) {
@@ -91,7 +89,7 @@ void WindowInput::DoubleClickSurface(const Window& window) const {
 }
 
 void WindowInput::PressOn(const Window& window, Element& element, MouseButton button, float x, float y) const {
-    if (!HasInput(window) || !IsThereForMouse(element)) return;
+    if (!HasInput(window) || !TakesMouse(element)) return;
     if (window.on.elementDown) window.on.elementDown(element, button, x, y);
 }
 
@@ -102,7 +100,7 @@ void WindowInput::PressAndClick(const Window& window, Element& element) const {
 }
 
 void WindowInput::Click(const Window& window, Element& element) const {
-    if (!HasInput(window) || !HasClick(element) || !IsThereForMouse(element)) return;
+    if (!HasInput(window) || !HasClick(element) || !TakesMouse(element)) return;
     if (window.on.elementClick) window.on.elementClick(element);
 }
 

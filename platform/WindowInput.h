@@ -1,6 +1,6 @@
-// The one way from the pointer and the keyboard to the handlers of windows: which window may have input, what a press
-// meets, what makes a click, and what becomes of the second press of a double click. It knows nothing of where events
-// come from; what it does not let through has no effect at all.
+// The one way from the pointer and the keyboard to the handlers of windows: which window gets input, what a press
+// reaches, what makes a click, and what the second press of a double click does. It knows nothing of where events come
+// from; what it does not let through has no effect at all.
 #pragma once
 
 #include <cstdint>
@@ -16,8 +16,8 @@ struct PressPlace {
     float x = 0;  // in the window's inner area
     float y = 0;
     std::uint32_t time = 0;  // milliseconds, may wrap
-    // Where the window's inner area begins on the desktop, so that presses in two windows can be compared; nothing
-    // where the desktop does not tell, and then any two presses in different windows are near each other.
+    // Where the window's inner area begins on the desktop, so that presses in two windows can be compared; nothing if
+    // the desktop does not say, and then any two presses in different windows are near each other.
     std::optional<Place> origin = {};
 };
 
@@ -26,38 +26,38 @@ class WindowInput {
     explicit WindowInput(int doubleClickMilliseconds = 500)
         : doubleClickTime(static_cast<std::uint32_t>(doubleClickMilliseconds)) {}
 
-    // --- The windows that stand, the latest in front. That one alone gets input, as long as it is visible and takes
-    // it.
+    // --- The open windows, the latest in front. Only that one gets input, as long as it is visible and takes it.
 
     void Open(Window& window);
     void Close(const Window& window);
-    // The window in front, or nothing.
+    // The window in front, or null.
     Window* Front() const { return windows.empty() ? nullptr : windows.back(); }
 
     // --- What the player does, for a backend that knows places and times. Every button but the left one acts as the
     // right one; a backend translates it so.
 
     void Move(Window& window, float x, float y) const;
-    // The second press of a double click reaches nothing if it meets something else than the first, or the same element
-    // again, unless that takes fast presses. On the same surface it is a double click. A third is a press again.
+    // The second press of a double click reaches nothing if it is on something else than the first, or on the same
+    // element again, unless that takes fast presses. On the same surface it is a double click. A third is a press
+    // again.
     void Press(Window& window, MouseButton button, const PressPlace& place);
     // A left press and its release on the same element are a click.
     void Release(Window& window, MouseButton button, float x, float y);
     void Key(const Window& window, std::int32_t code) const;
 
-    // --- The same, where it is known already what is met and that it is no second press.
+    // --- The same, where it is already known what a press reaches and that it is no second press.
 
     void PressSurface(const Window& window, MouseButton button, float x, float y) const;
     void DoubleClickSurface(const Window& window) const;
-    // `x` and `y` are places in the element. Nothing happens at one that is not there for the mouse.
+    // `x` and `y` are places in the element. Nothing happens at one that ignores the mouse.
     void PressOn(const Window& window, Element& element, MouseButton button, float x, float y) const;
     // Left button, press and release. Nothing happens, not even a press, at an element that has no click.
     void PressAndClick(const Window& window, Element& element) const;
 
   private:
-    struct Met {
+    struct Reached {
         const Window* window = nullptr;
-        const Element* element = nullptr;  // nothing for the surface
+        const Element* element = nullptr;  // null for the surface
         PressPlace place;
         bool isFirst = false;  // of a possible double click
     };
@@ -69,7 +69,7 @@ class WindowInput {
     std::uint32_t doubleClickTime;
     std::vector<Window*> windows;
     Element* pressed = nullptr;  // by the left button, in the window in front
-    Met last;                    // left press
+    Reached last;                // left press
 };
 
 }  // namespace prismfall

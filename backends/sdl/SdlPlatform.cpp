@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 
 #include "backends/sdl/desktop/DesktopHints.h"
 #include "backends/sdl/desktop/MessageBox.h"
@@ -35,6 +36,12 @@ constexpr std::array<Hint, 7> kHints = {{
 // The largest pictures of the first screen, read while the display is being opened.
 constexpr std::array<std::string_view, 2> kEarlyPictures = {"Background", "ImagePrismfall"};
 
+// Another one at each start of the program.
+std::uint64_t DrawStartNumber() {
+    std::random_device source;
+    return std::uint64_t{source()} << 32 | source();
+}
+
 }  // namespace
 
 std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pictures, std::string& failure) {
@@ -51,7 +58,8 @@ std::unique_ptr<SdlPlatform> SdlPlatform::Create(const std::filesystem::path& pi
 SdlPlatform::SdlPlatform(PictureStore pictures)
     : desktop(
           std::move(pictures), [this] { CloseProgram(); }, [this] { audio.DeviceLost(); }),
-      settings(SettingsFile::UsersFile()) {
+      settings(SettingsFile::UsersFile()),
+      random(DrawStartNumber()) {
     SDL_AddEventWatch(NoteEndBySystem, this);
     if (SDL_HasEvent(SDL_QUIT) == SDL_TRUE) isEndedBySystem = true;
     WhenSessionEnds([this] {
@@ -174,15 +182,9 @@ std::int64_t SdlPlatform::Clock() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(EventLoop::Now()).count();
 }
 
-double SdlPlatform::Random() { return std::uniform_real_distribution<double>(0, 1)(generator); }
+double SdlPlatform::Random() { return random.Next(); }
 
-// What the generator has come to goes into the new state: two calls at the same moment differ.
-void SdlPlatform::SeedRandomFromClock() {
-    const auto now = static_cast<std::uint64_t>(EventLoop::Now().count());
-    std::seed_seq seed{static_cast<std::uint32_t>(generator()), static_cast<std::uint32_t>(now),
-                       static_cast<std::uint32_t>(now >> 32)};
-    generator.seed(seed);
-}
+void SdlPlatform::SeedRandomFromClock() { random.Seed(loop.Timers().MomentInMilliseconds()); }
 
 // The application's name has no place in the file: the file is this one application's.
 std::string SdlPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,

@@ -7,7 +7,6 @@
 #include <atomic>
 #include <filesystem>
 #include <memory>
-#include <random>
 #include <string>
 
 #include "backends/sdl/desktop/EventLoop.h"
@@ -15,6 +14,7 @@
 #include "backends/sdl/settings/SettingsFile.h"
 #include "backends/sdl/sound/SdlAudio.h"
 #include "platform/Platform.h"
+#include "platform/RandomNumbers.h"
 
 namespace prismfall {
 
@@ -83,7 +83,7 @@ class SdlPlatform final : public Platform {
     EventLoop loop{desktop, [this] { CloseProgram(); }};
     SdlAudio audio;
     SettingsFile settings;
-    std::mt19937 generator;
+    RandomNumbers random;
     Window* main = nullptr;
     std::atomic<bool> isEndedBySystem = false;  // events are noted on the thread that they come from
     bool isFailedSaveTold = false;

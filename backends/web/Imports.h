@@ -1,12 +1,14 @@
 // Everything that the program asks of the page, as functions of the module `page` that it imports, and the records that
-// pass between the two. page/source/program.ts is the other side: a change here is a change there.
+// pass between the two. page/source/program.ts and records.ts are the other side: a change here is a change there. The
+// page compares RecordSizes with its own when it starts, and the browser the functions.
 //
 // Types are WebAssembly's own: whole numbers of 32 bits, `float`, `double`, and addresses in the program's memory,
-// which the page reads before the call returns. Records are read field by field in the order in which they stand here,
-// without gaps. Places and sizes are game pixels, times milliseconds of the page's clock. A window is known by a number
-// that the program picks, 0 for the main window; an element by its place in the window's list.
+// which the page reads before the call returns. Records are read field by field in the order given here, without gaps.
+// Places and sizes are game pixels, times milliseconds of the page's clock. A window is known by a number that the
+// program picks, 0 for the main window; an element by its place in the window's list.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -88,6 +90,15 @@ struct Event {
     float y = 0;
 };
 
+// What the page must know as well: sizes in bytes, and how many kinds there are.
+struct RecordSizes {
+    std::int32_t window = sizeof(WindowRecord);
+    std::int32_t element = sizeof(ElementRecord);
+    std::int32_t event = offsetof(Event, y) + sizeof(Event::y);
+    std::int32_t elementKinds = static_cast<std::int32_t>(ElementKind::Outline) + 1;
+    std::int32_t eventKinds = static_cast<std::int32_t>(EventKind::Close) + 1;
+};
+
 #ifdef __wasm__
 #define PAGE_IMPORT(name) __attribute__((import_module("page"), import_name(name)))
 #else
@@ -103,11 +114,11 @@ PAGE_IMPORT("now") double Now();
 // Returns when the clock has reached `until`, when the page was hidden or shown again, and, if `forInput` is not 0, as
 // soon as there is an event to take. Lets the page go on even if there is nothing to wait for.
 PAGE_IMPORT("wait") void Wait(double until, std::int32_t forInput);
-// Takes the oldest event that waits. 0 if there is none.
+// Takes the oldest pending event. 0 if there is none.
 PAGE_IMPORT("takeEvent") std::int32_t TakeEvent(Event* event);
 // Whether nobody can see the page at present.
 PAGE_IMPORT("isHidden") std::int32_t IsHidden();
-// From 0 up to but not including 1.
+// From 0 up to but not including 1, another one at each start of the program.
 PAGE_IMPORT("random") double Random();
 
 // --- Windows.

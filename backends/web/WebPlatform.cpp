@@ -13,8 +13,9 @@ namespace {
 constexpr int kFullVolume = 1000;
 constexpr double kYieldRest = 1;  // milliseconds
 constexpr double kLongestWait = 60'000;
-constexpr std::size_t kRateAt = 28;    // in a wave file of plain samples: bytes a second
-constexpr std::size_t kLengthAt = 40;  // and bytes in all
+constexpr double kStartNumbers = 1LL << 53;  // as many as a random number of the page can tell apart
+constexpr std::size_t kRateAt = 28;          // in a wave file of plain samples: bytes a second
+constexpr std::size_t kLengthAt = 40;        // and bytes in all
 
 Nanoseconds PageTime() { return Nanoseconds(static_cast<std::int64_t>(page::Now() * 1e6)); }
 
@@ -47,7 +48,8 @@ SettingsText StoredSettings() {
 
 // --- The loop.
 
-WebPlatform::WebPlatform() : time(PageTime), timers(time) {}
+WebPlatform::WebPlatform()
+    : time(PageTime), timers(time), random(static_cast<std::uint64_t>(page::Random() * kStartNumbers)) {}
 
 void WebPlatform::Run(Window& mainWindow) {
     main = &mainWindow;
@@ -252,8 +254,6 @@ void WebPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
 void WebPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
 
 std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()); }
-
-double WebPlatform::Random() { return page::Random(); }
 
 // --- Settings. The page keeps them as one text, so that all of them are stored or none. Nothing can come between the
 // reading and the writing. The application's name has no place in the text: it is this one application's.

@@ -10,6 +10,7 @@
 #include "backends/web/Imports.h"
 #include "backends/web/ShownWindow.h"
 #include "platform/Platform.h"
+#include "platform/RandomNumbers.h"
 #include "platform/Surface.h"
 #include "platform/TimerWheel.h"
 #include "platform/WindowInput.h"
@@ -44,8 +45,8 @@ class WebPlatform final : public Platform {
 
     void LetEventsRun() override;
     std::int64_t Clock() override;
-    double Random() override;
-    void SeedRandomFromClock() override {}  // the browser has seen to that
+    double Random() override { return random.Next(); }
+    void SeedRandomFromClock() override { random.Seed(timers.MomentInMilliseconds()); }
 
     std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view fallback) override;
@@ -86,6 +87,7 @@ class WebPlatform final : public Platform {
     WindowInput input;
     GameTime time;
     TimerWheel timers;
+    RandomNumbers random;
     bool ended = false;
     bool hidden = false;     // as the page was last seen
     bool minimised = false;  // as the main window was last told

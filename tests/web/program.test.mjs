@@ -4,6 +4,7 @@ import assert from 'node:assert';
 import { spawnSync } from 'node:child_process';
 import { readdirSync, readFileSync } from 'node:fs';
 import { test } from 'node:test';
+import { build } from 'esbuild';
 
 const native = (script) => spawnSync('build/release/prismfall-headless', { input: script, maxBuffer: 2 ** 28 });
 const wasm = (script) =>
@@ -30,4 +31,19 @@ test('solutions in WebAssembly', () => {
     const [expected, run] = [native(script), wasm(script)].map(({ stdout }) => stdout.toString());
     assert.equal(expected.match(/dialog VPuzzleResult solved/g).length, 90);
     assert.ok(run === expected, 'the two print the same');
+});
+
+test('the program and the page agree on their records, or the page stops', async () => {
+    const built = await build({ entryPoints: ['backends/web/page/source/records.ts'], format: 'esm', write: false });
+    const source = Buffer.from(built.outputFiles[0].contents).toString('base64');
+    const { checkRecords } = await import(`data:text/javascript;base64,${source}`);
+    const module = new WebAssembly.Module(readFileSync('build/wasm/programs/prismfall.wasm'));
+    const imports = {};
+    for (const { module: from, name } of WebAssembly.Module.imports(module))
+        imports[from] = { ...imports[from], [name]: () => 0 };
+    const { exports: program } = new WebAssembly.Instance(module, imports);
+    const sizes = program.recordSizes();
+    checkRecords(program.memory, sizes);
+    new Int32Array(program.memory.buffer, sizes)[1] += 4; // a field more than the page knows
+    assert.throws(() => checkRecords(program.memory, sizes), /does not fit this page \(element/);
 });

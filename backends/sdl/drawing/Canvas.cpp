@@ -33,10 +33,6 @@ float DistanceToStroke(float x, float y, float x1, float y1, float x2, float y2)
 
 }  // namespace
 
-std::uint32_t PixelOf(Colour colour) {
-    return 0xFF000000 | ((colour & 0xFF) << 16) | (colour & 0xFF00) | ((colour >> 16) & 0xFF);
-}
-
 std::uint32_t WithOpacity(std::uint32_t pixel, std::uint32_t opacity) {
     return Mix(0, pixel, opacity + (opacity >> 7));
 }

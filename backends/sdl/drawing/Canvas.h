@@ -11,8 +11,6 @@
 
 namespace prismfall {
 
-// 0xBBGGRR as an opaque pixel.
-std::uint32_t PixelOf(Colour colour);
 // A pixel made more transparent: `opacity` is from 0, which leaves nothing, to 255, which changes nothing.
 std::uint32_t WithOpacity(std::uint32_t pixel, std::uint32_t opacity);
 

@@ -114,9 +114,7 @@ void Display::SetScale(float newScale) {
 int Display::Pixels(float gamePixels) const { return static_cast<int>(std::nearbyint(gamePixels * scale)); }
 
 PixelBox WholeBox(const Element& element, const Display& display) {
-    const float left = element.left + (element.panel != nullptr ? element.panel->left : 0);
-    const float top = element.top + (element.panel != nullptr ? element.panel->top : 0);
-    const PixelBox corner{display.Pixels(left), display.Pixels(top), 0, 0};
+    const PixelBox corner{display.Pixels(LeftInWindow(element)), display.Pixels(TopInWindow(element)), 0, 0};
     return {corner.left, corner.top, corner.left + display.Pixels(static_cast<float>(element.width)),
             corner.top + display.Pixels(static_cast<float>(element.height))};
 }

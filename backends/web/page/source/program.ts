@@ -4,7 +4,7 @@
 import { build } from './build';
 import type { Music } from './music';
 import type { Notices } from './notices';
-import { decodeText, readElement, readWindow, writeEvent } from './records';
+import { checkRecords, decodeText, readElement, readWindow, writeEvent } from './records';
 import type { Settings } from './settings';
 import type { Sounds } from './sound';
 import type { Surface } from './surface';
@@ -25,6 +25,7 @@ interface Exports {
     readonly memory: WebAssembly.Memory;
     readonly _initialize: () => void;
     readonly run: () => void;
+    readonly recordSizes: () => number;
     readonly suspendedStack: () => number;
     readonly asyncify_start_unwind: (stack: number) => void;
     readonly asyncify_stop_unwind: () => void;
@@ -144,5 +145,6 @@ async function instantiate(
     const program = instance.exports as unknown as Exports;
     const memory = program.memory;
     program._initialize();
+    checkRecords(memory, program.recordSizes());
     return program;
 }

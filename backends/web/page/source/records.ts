@@ -3,11 +3,17 @@
 /** Reads fields of four bytes, one after the other. */
 class FieldReader {
     private readonly view: DataView;
-    private at: number;
 
-    constructor(memory: WebAssembly.Memory, address: number) {
+    constructor(
+        memory: WebAssembly.Memory,
+        private at: number,
+    ) {
         this.view = new DataView(memory.buffer);
-        this.at = address;
+    }
+
+    /** The address behind the fields that were read. */
+    end(): number {
+        return this.at;
     }
 
     whole(): number {
@@ -55,7 +61,10 @@ export interface WindowRecord {
 }
 
 export function readWindow(memory: WebAssembly.Memory, address: number): WindowRecord {
-    const field = new FieldReader(memory, address);
+    return windowFrom(new FieldReader(memory, address));
+}
+
+function windowFrom(field: FieldReader): WindowRecord {
     return {
         isDialog: field.flag(),
         left: field.whole(),
@@ -133,7 +142,10 @@ function readSpot(field: FieldReader): SpotRecord {
 }
 
 export function readElement(memory: WebAssembly.Memory, address: number): ElementRecord {
-    const field = new FieldReader(memory, address);
+    return elementFrom(new FieldReader(memory, address));
+}
+
+function elementFrom(field: FieldReader): ElementRecord {
     return {
         kind: field.whole(),
         panel: field.whole(),
@@ -186,4 +198,32 @@ export function writeEvent(memory: WebAssembly.Memory, address: number, event: P
     view.setInt32(16, event.number, true);
     view.setFloat32(20, event.x, true);
     view.setFloat32(24, event.y, true);
+}
+
+const eventSize = 28;
+
+/** What the program and the page must agree on, in the order of RecordSizes. */
+function ownSizes(): Record<string, number> {
+    const size = (read: (field: FieldReader) => unknown) => {
+        const field = new FieldReader(new WebAssembly.Memory({ initial: 1 }), 0);
+        read(field);
+        return field.end();
+    };
+    const count = (kinds: object) => Object.keys(kinds).length / 2;
+    return {
+        window: size(windowFrom),
+        element: size(elementFrom),
+        event: eventSize,
+        'kinds of elements': count(Kind),
+        'kinds of events': count(EventKind),
+    };
+}
+
+/** Throws if the program at hand was built for another page. */
+export function checkRecords(memory: WebAssembly.Memory, address: number): void {
+    const field = new FieldReader(memory, address);
+    for (const [name, size] of Object.entries(ownSizes())) {
+        const built = field.whole();
+        if (built !== size) throw new Error(`The program does not fit this page (${name}: ${built} for ${size}).`);
+    }
 }

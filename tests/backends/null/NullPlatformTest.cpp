@@ -1,0 +1,36 @@
+// A game on the backend that a port begins with: all of the contract that the game leans on is there.
+#include "backends/null/NullPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include "game/MainWindow.h"
+
+namespace prismfall {
+namespace {
+
+TEST(NullPlatform, PlaysAnArcadeGameToItsEnd) {
+    NullPlatform machine;
+    VMain main(machine);
+    MakeMainWindow(main);
+    machine.Open(main.window);
+    EXPECT_EQ(main.GameMode, Mode::PuzzleGame) << "the first run begins with the tutorial, behind About";
+    machine.Do([&](WindowInput& input) {
+        input.Key(main.window, kEscapeKey);
+        input.Key(main.window, kEscapeKey);
+        input.PressAndClick(main.window, main.CommandArcade);
+    });
+    machine.Run(5000);
+    EXPECT_EQ(main.field.Lines.size(), 5U) << "three to begin with, and two of the timer's";
+    const CLine& newest = *main.field.Lines.back();
+    const Heading before = newest.Direction;
+    machine.Do(
+        [&](WindowInput& input) { input.PressSurface(main.window, MouseButton::Left, newest.XEnd, newest.YEnd); });
+    EXPECT_EQ(newest.Direction, TurnedRound(before)) << "bent in the entry zone";
+    machine.Run(120'000);
+    EXPECT_EQ(main.GameMode, Mode::MainMenu) << "nobody kept the beams off the ground";
+    machine.Do([&](WindowInput& input) { input.Key(main.window, kEscapeKey); });
+    EXPECT_TRUE(machine.HasEnded());
+}
+
+}  // namespace
+}  // namespace prismfall
