@@ -1,4 +1,4 @@
-// The state machine of the program: which screen stands, whether a game is in progress, and which of its timers run.
+// The state machine of the program: which screen is shown, whether a game is in progress, and which of its timers run.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ void CommandArcade_Click(VMain& main);
 // Takes a solution replay over, starts a puzzle that waits, or lays the puzzle out anew.
 void CmdStart_Click(VMain& main);
 
-// Pauses or resumes, with the music. Does nothing while a tutorial picture stands.
+// Pauses or resumes, with the music. Does nothing while a tutorial picture is shown.
 void cmdPause_Click(VMain& main);
 
 // One step up: from a game to its menu, dropping the game, with the intro music; from the puzzle menu to the main menu;

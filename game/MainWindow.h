@@ -9,7 +9,7 @@ namespace prismfall {
 // before the window is seen.
 void Form_Load(VMain& main);
 
-// The window is about to close by its close box: saves the settings as they stand.
+// The window is about to close by its close box: saves the settings as they are.
 void Form_QueryUnload(VMain& main);
 void Form_Unload(VMain& main);
 

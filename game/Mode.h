@@ -1,4 +1,4 @@
-// The modes of the game by name. What each is like stands in Modes.h.
+// The modes of the game by name. Modes.h says what each is like.
 #pragma once
 
 #include <cstdint>

@@ -9,7 +9,7 @@
 namespace prismfall {
 
 // Fires, for each growing beam, the first step of the script that names the beam's number and the exact height of its
-// head. Which steps have fired is not kept: a growing head stands at each height for one tick only.
+// head. Which steps have fired is not kept: a growing head is at each height for one tick only.
 void PlaySolutionStep(VMain& main, std::span<const SolutionStep> script);
 
 }  // namespace prismfall

@@ -74,7 +74,7 @@ CLine* FindBeam(const Field& field, std::int16_t number) {
     return beam == field.Lines.end() ? nullptr : *beam;
 }
 
-// After its bend the beam's number stands for two segments, of which only one grows.
+// After its bend two segments have the beam's number, and only one of them grows.
 CLine* FindGrowingBeam(const Field& field, std::int16_t number) {
     const auto beam = std::ranges::find_if(field.Lines, [number](const CLine* line) {
         return line->PuzzleLineNr == number && line->RunMode == Motion::Growing;
@@ -100,7 +100,7 @@ void ActForPlayer(VMain& main) {
     if (main.TutorialStep == 7) SpeedUpForPlayer(main);
 }
 
-// The pause button is dead while a picture stands, so the picture must do its work. The music has come back with the
+// The pause button is dead while a picture is shown, so the picture must do its work. The music has come back with the
 // window.
 void EndPauseByMinimising(VMain& main) {
     main.GameRunning = true;

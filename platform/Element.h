@@ -79,7 +79,7 @@ struct Element {
     ButtonFaces faces = {};             // of a Button: what `picture` changes between
     std::string_view tag = {};          // which of its meanings a button has that has several
     Colour colour = kBlack;             // of text, marks and outlines
-    std::optional<Colour> ground = {};  // what a label stands on; without it the text lies on what is below
+    std::optional<Colour> ground = {};  // the background of a label; without one, what is below shows through
     Font font = {};
     bool wraps = false;    // break the text into lines at the box's right edge
     int fitHeight = 0;     // above 0 the text is set smaller than its font, if need be, to end within this height

@@ -47,8 +47,8 @@ class Platform : public SurfacePainter, public Chance, public SettingsKeeper {
     // main window is opened by whatever runs the backend; then its `activate` handler runs.
 
     // Shows a dialog that alone gets the input, runs its `activate`, and returns when a handler has hidden it or its
-    // close box was used; timers go on meanwhile. True if it was hidden, false if it was closed. True at once for a
-    // dialog that stands already.
+    // close box was used; timers go on meanwhile. True if it was hidden, false if it was closed. Returns true at once
+    // if the dialog is already open.
     virtual bool ShowModally(Window& dialog) = 0;
     // The size with the desktop's frame, the size within it, and the place of the frame's corner on the desktop.
     // A dialog that is not shown yet answers with the frame that it is expected to have.
@@ -57,7 +57,7 @@ class Platform : public SurfacePainter, public Chance, public SettingsKeeper {
     virtual Place Position(const Window& window) = 0;
     virtual void SetOuterSize(Window& window, Extent size) = 0;
     virtual void SetPosition(Window& window, Place place) = 0;
-    // An error box with an OK button; returns when the player has dismissed it. No timer ticks while it stands.
+    // An error box with an OK button; returns when the player has dismissed it. No timer ticks while it is open.
     virtual void ShowMessageBox(std::string_view text) = 0;
     // Ends the program at once. It may return where a program cannot end its own process, as in a browser; no handler
     // is called after that, and the caller has to return as well.

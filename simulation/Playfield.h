@@ -1,4 +1,4 @@
-// The playfield: where its walls, floor and lines lie, the colours of the beams, and how a beam is painted and erased.
+// The playfield: where its walls, floor and lines lie, the colors of the beams, and how a beam is painted and erased.
 // The surface keeps what was painted, so whoever changes a beam paints the change.
 #pragma once
 

@@ -9,7 +9,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr int kFirstSoundResource = 101;  // a sound's number is what its resource id stands above it
+constexpr int kFirstSoundResource = 101;  // less than a sound's id by its number
 constexpr int kCannotOpen = 1;
 
 constexpr Nanoseconds kLatest = Nanoseconds::max() / 2;  // of the clock; no script plays for so many years

@@ -36,7 +36,7 @@ class HeadlessPlatform : public Platform {
     // Forgets what belongs to one run of the program: timers, windows and surface. Clock, generator, queues and store
     // go on.
     void BeginRun();
-    // Lets a window stand in front, without its activation.
+    // Puts a window in front, without its activation.
     void Open(Window& window);
     bool HasEnded() const { return hasEnded; }
 

@@ -96,7 +96,7 @@ void SdlPlatform::CloseProgram() {
     EndProgram();
 }
 
-// Handlers may stand below this call, on data that the program's end must not touch: the process ends here, without
+// Handlers may be on the stack below this call, with data that the program's end must not touch: the process ends here, without
 // going back through them.
 void SdlPlatform::EndProgram() {
     desktop.HideAll();

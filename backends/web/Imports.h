@@ -131,9 +131,9 @@ PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t el
 PAGE_IMPORT("showPixels")
 void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
                 std::int32_t height);
-// One line under the picture. An empty one takes it away.
+// One line below the picture about saving. An empty one takes it away.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
-// An error box. It stands until the page reports Close for the window kMessageBox.
+// An error box. It stays until the page reports Close for the window kMessageBox.
 PAGE_IMPORT("openMessage") void OpenMessage(const char* text, std::uint32_t length);
 // The program has ended: the page dims the picture and offers to start anew.
 PAGE_IMPORT("endProgram") void EndProgram();

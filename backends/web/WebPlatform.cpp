@@ -207,7 +207,7 @@ Extent WebPlatform::OuterSize(const Window& window) { return WithFrame(InnerSize
 
 Extent WebPlatform::InnerSize(const Window& window) { return {window.innerWidth, window.innerHeight}; }
 
-// The main window's frame stands at the corner of its own desktop.
+// The main window's frame is at the corner of its own desktop.
 Place WebPlatform::Position(const Window& window) { return window.isDialog ? dialogPlace : Place{}; }
 
 void WebPlatform::SetOuterSize(Window& window, Extent size) {
@@ -260,9 +260,9 @@ std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()
 
 std::string WebPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
                                      std::string_view fallback) {
-    const auto values = StoredSettings().Values();
-    const auto found = values.find({std::string(section), std::string(key)});
-    return found == values.end() ? std::string(fallback) : found->second;
+    if (!readValues) readValues = StoredSettings().Values();
+    const auto found = readValues->find({std::string(section), std::string(key)});
+    return found == readValues->end() ? std::string(fallback) : found->second;
 }
 
 bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
@@ -274,11 +274,19 @@ bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
         return found->second;
     });
     for (const SettingValue& value : changed) text.Set(value.section, value.key, value.text);
+    readValues.reset();
     const std::string written = text.Text();
-    if (page::WriteSettings(written.data(), static_cast<std::uint32_t>(written.size())) != 0) return true;
+    const bool isWritten = page::WriteSettings(written.data(), static_cast<std::uint32_t>(written.size())) != 0;
+    TellOfSaving(isWritten);
+    return isWritten;
+}
+
+// The line goes when a save succeeds.
+void WebPlatform::TellOfSaving(bool isWritten) {
+    if (isWritten && !isFailedSaveTold) return;
+    isFailedSaveTold = !isWritten;
     constexpr std::string_view kNotice = "This browser does not let the game keep settings and scores.";
-    page::ShowNotice(kNotice.data(), static_cast<std::uint32_t>(kNotice.size()));
-    return false;
+    page::ShowNotice(kNotice.data(), isWritten ? 0 : static_cast<std::uint32_t>(kNotice.size()));
 }
 
 // --- Sound and music.

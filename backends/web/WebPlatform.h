@@ -3,8 +3,11 @@
 // waits.
 #pragma once
 
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "backends/web/Imports.h"
@@ -74,6 +77,7 @@ class WebPlatform final : public Platform {
     void Open(Window& window, Place place);
     void Refresh();
     void SendSurface();
+    void TellOfSaving(bool isWritten);
 
     Surface layer;
     std::vector<PixelBox> damage;
@@ -81,13 +85,16 @@ class WebPlatform final : public Platform {
 
     Window* main = nullptr;
     std::vector<std::unique_ptr<ShownWindow>> shown;  // the main window, then dialogs in the order of their opening
-    Place dialogPlace;                                // where the next dialog's frame will stand
+    Place dialogPlace;                                // where the next dialog's frame will be
     bool closeBoxUsed = false;                        // of the dialog in front
 
     WindowInput input;
     GameTime time;
     TimerWheel timers;
     RandomNumbers random;
+    std::optional<std::map<std::pair<std::string, std::string>, std::string>>
+        readValues;  // of the store, until it changes
+    bool isFailedSaveTold = false;
     bool ended = false;
     bool hidden = false;     // as the page was last seen
     bool minimised = false;  // as the main window was last told

@@ -1,4 +1,4 @@
-// Everything that stands in a window, as a list to be compared with layout.expected: places, texts, the faces of the
+// Everything in the windows, as a list to be compared with layout.expected: places, texts, the faces of the
 // buttons, and where the pictures of the tutorial can be pressed. The tests in a real window find their way by that
 // file.
 #include <gtest/gtest.h>

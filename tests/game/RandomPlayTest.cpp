@@ -55,7 +55,7 @@ class RandomPlayer : public TestGame {
         if (!isSolution) CmdStart_Click(*main);
     }
 
-    // On beams mostly. A bend of a beam that stands on a wall leads out of the field, so that is left out.
+    // On beams mostly. A bend of a beam that is on a wall leads out of the field, so that is left out.
     void Press() {
         int x = Number(0, 700), y = Number(0, 600);
         if (!main->field.Lines.empty() && Chance(90)) {

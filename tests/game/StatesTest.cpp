@@ -1,4 +1,4 @@
-// The state machine where the stories leave it out: what stands behind a dialog, and where its answers lead. A state
+// The state machine where the stories leave it out: what is behind a dialog, and where its answers lead. A state
 // looks like "MODE running C E D S P": C, E and D stand for the game's timers that run, S and P for the buttons
 // CmdStart and cmdPause that show.
 #include <gtest/gtest.h>
@@ -49,7 +49,7 @@ void Do(TestGame& game, const std::string& what) {
     }
 }
 
-// What is done, word by word; the last word's dialog is answered by the button, or closed; what stands behind it; and
+// What is done, word by word; the last word's dialog is answered by the button, or closed; what is behind it; and
 // after.
 constexpr char kDialogs[] = R"(
     CommandArcade lose       |                 | 3 P             | 0

@@ -76,7 +76,7 @@ TEST(LineDeleter, ABeamThatStandsTwiceLosesTwoSteps) {
     EXPECT_EQ(Places(main.field, main.field.DyingLines), "2 3 2");
     EXPECT_EQ(twice.Thicknes + game.Beam(3).Thicknes, 2 + 3);
     LineDeleter_Timer(main);
-    EXPECT_EQ(Places(main.field, main.field.DyingLines), "0 2") << "gone, but kept while it stands among the dying";
+    EXPECT_EQ(Places(main.field, main.field.DyingLines), "0 2") << "gone, but kept while it is among the dying";
     EXPECT_EQ(main.field.Beams.Count(), 3U);
     LineDeleter_Timer(main);
     EXPECT_EQ(Places(main.field, main.field.DyingLines), "2");

@@ -165,6 +165,11 @@ test('what cannot be had is told in a sentence, and the game goes on', async () 
     await game.click('Start');
     await notice(game, 'music');
     await game.untilMoved();
+    await game.click('Options');
+    await game.click('Music');
+    await game.until('the line to go', () => !document.getElementById('notice').textContent.includes('music'));
+    await game.click('OK');
+    await game.noDialog();
     await game.page.key('Escape');
     await game.page.key('Escape');
     await game.click('Exit');
@@ -175,6 +180,7 @@ test('what cannot be had is told in a sentence, and the game goes on', async () 
 
     for (const [prepare, sentence] of [
         ['delete globalThis.WebAssembly', 'lacks WebAssembly'],
+        ['delete globalThis.ResizeObserver', 'cannot run in this browser'],
         ['', 'could not be loaded'],
     ]) {
         missing = (path) => path.endsWith('.wasm');
@@ -183,6 +189,59 @@ test('what cannot be had is told in a sentence, and the game goes on', async () 
         await page.go(site.address);
         await new Game(page).until(sentence, (text) => document.body.textContent.includes(text), sentence);
     }
+});
+
+test('going back is Esc, closes a dialog, and leaves from the main menu with the music silent', async () => {
+    const prepare =
+        'HTMLMediaElement.prototype.play = function () { globalThis.player = this; return Promise.resolve(); };';
+    const game = await openGame({ settings: 'Music=True\n', prepare });
+    await game.click('Puzzle');
+    await game.press(345, 300);
+    await game.until('music', () => globalThis.player?.src.includes('mp3'));
+    await game.click('Options');
+    await game.dialog('Options');
+    const back = () => game.page.page.goBack().catch(() => undefined);
+    await back();
+    await game.noDialog();
+    await sleep(500);
+    await back();
+    await game.placeOf('Next page');
+    await sleep(500);
+    await back();
+    await game.placeOf('Puzzle');
+    await sleep(500);
+    await game.page.key('Escape');
+    await game.until('the end', () => document.querySelector('.ended') && !globalThis.player.hasAttribute('src'));
+    await game.click('Play again');
+    await sleep(1000);
+    await game.placeOf('Arcade');
+    await sleep(500);
+    await back();
+    for (let i = 0; i < 100 && game.page.page.url() !== 'about:blank'; ++i) await sleep(100);
+    assert.equal(game.page.page.url(), 'about:blank', 'the page is left');
+});
+
+test('a finger is the right button where the tutorial asks for it', async () => {
+    const game = await openGame({ size: [390, 780], deviceScaleFactor: 3, hasTouch: true, isMobile: true });
+    const tap = async (words) => game.page.tap(...(await game.placeOf(words)));
+    await tap('Puzzle');
+    await game.page.tap(...(await game.at(120, 120)));
+    await tap('Start');
+    for (const spot of [
+        'OK',
+        'The end of the red beam',
+        'OK',
+        'The end of the blue beam',
+        'OK',
+        'OK',
+        'The end of the red beam',
+        'OK',
+    ])
+        await tap(spot);
+    await game.until(
+        'the last picture to go',
+        () => ![...document.querySelectorAll('.spot')].some((n) => n.offsetParent),
+    );
 });
 
 /** The same page under another version's name. */
@@ -200,10 +259,21 @@ test('it starts without a network, and a new version comes as a whole at a start
     const { page } = game.page;
     const worker = async (is) => !!(await navigator.serviceWorker.getRegistration())?.[is];
     await game.until('the page to be kept', worker, 'active');
+    const caches = () => page.evaluate(() => caches.keys());
+    await page.evaluate(async () => (await caches.open('of another program')).add('icons/64.png'));
+    assert.deepEqual(
+        (await caches()).filter((name) => name.includes('music')),
+        [],
+        'music is off',
+    );
     missing = () => true;
     await page.reload();
     await game.click('Arcade');
     await game.untilMoved();
+    const other = await browser.newPage(profile);
+    await other.go(`${site.address}blog/`);
+    assert.equal(await other.evaluate(() => document.getElementById('picture')), null, 'other pages are left alone');
+    await other.page.close();
 
     makeNewVersion('build/web-tests/new');
     site.folder = 'build/web-tests/new';
@@ -220,4 +290,9 @@ test('it starts without a network, and a new version comes as a whole at a start
     const next = await openGame();
     await next.click('Arcade');
     assert.deepEqual(await next.page.evaluate(used), ['version-new']);
+    await next.until('the old version to be dropped', async () => {
+        const versions = (await caches.keys()).filter((name) => name.includes(' version-'));
+        return versions.length === 1 && versions[0].endsWith(' version-new');
+    });
+    assert.ok((await next.page.evaluate(() => caches.keys())).includes('of another program'));
 });

@@ -1,4 +1,4 @@
-"""Dialogs as windows of the desktop: whose they are, where they stand, how they close, and what they keep from the game."""
+"""Dialogs as windows of the desktop: whose they are, where they are placed, how they close, and what they keep from the game."""
 import harness
 import layout
 from desktop import holds_for, wait_for

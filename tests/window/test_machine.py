@@ -99,7 +99,7 @@ class Machine(harness.WindowTest):
     def test_settings_that_cannot_be_saved(self):
         settings = self.settings()
         settings.home.rmdir()
-        settings.home.write_text("A file stands where the folder should be.\n")
+        settings.home.write_text("A file is where the folder should be.\n")
         self.addCleanup(settings.home.unlink)
         for end in (lambda: run.press("CommandExit"), lambda: run.main.key("Escape"), lambda: run.main.use_close_box()):
             run = self.start(settings)

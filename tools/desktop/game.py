@@ -54,7 +54,7 @@ class Settings:
 
 
 class Game:
-    """A run of the program. It starts at once; `main` is its window when that stands."""
+    """A run of the program. It starts at once; `main` is its window once it is open."""
 
     def __init__(self, desktop, program, settings, folder, environment=None, shows_up=True, seconds=10):
         self.desktop = desktop

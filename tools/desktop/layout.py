@@ -1,4 +1,4 @@
-"""Where things stand in the game's windows, in pixels of their insides, read from what the game says of itself."""
+"""Where things are in the game's windows, in pixels of their insides, read from what the game says of itself."""
 import pathlib
 import re
 

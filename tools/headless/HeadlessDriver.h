@@ -1,5 +1,5 @@
 // Reads a script, a command a line, and runs the whole game by it on a headless platform. What happens is printed; a
-// line that cannot be carried out ends the run.
+// line that cannot be executed ends the run.
 #pragma once
 
 #include <istream>
@@ -19,7 +19,7 @@ class HeadlessDriver {
   public:
     explicit HeadlessDriver(std::ostream& output) : out(output), platform(output) {}
 
-    // Carries out one line. Why it cannot be carried out, or nothing if it was; what was printed before stands.
+    // Executes one line. Returns why it cannot be executed, or nothing; what was printed before stays.
     std::string Execute(std::string_view line);
 
   private:

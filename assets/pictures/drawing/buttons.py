@@ -1,6 +1,6 @@
 """Every button: a pill of glass with its word in neon, once at rest and once lit for the pointer over it.
 
-Buttons of one column have one width of pill, whatever the size of their pictures, and stand on one axis of the window.
+Buttons of one column have one width of pill, whatever the size of their pictures, and share one axis of the window.
 """
 
 from neon import PALE, SOFT, TUBE, WHITE, centred_text, document, gradient, rounded, stroke

@@ -72,7 +72,7 @@ GLYPHS = {
     "-": (3, "M0 -4 H3"),
 }
 
-# Pairs that stand too far apart at the common gap, and how much closer they go.
+# Pairs that are too far apart at the common gap, and how much closer they go.
 KERNING = {"Ta": 1.5, "Te": 1.5, "To": 1.5, "Tr": 1.5, "Tu": 0.5, "Ar": 0.5, "FA": 2, "AL": 0.5, "Yo": 1.5, "ry": 0.5}
 
 TOKEN = re.compile(r"[MLHVACZ]|-?\d+(?:\.\d+)?")

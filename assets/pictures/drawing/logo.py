@@ -17,7 +17,7 @@ LETTERS = "PRISMFALL"
 FIRST_LEFT, LAST_LEFT = 27.0, 517.0
 TUBE_WEIGHT = 1.25  # of the scale
 FIRST_SCALE, LAST_SCALE = 9.2, 6.3
-# Added to the even gap before each letter: open shapes stand closer.
+# Added to the even gap before each letter: open shapes are set closer.
 OPTICAL = (0, -1, 2, 2, 0, 4, -13, 0, 4)
 SPECTRUM = ("#a44dff", "#6a5cff", "#2f86ff", "#14bdf5", "#14cf8f", "#8edb2e", "#f4d52c", "#ff9326", "#ff4236")
 UNLIT = ("#551c1d", "#8a3534", "#cf8f88")

@@ -8,7 +8,7 @@ import re
 
 from lettering import number, text_path, text_width
 
-# The light of the house, from the dim glass of an unlit tube to its white-hot core.
+# The light of the frame, from the dim glass of an unlit tube to its white-hot core.
 ROOM = "#04060c"
 DIM = "#33507f"
 TUBE = "#2f6bff"

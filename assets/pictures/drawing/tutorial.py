@@ -17,7 +17,7 @@ LEFT, RIGHT = 1, 2
 
 
 class Step(NamedTuple):
-    """What stands on one picture."""
+    """What is on one picture."""
     place: tuple  # left, top on the playfield, width, height
     frame: tuple  # left, top, right, bottom of the white frame
     baseline: int  # of the first line

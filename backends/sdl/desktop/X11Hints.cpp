@@ -175,7 +175,7 @@ std::optional<float> ResourceDotsPerInch(Display* display) {
     return std::strtof(text, nullptr);
 }
 
-// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment goes before it.
+// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment takes precedence.
 // Where there can be no Wayland the library is not asked, since it complains on standard error.
 const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
 
@@ -211,7 +211,7 @@ void PrepareDesktop() { WatchEndSignals(); }
 bool OpenDisplay(std::string& failure) {
     SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
     // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
-    // until the first picture stands. Wayland's keyboards would complain of the empty table.
+    // until the first picture is shown. Wayland's keyboards would complain of the empty table.
     if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
     // Before SDL sets a handler of its own: that one asks this one, and gives way to it when the connections are
     // closed.

@@ -79,7 +79,7 @@ void DrawMarkedText(Canvas& canvas, const Element& element, const PixelBox& box,
     const int markTop = (box.top + box.bottom - size) / 2;
     const int textHeight = display.text.LineHeight(element.font);
     const int textTop = (box.top + box.bottom - textHeight) / 2;
-    // Boxes may overlap: the ground reaches no higher and lower than what stands on it.
+    // Boxes may overlap: the ground reaches no higher and lower than the text on it.
     canvas.Fill({box.left, std::min(markTop, textTop), box.right, std::max(markTop + size, textTop + textHeight)},
                 PixelOf(element.ground.value_or(kBlack)));
     const auto draw = element.kind == ElementKind::RadioButton ? DrawRadioMark : DrawCheckMark;

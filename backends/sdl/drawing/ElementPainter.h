@@ -1,4 +1,4 @@
-// Draws the elements of a window: where each stands on the display, and what each kind looks like.
+// Draws the elements of a window: where each is on the display, and what each kind looks like.
 #pragma once
 
 #include "backends/sdl/drawing/Canvas.h"

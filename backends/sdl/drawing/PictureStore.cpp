@@ -114,7 +114,7 @@ std::optional<Image> PictureStore::Make(const std::string& name) {
     if (const auto found = drawn.find(name); found != drawn.end()) return found->second(scale);
     Reading reading = ReadScaled(folder, scale, name);
     if (!reading.image && !std::exchange(reported, true))
-        std::fprintf(stderr, "prismfall: the picture %s in %s %s, its name stands in its place.\n", name.c_str(),
+        std::fprintf(stderr, "prismfall: the picture %s in %s %s, its name is shown instead.\n", name.c_str(),
                      folder.string().c_str(), reading.fault.c_str());
     return std::move(reading.image);
 }

@@ -40,7 +40,7 @@ int TextPainter::Pixels(const Font& font) const {
     return std::max(1, static_cast<int>(font.points * kPixelsPerPoint * scale + kInexactness));
 }
 
-_TTF_Font* TextPainter::Open(const Font& font, int pixels) {
+TTF_Font* TextPainter::Open(const Font& font, int pixels) {
     const Face face{font.family, font.bold, font.italic};
     auto found = faces.find(face);
     if (found == faces.end()) found = faces.emplace(face, Opened{Load(font), Pixels(font)}).first;
@@ -50,7 +50,7 @@ _TTF_Font* TextPainter::Open(const Font& font, int pixels) {
     return opened.font;
 }
 
-_TTF_Font* TextPainter::Load(const Font& font) {
+TTF_Font* TextPainter::Load(const Font& font) {
     if (TTF_WasInit() == 0 && TTF_Init() != 0) {
         Report("letters cannot be drawn");
         return nullptr;

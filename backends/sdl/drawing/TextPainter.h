@@ -1,6 +1,8 @@
 // Text on a canvas: opens the font of a family, and has SDL_ttf break lines and draw the letters.
 #pragma once
 
+#include <SDL_ttf.h>
+
 #include <map>
 #include <optional>
 #include <string_view>
@@ -9,8 +11,6 @@
 #include "backends/sdl/drawing/Canvas.h"
 #include "backends/sdl/drawing/FontFinder.h"
 #include "platform/Element.h"
-
-struct _TTF_Font;
 
 namespace prismfall {
 
@@ -40,14 +40,14 @@ class TextPainter {
   private:
     using Face = std::tuple<std::string_view, bool, bool>;
     struct Opened {
-        _TTF_Font* font = nullptr;
+        TTF_Font* font = nullptr;
         int pixels = 0;  // the size that it is set to
     };
 
     int Pixels(const Font& font) const;
     // The font, set to a size. Nothing if there is none.
-    _TTF_Font* Open(const Font& font, int pixels);
-    _TTF_Font* Load(const Font& font);
+    TTF_Font* Open(const Font& font, int pixels);
+    TTF_Font* Load(const Font& font);
     // The letters as their opacity, or nothing where there are none.
     std::optional<Image> Render(std::string_view text, const TextLayout& layout);
     void Report(const char* what);

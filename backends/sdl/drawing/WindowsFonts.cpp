@@ -17,7 +17,7 @@ namespace {
 
 struct Family {
     std::string_view name;
-    const wchar_t* used;  // the family of outlines that stands for one of bitmaps, or the family itself
+    const wchar_t* used;  // the outline family that replaces a bitmap one, or the family itself
     DWORD kind;           // what to look for where there is no such family
 };
 

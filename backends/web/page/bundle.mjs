@@ -67,6 +67,15 @@ rmSync(join(output, 'music'), { recursive: true });
 cpSync(staged, join(output, folder), { recursive: true });
 rmSync(staged, { recursive: true });
 const files = [...filesIn(join(output, folder)).map((file) => `${folder}/${file}`), `${folder}/page.js`];
-const known = { folder, music, tracks, files: [...files, 'manifest.webmanifest', 'icons/64.png', 'icons/256.png'] };
+const sounds = filesIn(join(root, 'assets/sounds'))
+    .flatMap((file) => /^(\d+)\.wav$/.exec(file)?.[1] ?? [])
+    .map(Number);
+const known = {
+    folder,
+    music,
+    tracks,
+    sounds,
+    files: [...files, 'manifest.webmanifest', 'icons/64.png', 'icons/256.png'],
+};
 await script('main.ts', `${folder}/page.js`, known);
 await script('../worker/service-worker.ts', 'service-worker.js', known);

@@ -5,7 +5,9 @@ export interface Build {
     /** The folder of the music, and the tracks in it. */
     readonly music: string;
     readonly tracks: readonly string[];
-    /** Everything that the page needs without a network, but for the music. */
+    /** The ids of the sounds, each a file in the folder `sounds` of this version. */
+    readonly sounds: readonly number[];
+    /** Everything that the page needs without a network, except the music. */
     readonly files: readonly string[];
 }
 

@@ -1,4 +1,4 @@
-// The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each stands
+// The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each is
 // at its place in game pixels; the window that holds them is scaled as a whole.
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
@@ -6,7 +6,7 @@ import { type ElementRecord, Kind, type SpotRecord } from './records';
 
 const pixelsPerPoint = 96 / 72;
 
-// What stands for the fonts of the game where they are not installed.
+// Replacements for the fonts of the game where they are not installed.
 const families: Readonly<Record<string, string>> = {
     'Times New Roman': '"Times New Roman", "Liberation Serif", Tinos, Times, serif',
     Arial: 'Arial, "Liberation Sans", Arimo, Helvetica, sans-serif',
@@ -59,17 +59,14 @@ class Shown {
 }
 
 export class Elements {
-    private readonly root: HTMLElement;
-    private readonly pictures: Pictures;
-    private readonly notices: Notices;
     private readonly shown: Shown[] = [];
     private readonly groups = new Map<string, HTMLElement>();
 
-    constructor(root: HTMLElement, pictures: Pictures, notices: Notices) {
-        this.root = root;
-        this.pictures = pictures;
-        this.notices = notices;
-    }
+    constructor(
+        private readonly root: HTMLElement,
+        private readonly pictures: Pictures,
+        private readonly notices: Notices,
+    ) {}
 
     show(place: number, record: ElementRecord): void {
         const element = (this.shown[place] ??= this.make(place, record));
@@ -132,7 +129,7 @@ export class Elements {
 
 function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): void {
     words.textContent = record.text;
-    // The ground of marked texts and frames reaches no further than what stands on it.
+    // The ground of marked texts and frames reaches no further than the text on it.
     (record.kind === Kind.Label ? node : words).style.backgroundColor = record.ground;
     if (record.kind === Kind.GroupFrame) node.style.backgroundColor = record.ground;
     node.style.fontFamily = families[record.family] ?? record.family;

@@ -1,5 +1,5 @@
-// Mouse, fingers and keys as events of the game. Which element a press meets is found out by the program; elements of the
-// page are asked only where a key or a screen reader clicks them.
+// Mouse, fingers and keys as events of the game. The program finds out which element a press is on; the page's own
+// elements matter only where a key or a screen reader clicks them.
 import { EventKind } from './records';
 import type { Waiting } from './waiting';
 
@@ -14,7 +14,7 @@ interface Held {
 }
 
 export class Input {
-    /** Whether a finger stands for the right button. */
+    /** Whether a finger acts as the right button. */
     fingersPressRight = false;
     private readonly fingers = new Map<number, Held & { readonly button: number }>();
     private readonly held = new Map<number, Held>();
@@ -22,8 +22,8 @@ export class Input {
 
     constructor(private readonly waiting: Waiting) {
         addEventListener('mouseup', (event) => this.release(event));
-        addEventListener('pointerup', (event) => this.liftFinger(event, false));
-        addEventListener('pointercancel', (event) => this.liftFinger(event, true));
+        addEventListener('pointerup', (event) => this.touchEnd(event, false));
+        addEventListener('pointercancel', (event) => this.touchEnd(event, true));
         addEventListener('keydown', (event) => this.key(event));
     }
 
@@ -31,7 +31,7 @@ export class Input {
         const held = { window, root };
         root.addEventListener('mousedown', (event) => this.press(event, held));
         root.addEventListener('mousemove', (event) => this.send(EventKind.Move, held, 0, event));
-        root.addEventListener('pointerdown', (event) => this.putFinger(event, held));
+        root.addEventListener('pointerdown', (event) => this.touchStart(event, held));
         root.addEventListener('contextmenu', (event) => event.preventDefault());
         root.addEventListener('click', (event) => this.click(event, held));
     }
@@ -48,19 +48,23 @@ export class Input {
         if (held) this.send(EventKind.Release, held, event.button === 0 ? leftButton : rightButton, event);
     }
 
-    /** A second finger is the right button, as is every finger while the switch says so; buttons want the left one. */
-    private putFinger(event: PointerEvent, held: Held): void {
+    /**
+     * A second finger is the right button, as is every finger while the switch says so, and one on a spot that asks for
+     * it; buttons want the left one.
+     */
+    private touchStart(event: PointerEvent, held: Held): void {
         if (event.pointerType !== 'touch') return;
         event.preventDefault();
         this.pressSeen = true;
         const isOnButton = event.target instanceof Element && event.target.closest('button:not(.spot), label') !== null;
-        const isRight = !isOnButton && (this.fingersPressRight || this.fingers.size > 0);
+        const isRight =
+            !isOnButton && (this.fingersPressRight || this.fingers.size > 0 || asksForRight(event, held.root));
         const button = isRight ? rightButton : leftButton;
         this.fingers.set(event.pointerId, { ...held, button });
         this.send(EventKind.Press, held, button, event);
     }
 
-    private liftFinger(event: PointerEvent, isLost: boolean): void {
+    private touchEnd(event: PointerEvent, isLost: boolean): void {
         const finger = this.fingers.get(event.pointerId);
         if (!finger) return;
         this.fingers.delete(event.pointerId);
@@ -68,7 +72,7 @@ export class Input {
         else this.send(EventKind.Release, finger, finger.button, event);
     }
 
-    /** Clicks that come of a press have been seen to already; the program alone says what is marked. */
+    /** Clicks caused by a press have already been handled; the program alone says what is marked. */
     private click(event: MouseEvent, held: Held): void {
         const target = event.target instanceof HTMLElement ? event.target : undefined;
         const element = target?.closest<HTMLElement>('[data-element]');
@@ -91,7 +95,11 @@ export class Input {
     private key(event: KeyboardEvent): void {
         if (event.key !== 'Escape') return;
         event.preventDefault();
-        if (!event.repeat) this.waiting.send(EventKind.Key, mainWindow, escapeCode);
+        if (!event.repeat) this.escape();
+    }
+
+    escape(): void {
+        this.waiting.send(EventKind.Key, mainWindow, escapeCode);
     }
 
     private send(
@@ -104,4 +112,13 @@ export class Input {
         const scale = box.width / root.offsetWidth;
         this.waiting.send(kind, window, number, (event.clientX - box.left) / scale, (event.clientY - box.top) / scale);
     }
+}
+
+/** Whether a finger is on a spot of the tutorial that has to be pressed with the right button. */
+function asksForRight({ clientX, clientY }: PointerEvent, root: HTMLElement): boolean {
+    return [...root.querySelectorAll<HTMLElement>('.spot')].some((spot) => {
+        const { left, top, right, bottom } = spot.getBoundingClientRect();
+        const isOn = clientX >= left && clientX < right && clientY >= top && clientY < bottom;
+        return isOn && Number(spot.dataset['button']) === rightButton;
+    });
 }

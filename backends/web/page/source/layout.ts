@@ -1,4 +1,4 @@
-// How large the game is on the page and where it stands: as large as fits, in one scale, letterboxed. Where a game pixel
+// How large the game is on the page and where it is: as large as fits, in one scale, letterboxed. Where a game pixel
 // comes out as a whole number of the display's, edges stay sharp.
 export const gameWidth = 802;
 export const gameHeight = 602;

@@ -5,7 +5,8 @@ import { Input } from './input';
 import { gameHeight, gameWidth, Layout } from './layout';
 import { Music } from './music';
 import { Notices } from './notices';
-import { keepForOffline, takeNewVersion } from './offline';
+import { connectBack } from './back';
+import { holdVersion, keepForOffline, takeNewVersion } from './offline';
 import { Pictures } from './pictures';
 import { loadProgram } from './program';
 import { Settings } from './settings';
@@ -28,6 +29,7 @@ async function start(): Promise<void> {
         loading.textContent = 'Prismfall cannot run in this browser, since it lacks WebAssembly.';
         return;
     }
+    holdVersion();
 
     const layout = new Layout(find('room', HTMLElement));
     const pictures = new Pictures(layout);
@@ -37,7 +39,7 @@ async function start(): Promise<void> {
     try {
         await Promise.all([pictures.loadFirst(report), program.then(report)]);
     } catch {
-        loading.textContent = 'Prismfall could not be loaded. Please see to the network and load the page again.';
+        loading.textContent = 'Prismfall could not be loaded. Check your connection and reload the page.';
         return;
     }
     if (await newVersion) {
@@ -51,20 +53,32 @@ async function start(): Promise<void> {
     const surface = new Surface(gameWidth, gameHeight);
     const windows = new Windows(layout, pictures, surface, notices, waiting, input, find('picture', HTMLElement));
     const sounds = new Sounds(notices);
-    const machine = { waiting, windows, surface, sounds, music: new Music(notices), settings: new Settings(), notices };
+    const music = new Music(notices);
+    const back = connectBack(windows, waiting, input);
+    const end = (sentence?: string) => {
+        music.close();
+        sounds.stop();
+        windows.end(sentence);
+        back.noteEnd();
+    };
+    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, end };
     connectControls(input, find('right', HTMLButtonElement), find('full', HTMLButtonElement));
     const run = (await program).run(machine);
-    void fetchTheRest(pictures, sounds);
+    void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {
         console.error(error);
-        windows.end('Prismfall has stopped because something went wrong in it.');
+        end('Prismfall has stopped because something went wrong in it.');
     });
 }
 
-async function fetchTheRest(pictures: Pictures, sounds: Sounds): Promise<void> {
+async function fetchTheRest(pictures: Pictures, sounds: Sounds, music: Music): Promise<void> {
     await sounds.load();
     await pictures.loadOthers();
-    await keepForOffline().catch(() => undefined);
+    await keepForOffline(music.played).catch(() => undefined);
 }
 
-void start();
+start().catch((error: unknown) => {
+    console.error(error);
+    const loading = document.getElementById('loading');
+    if (loading) loading.textContent = 'Prismfall cannot run in this browser. A newer one may help.';
+});

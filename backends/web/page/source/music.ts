@@ -1,18 +1,20 @@
 // The music player: one track at a time, looping or to its end once, streamed by the browser. Nothing here waits, and a
-// track that cannot be had is silence and a line under the picture.
+// track that cannot be loaded is silence and a line below the picture.
 import { build } from './build';
 import { onPress } from './gestures';
 import type { Notices } from './notices';
 
 export class Music {
+    /** Kept when the first track is opened, which happens only while music is switched on. */
+    readonly played: Promise<void>;
     private readonly player = new Audio();
-    private readonly notices: Notices;
-    /** Whether the game wants the track to be heard now, whatever the browser says to that. */
+    private notePlayed: () => void = () => undefined;
+    /** Whether the game wants the track to be heard now, whether or not the browser allows it. */
     private wanted = false;
     private told = '';
 
-    constructor(notices: Notices) {
-        this.notices = notices;
+    constructor(private readonly notices: Notices) {
+        this.played = new Promise((resolve) => (this.notePlayed = resolve));
         this.player.preload = 'auto';
         this.player.addEventListener('ended', () => (this.wanted = false));
         this.player.addEventListener('error', () => this.tellFault());
@@ -23,12 +25,14 @@ export class Music {
 
     open(track: string): void {
         this.close();
+        this.notePlayed();
         this.player.src = `${build.music}/${track}`;
     }
 
     close(): void {
         this.stop();
         if (!this.player.hasAttribute('src')) return;
+        this.tell('');
         this.player.removeAttribute('src');
         this.player.load();
     }
@@ -67,11 +71,11 @@ export class Music {
             this.player.pause();
             return;
         }
-        // Refused before the first press, and told off when the track changes meanwhile: the next press or track tries again.
+        // Refused before the first press, and aborted if the track changes: the next press or track tries again.
         if (this.player.paused) this.player.play().catch(() => undefined);
     }
 
-    /** What has come and still cannot be heard lacks a device, or is broken. */
+    /** A track that has arrived and still cannot be heard lacks a device, or is broken. */
     private tellFault(): void {
         const hasCome = this.player.error?.code === MediaError.MEDIA_ERR_DECODE;
         this.tell(hasCome ? 'The music cannot be played here.' : 'The music cannot be loaded.');
@@ -80,6 +84,6 @@ export class Music {
     private tell(sentence: string): void {
         if (sentence === this.told || !this.player.hasAttribute('src')) return;
         this.told = sentence;
-        this.notices.show(sentence);
+        this.notices.show('music', sentence);
     }
 }

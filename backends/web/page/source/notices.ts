@@ -1,18 +1,22 @@
-// What the page says by itself: one line under the picture, and words that only a screen reader speaks.
+// What the page says by itself: one line below the picture, and words that only a screen reader speaks.
 const wordsKept = 4;
+const wordsLast = 5000; // milliseconds; afterwards nobody finds them while reading through the page
+
+export type Subject = 'music' | 'sounds' | 'saving' | 'end';
 
 export class Notices {
-    private readonly line: HTMLElement;
-    private readonly voice: HTMLElement;
+    private readonly sentences = new Map<Subject, string>();
 
-    constructor(line: HTMLElement, voice: HTMLElement) {
-        this.line = line;
-        this.voice = voice;
-    }
+    constructor(
+        private readonly line: HTMLElement,
+        private readonly voice: HTMLElement,
+    ) {}
 
-    /** An empty sentence takes the line away. */
-    show(sentence: string): void {
-        this.line.textContent = sentence;
+    /** A sentence takes the place of the last one on the same subject; an empty one withdraws it. The newest is shown. */
+    show(subject: Subject, sentence: string): void {
+        this.sentences.delete(subject);
+        if (sentence !== '') this.sentences.set(subject, sentence);
+        this.line.textContent = [...this.sentences.values()].pop() ?? '';
     }
 
     /** What comes at the same time is spoken one after the other. */
@@ -20,6 +24,7 @@ export class Notices {
         const spoken = document.createElement('p');
         spoken.textContent = words;
         this.voice.append(spoken);
+        setTimeout(() => spoken.remove(), wordsLast);
         while (this.voice.children.length > wordsKept) this.voice.firstElementChild?.remove();
     }
 }

@@ -1,6 +1,6 @@
-// Brings the program to life: the functions of backends/web/Imports.h, and the two ways in which a program can stand
-// still while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
-// second build that takes its own stack down and puts it up again.
+// Brings the program to life: the functions of backends/web/Imports.h, and the two ways in which a program can pause
+// while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
+// second build that unwinds its own stack and rewinds it.
 import { build } from './build';
 import type { Music } from './music';
 import type { Notices } from './notices';
@@ -19,6 +19,8 @@ export interface Machine {
     readonly music: Music;
     readonly settings: Settings;
     readonly notices: Notices;
+    /** The program has ended. */
+    readonly end: () => void;
 }
 
 interface Exports {
@@ -104,7 +106,7 @@ async function instantiate(
     machine: Machine,
     suspending: (wait: Wait) => WebAssembly.ImportValue,
 ): Promise<Exports> {
-    const { waiting, windows, surface, sounds, music, settings, notices } = machine;
+    const { waiting, windows, surface, sounds, music, settings, notices, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
     const wait = suspending((until, forInput) => waiting.wait(until, forInput !== 0));
     const page = {
@@ -123,9 +125,9 @@ async function instantiate(
             windows.show(window, element, readElement(memory, record)),
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
-        showNotice: (address: number, length: number) => notices.show(text(address, length)),
+        showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
-        endProgram: () => windows.end(),
+        endProgram: () => end(),
         openSettings: () => settings.open(),
         readSettings: (address: number) => settings.copyTo(new Uint8Array(memory.buffer, address)),
         writeSettings: (address: number, length: number) => (settings.write(text(address, length)) ? 1 : 0),

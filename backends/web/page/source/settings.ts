@@ -1,4 +1,4 @@
-// Settings and scores: one text in the browser's storage, so that all of it is stored or none. What stands in it is the
+// Settings and scores: one text in the browser's storage, so that all of it is stored or none. What it says is the
 // program's business.
 const key = 'prismfall';
 

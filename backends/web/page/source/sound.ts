@@ -4,17 +4,14 @@ import { build } from './build';
 import { onPress } from './gestures';
 import type { Notices } from './notices';
 
-const ids = [102, 103, 104, 105, 106, 107, 108];
 const decodingRate = 44100;
 
 export class Sounds {
     private readonly sounds = new Map<number, AudioBuffer>();
-    private readonly notices: Notices;
     private context: AudioContext | undefined;
     private playing: AudioBufferSourceNode | undefined;
 
-    constructor(notices: Notices) {
-        this.notices = notices;
+    constructor(private readonly notices: Notices) {
         onPress(() => this.wake());
         document.addEventListener('visibilitychange', () => this.noteVisibility());
     }
@@ -22,15 +19,19 @@ export class Sounds {
     async load(): Promise<void> {
         try {
             const decoder = new OfflineAudioContext(1, 1, decodingRate);
-            await Promise.all(ids.map((id) => this.loadOne(decoder, id)));
+            await Promise.all(build.sounds.map((id) => this.loadOne(decoder, id)));
         } catch {
-            this.notices.show('The sounds cannot be played here.');
+            this.notices.show('sounds', 'The sounds cannot be played here.');
         }
     }
 
-    play(id: number): void {
+    stop(): void {
         this.playing?.stop();
         this.playing = undefined;
+    }
+
+    play(id: number): void {
+        this.stop();
         const sound = this.sounds.get(id);
         if (!sound || this.context?.state !== 'running' || document.hidden) return;
         this.playing = this.context.createBufferSource();

@@ -17,8 +17,7 @@ interface OpenWindow {
 }
 
 export class Windows {
-    private readonly open_ = new Map<number, OpenWindow>();
-    private readonly picture: HTMLElement;
+    private readonly windows = new Map<number, OpenWindow>();
 
     constructor(
         private readonly layout: Layout,
@@ -27,13 +26,12 @@ export class Windows {
         private readonly notices: Notices,
         private readonly waiting: Waiting,
         private readonly input: Input,
-        picture: HTMLElement,
+        private readonly picture: HTMLElement,
     ) {
-        this.picture = picture;
         layout.whenChanged(() => {
             place(picture, layout.main);
             picture.classList.toggle('sharp', layout.isSharp);
-            for (const window of this.open_.values()) this.placeDialog(window);
+            for (const window of this.windows.values()) this.placeDialog(window);
         });
     }
 
@@ -47,7 +45,7 @@ export class Windows {
         if (!dialog) add(root, this.surface.canvas);
         const elements = new Elements(root, this.pictures, this.notices);
         const window = { record, elements, dialog };
-        this.open_.set(number, window);
+        this.windows.set(number, window);
         this.placeDialog(window);
         this.input.attach(root, number);
         dialog?.showModal();
@@ -55,16 +53,21 @@ export class Windows {
     }
 
     show(number: number, element: number, record: ElementRecord): void {
-        this.open_.get(number)?.elements.show(element, record);
+        this.windows.get(number)?.elements.show(element, record);
     }
 
     close(number: number): void {
-        const dialog = this.open_.get(number)?.dialog;
-        this.open_.delete(number);
+        const dialog = this.windows.get(number)?.dialog;
+        this.windows.delete(number);
         if (!dialog) return;
         for (const image of dialog.querySelectorAll('img')) this.pictures.forget(image);
         dialog.close();
         dialog.remove();
+    }
+
+    /** The number of the dialog in front, or undefined for none. */
+    frontDialog(): number | undefined {
+        return [...this.windows].filter(([, { dialog }]) => dialog).pop()?.[0];
     }
 
     openMessage(sentence: string): void {
@@ -86,7 +89,7 @@ export class Windows {
     end(sentence = ''): void {
         this.picture.inert = true;
         this.picture.classList.add('ended');
-        if (sentence) this.notices.show(sentence);
+        if (sentence) this.notices.show('end', sentence);
         const again = add(this.picture.parentElement ?? document.body, make('button', 'plain again'));
         again.textContent = 'Play again';
         again.addEventListener('click', () => location.reload());

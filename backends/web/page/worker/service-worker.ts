@@ -1,26 +1,34 @@
-// Answers the page's requests from what was put by, so that it starts without a network. The files of a version come all
-// or none, and stand in a folder and a cache of their own.
+// Answers the page's requests from the browser's caches, so that it starts without a network. The files of a version come
+// all or none, in a folder and a cache of their own. Other programs may live at the same address: caches are named after
+// the folder that this page lies in, and nothing else is answered, matched or deleted.
 import { build } from '../source/build';
+import { cacheName, isOwnCache, lockName } from '../source/caches';
 
 // This file runs beside the page, where other things are global.
 const worker = self as unknown as ServiceWorkerGlobalScope;
+const scope = worker.registration.scope;
 const page = './';
 
-worker.addEventListener('install', (event) => event.waitUntil(putBy()));
-worker.addEventListener('activate', (event) => event.waitUntil(dropOldVersions()));
+worker.addEventListener('install', (event) => event.waitUntil(keepVersion()));
 worker.addEventListener('fetch', (event) => {
-    if (event.request.method === 'GET' && !isPuttingMusicBy(event.request)) event.respondWith(answer(event.request));
+    if (event.request.method === 'GET' && isOurs(event.request)) event.respondWith(answer(event.request));
 });
-worker.addEventListener('message', (event) => event.waitUntil(takeOverIfAlone()));
+worker.addEventListener('message', (event) => {
+    event.waitUntil(event.data === 'drop old versions' ? dropOldVersions() : takeOverIfAlone());
+});
 
-async function putBy(): Promise<void> {
-    const cache = await caches.open(build.folder);
+async function keepVersion(): Promise<void> {
+    const cache = await caches.open(cacheName(scope, build.folder));
     await cache.addAll([page, ...build.files].map((file) => new Request(file, { cache: 'no-cache' })));
 }
 
+/** A version's cache lives as long as a page of that version does, which holds a lock in its name. */
 async function dropOldVersions(): Promise<void> {
-    for (const name of await caches.keys())
-        if (name !== build.folder && name !== build.music) await caches.delete(name);
+    const { held = [] } = await navigator.locks.query();
+    const isInUse = (cache: string) => held.some(({ name }) => name === lockName(cache));
+    for (const cache of await ownCaches())
+        if (cache !== cacheName(scope, build.folder) && cache !== cacheName(scope, build.music) && !isInUse(cache))
+            await caches.delete(cache);
 }
 
 async function takeOverIfAlone(): Promise<void> {
@@ -28,19 +36,38 @@ async function takeOverIfAlone(): Promise<void> {
     if (pages.length === 1) await worker.skipWaiting();
 }
 
-/** Long requests that pass through here would keep a new version waiting, also after their page has gone. */
-function isPuttingMusicBy(request: Request): boolean {
-    return request.destination === '' && request.url.includes(build.music);
+async function ownCaches(): Promise<string[]> {
+    return (await caches.keys()).filter((name) => isOwnCache(scope, name));
+}
+
+/** The page itself by its two addresses, and the files in its folders. */
+function isOurs(request: Request): boolean {
+    const [address] = request.url.split(/[?#]/);
+    if (!address?.startsWith(scope)) return false;
+    const file = address.slice(scope.length);
+    if (request.mode === 'navigate') return file === '' || file === 'index.html';
+    // Long requests that pass through here would keep a new version waiting, also after their page has gone.
+    const isKeepingMusic = request.destination === '' && file.startsWith('music-');
+    return !isKeepingMusic && /^(version-|music-|manifest\.webmanifest$|icons\/)/.test(file);
 }
 
 async function answer(request: Request): Promise<Response> {
-    const kept = request.mode === 'navigate' ? await caches.match(page) : await caches.match(request.url);
+    const kept = await keptAnswer(request);
     if (!kept) return fetch(request);
     const range = /^bytes=(\d+)-(\d*)$/.exec(request.headers.get('range') ?? '');
     return range ? partOf(kept, Number(range[1]), range[2] ?? '') : kept;
 }
 
-/** Players of music ask for parts of a file. */
+async function keptAnswer(request: Request): Promise<Response | undefined> {
+    if (request.mode === 'navigate') return caches.match(page, { cacheName: cacheName(scope, build.folder) });
+    for (const name of await ownCaches()) {
+        const kept = await caches.match(request.url, { cacheName: name });
+        if (kept) return kept;
+    }
+    return undefined;
+}
+
+/** Music players ask for parts of a file. */
 async function partOf(kept: Response, first: number, last: string): Promise<Response> {
     const whole = await kept.blob();
     const end = last === '' ? whole.size : Math.min(Number(last) + 1, whole.size);
