@@ -15,8 +15,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where the pictures lie, seen from the folder of the program: beside it, installed on Debian, and in a checkout.
-constexpr std::array<const char*, 3> kPictureFolders = {"pictures", "../../share/games/prismfall/pictures",
+// Where the pictures lie, seen from the folder of the program: beside it, installed, and in a checkout.
+constexpr std::array<const char*, 3> kPictureFolders = {"pictures", PRISMFALL_DATA_FOLDER "/pictures",
                                                         "../../assets/pictures"};
 
 fs::path ProgramFolder() {

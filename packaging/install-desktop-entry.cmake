@@ -1,0 +1,12 @@
+# Run by `cmake --install`, which sets CMAKE_INSTALL_PREFIX: makes ENTRY of TEMPLATE and puts it into the folder ENTRIES. The
+# entry names the command in the folder COMMANDS by its whole path, unless every desktop looks there anyway.
+cmake_path(ABSOLUTE_PATH COMMANDS BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE)
+set(command prismfall)
+if(NOT COMMANDS MATCHES "^/(app|usr|usr/local)/(bin|games)$")
+    # Quoted as the desktop entry specification wants it: once as an argument, and once more as a value of the file.
+    string(REGEX REPLACE "([\"`$\\\\])" "\\\\\\\\\\1" command "${COMMANDS}/prismfall")
+    string(REPLACE "%" "%%" command "\"${command}\"")
+endif()
+configure_file("${TEMPLATE}" "${ENTRY}" @ONLY)
+cmake_path(ABSOLUTE_PATH ENTRIES BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE)
+file(INSTALL "${ENTRY}" DESTINATION "${ENTRIES}")
