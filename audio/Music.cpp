@@ -30,7 +30,7 @@ void PlayMusicFile(const Audio& audio, std::string_view file, std::int16_t volum
     if (!audio.settings.Music) return;
     audio.player.MusicClose();
     if (const int failure = audio.player.MusicOpen(file); failure != 0) {
-        audio.player.ShowMessageBox(audio.player.MusicFailureText(failure));
+        audio.boxes.ShowMessageBox(audio.player.MusicFailureText(failure));
         return;
     }
     SetMusicVolume(audio, volume);

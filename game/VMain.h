@@ -18,7 +18,10 @@ namespace prismfall {
 
 struct VMain : MainElements {
     explicit VMain(Platform& machine)
-        : platform(machine), field(machine, machine), audio{machine, settings}, dialogs{machine, window, audio} {}
+        : platform(machine),
+          field(machine, machine),
+          audio{machine, machine, settings},
+          dialogs{machine, window, audio} {}
 
     Platform& platform;
     Window window;

@@ -1,15 +1,12 @@
 // Where random numbers come from.
 #pragma once
 
+#include "platform/Facet.h"
+
 namespace prismfall {
 
-class Chance {
+class Chance : public Facet {
   public:
-    Chance() = default;
-    Chance(const Chance&) = delete;
-    Chance& operator=(const Chance&) = delete;
-    virtual ~Chance() = default;
-
     // Uniform from 0 up to but not including 1.
     virtual double Random() = 0;
     virtual void SeedRandomFromClock() = 0;

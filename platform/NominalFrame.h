@@ -2,7 +2,7 @@
 // draws, what lies inside comes out the same everywhere.
 #pragma once
 
-#include "platform/Platform.h"
+#include "platform/WindowHost.h"
 
 namespace prismfall {
 

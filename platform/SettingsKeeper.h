@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Facet.h"
+
 namespace prismfall {
 
 struct SettingValue {
@@ -19,13 +21,8 @@ struct SettingValue {
 using SettingsReader = std::function<std::optional<std::string>(std::string_view section, std::string_view key)>;
 using SettingsChange = std::function<std::vector<SettingValue>(const SettingsReader& stored)>;
 
-class SettingsKeeper {
+class SettingsKeeper : public Facet {
   public:
-    SettingsKeeper() = default;
-    SettingsKeeper(const SettingsKeeper&) = delete;
-    SettingsKeeper& operator=(const SettingsKeeper&) = delete;
-    virtual ~SettingsKeeper() = default;
-
     virtual std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                                     std::string_view fallback) = 0;
     // Changes the store in one step that no other run of the program can come between: `change` is handed a way to read

@@ -19,7 +19,7 @@ class Surface {
     Surface();
 
     // A surface on which nothing is painted takes no memory for its pixels.
-    // The operations of Platform.h. Any coordinates will do: what lies outside is cut off. A width of 0 or less paints
+    // The operations of SurfacePainter.h. Any coordinates will do: what lies outside is cut off. A width of 0 or less paints
     // nothing.
     void Line(int x1, int y1, int x2, int y2, Colour colour, int width);
     void Box(int x1, int y1, int x2, int y2, Colour colour, int width);

@@ -3,16 +3,12 @@
 #pragma once
 
 #include "platform/Element.h"
+#include "platform/Facet.h"
 
 namespace prismfall {
 
-class SurfacePainter {
+class SurfacePainter : public Facet {
   public:
-    SurfacePainter() = default;
-    SurfacePainter(const SurfacePainter&) = delete;
-    SurfacePainter& operator=(const SurfacePainter&) = delete;
-    virtual ~SurfacePainter() = default;
-
     // Paints an opaque line: every pixel whose center lies within half of `width` of the segment, ends round. Places
     // outside the surface are cut off.
     virtual void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) = 0;

@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "platform/GameTime.h"
-#include "platform/Platform.h"
+#include "platform/TimerControl.h"
 
 namespace prismfall {
 
@@ -21,7 +21,7 @@ class TimerWheel {
 
     void SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
 
-    // The operations of Platform.h. Outside of all handlers they count from game time.
+    // The operations of TimerControl.h. Outside of all handlers they count from game time.
     void Start(Timer timer);
     void Stop(Timer timer) { Of(timer).isOn = false; }
     void SetInterval(Timer timer, int milliseconds);

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/Platform.h"
+#include "platform/WindowHost.h"
 
 namespace prismfall {
 

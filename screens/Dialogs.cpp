@@ -43,7 +43,7 @@ std::unique_ptr<Window> MakeDialog(const Audio& audio, std::string_view name, st
 }
 
 void ShowDialog(const DialogHost& host, std::unique_ptr<Window>& dialog) {
-    Platform& desktop = host.desktop;
+    WindowHost& desktop = host.desktop;
     const Extent mainSize = desktop.OuterSize(host.mainWindow);
     const int frameHeight = mainSize.height - desktop.InnerSize(host.mainWindow).height;
     const Place corner = desktop.Position(host.mainWindow);

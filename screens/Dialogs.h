@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "audio/Audio.h"
-#include "platform/Platform.h"
 #include "platform/Window.h"
+#include "platform/WindowHost.h"
 
 namespace prismfall {
 
@@ -31,7 +31,7 @@ void PressElement(const Audio& audio, const Element& element);
 
 // What a dialog is shown with.
 struct DialogHost {
-    Platform& desktop;
+    WindowHost& desktop;
     const Window& mainWindow;
     const Audio& audio;
 };

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "backends/web/Imports.h"
-#include "platform/Platform.h"
+#include "platform/WindowHost.h"
 
 namespace prismfall {
 

@@ -20,7 +20,7 @@ TEST(Music, EveryNumberHasItsTrackAndOthersNone) {
     HeadlessPlatform machine(printed);
     Settings settings;
     settings.Music = true;
-    const Audio audio{machine, settings};
+    const Audio audio{machine, machine, settings};
     std::string tracks;
     for (std::int16_t number = -1; number <= 46; ++number) {
         PlayLevelMusic(audio, number);

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "platform/Platform.h"
+#include "platform/TimerControl.h"
 
 namespace prismfall {
 

@@ -13,8 +13,8 @@
 #include "backends/sdl/desktop/DesktopHints.h"
 #include "backends/sdl/desktop/SdlWindow.h"
 #include "backends/sdl/drawing/ElementPainter.h"
-#include "platform/Platform.h"
 #include "platform/Surface.h"
+#include "platform/WindowHost.h"
 #include "platform/WindowInput.h"
 
 namespace prismfall {

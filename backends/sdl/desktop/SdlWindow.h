@@ -10,7 +10,7 @@
 #include "backends/sdl/drawing/Composer.h"
 #include "backends/sdl/drawing/PictureFit.h"
 #include "platform/NominalFrame.h"
-#include "platform/Platform.h"
+#include "platform/WindowHost.h"
 
 namespace prismfall {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/PixelBox.h"
-#include "platform/Platform.h"
+#include "platform/WindowHost.h"
 
 namespace prismfall {
 

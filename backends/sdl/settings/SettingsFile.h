@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/Platform.h"
+#include "platform/SettingsKeeper.h"
 
 namespace prismfall {
 
