@@ -33,10 +33,14 @@ test('solutions in WebAssembly', () => {
     assert.ok(run === expected, 'the two print the same');
 });
 
-test('the program and the page agree on their records, or the page stops', async () => {
+async function importRecords() {
     const built = await build({ entryPoints: ['backends/web/page/source/records.ts'], format: 'esm', write: false });
     const source = Buffer.from(built.outputFiles[0].contents).toString('base64');
-    const { checkRecords } = await import(`data:text/javascript;base64,${source}`);
+    return import(`data:text/javascript;base64,${source}`);
+}
+
+test('the program and the page agree on their records, or the page stops', async () => {
+    const { checkRecords } = await importRecords();
     const module = new WebAssembly.Module(readFileSync('build/wasm/programs/prismfall.wasm'));
     const imports = {};
     for (const { module: from, name } of WebAssembly.Module.imports(module))
@@ -46,4 +50,30 @@ test('the program and the page agree on their records, or the page stops', async
     checkRecords(program.memory, sizes);
     new Int32Array(program.memory.buffer, sizes)[1] += 4; // a field more than the page knows
     assert.throws(() => checkRecords(program.memory, sizes), /does not fit this page \(element/);
+});
+
+test('fields and kinds come in the same order in the program and the page', async () => {
+    const { Kind, EventKind, readWindow, readElement, writeEvent } = await importRecords();
+    const headers = ['backends/web/Imports.h', 'platform/Element.h'].map((file) => readFileSync(file, 'utf8')).join('');
+    const listed = (type) => headers.match(new RegExp(`${type} [^;]*?{\n(.*?)\n}`, 's'))[1];
+    const fields = (type) =>
+        [...listed(`struct ${type}`).matchAll(/^ +(\S+) (\w+)(?: =|;|\[|{)/gm)].map((field) => field[2]);
+    const kinds = (type) => [...listed(`enum class ${type}`).matchAll(/^ +(\w+),/gm)].map((kind) => kind[1]);
+    const names = (kind) => Object.values(kind).filter((value) => typeof value === 'string');
+    assert.deepEqual(names(Kind), kinds('ElementKind'));
+    assert.deepEqual(names(EventKind), kinds('EventKind'));
+
+    const memory = new WebAssembly.Memory({ initial: 1 });
+    const firstSpot = listed('struct ElementRecord').match(/^ +(?!SpotRecord)\w/gm).length + 5; // five texts take two places
+    new Float32Array(memory.buffer)[firstSpot + fields('SpotRecord').indexOf('width')] = 1;
+    const element = readElement(memory, 0);
+    assert.deepEqual(Object.keys(readWindow(memory, 0)), fields('WindowRecord'));
+    assert.deepEqual(Object.keys(element), fields('ElementRecord'));
+    assert.deepEqual(Object.keys(element.spots[0]), fields('SpotRecord'));
+
+    const event = Object.fromEntries(fields('Event').map((name, place) => [name, place + 1]));
+    writeEvent(memory, 0, event);
+    const view = new DataView(memory.buffer);
+    const written = [view.getFloat64(0, true), ...[8, 12, 16].map((at) => view.getInt32(at, true))];
+    assert.deepEqual([...written, view.getFloat32(20, true), view.getFloat32(24, true)], [1, 2, 3, 4, 5, 6]);
 });
