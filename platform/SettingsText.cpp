@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <optional>
 
 namespace prismfall {
 
@@ -60,6 +59,22 @@ constexpr std::string_view kReservedInKey = "=[#;";
 
 }  // namespace
 
+std::optional<std::string> FindSetting(const SettingsValues& values, std::string_view section, std::string_view key) {
+    const auto found = values.find({std::string(section), std::string(key)});
+    if (found == values.end()) return std::nullopt;
+    return found->second;
+}
+
+std::string ChangedSettings(std::string text, const SettingsChange& change) {
+    SettingsText settings(text);
+    const SettingsValues stored = settings.Values();
+    const std::vector<SettingValue> values =
+        change([&stored](std::string_view section, std::string_view key) { return FindSetting(stored, section, key); });
+    if (values.empty()) return text;
+    for (const SettingValue& value : values) settings.Set(value.section, value.key, value.text);
+    return settings.Text();
+}
+
 SettingsText::SettingsText(std::string_view text) {
     if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
     std::string section;
@@ -96,8 +111,8 @@ SettingsText::Line SettingsText::MakeValue(const std::string& section, const std
     return {LineKind::Value, section, key, value, Escaped(key, kReservedInKey) + "=" + Escaped(value, "")};
 }
 
-std::map<std::pair<std::string, std::string>, std::string> SettingsText::Values() const {
-    std::map<std::pair<std::string, std::string>, std::string> values;
+SettingsValues SettingsText::Values() const {
+    SettingsValues values;
     for (const Line& line : lines)
         if (line.kind == LineKind::Value) values[{line.section, line.key}] = line.value;
     return values;

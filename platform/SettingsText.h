@@ -1,22 +1,34 @@
-// The text that settings are kept as: sections in brackets, lines of a key, an equals sign and a value. Every text can
-// be stored, whatever bytes it holds; a damaged line costs itself alone. Where the text is kept is another's concern.
+// The text format of the settings: sections in brackets, lines of a key, an equals sign and a value. Any value can be
+// stored, whatever bytes it holds; a damaged line is skipped. Storage is the backend's job.
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "platform/SettingsKeeper.h"
+
 namespace prismfall {
+
+// Texts by section and key.
+using SettingsValues = std::map<std::pair<std::string, std::string>, std::string>;
+
+// The text stored under a section and key, or nothing.
+std::optional<std::string> FindSetting(const SettingsValues& values, std::string_view section, std::string_view key);
+
+// What a settings text becomes by a change of its values. A change that has nothing to write leaves every byte of it.
+std::string ChangedSettings(std::string text, const SettingsChange& change);
 
 class SettingsText {
   public:
     explicit SettingsText(std::string_view text);
 
-    // All values by section and key. Of several lines with the same key the last one counts.
-    std::map<std::pair<std::string, std::string>, std::string> Values() const;
-    // Puts a value in its place, or at the end of its section, or in a new section.
+    // All values. Of several lines with the same key the last one counts.
+    SettingsValues Values() const;
+    // Puts a value in its place, at the end of its section, or in a new section.
     void Set(const std::string& section, const std::string& key, const std::string& value);
     std::string Text() const;
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/NominalFrame.h"
-#include "platform/SettingsText.h"
 
 namespace prismfall {
 
@@ -38,10 +37,10 @@ double WaveMilliseconds(std::span<const std::byte> head) {
     return 1000.0 * NumberAt(head, kLengthAt) / NumberAt(head, kRateAt);
 }
 
-SettingsText StoredSettings() {
+std::string StoredSettings() {
     std::string text(page::OpenSettings(), '\0');
     page::ReadSettings(text.data());
-    return SettingsText(text);
+    return text;
 }
 
 }  // namespace
@@ -260,22 +259,13 @@ std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()
 
 std::string WebPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
                                      std::string_view fallback) {
-    if (!readValues) readValues = StoredSettings().Values();
-    const auto found = readValues->find({std::string(section), std::string(key)});
-    return found == readValues->end() ? std::string(fallback) : found->second;
+    if (!readValues) readValues = SettingsText(StoredSettings()).Values();
+    return FindSetting(*readValues, section, key).value_or(std::string(fallback));
 }
 
 bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
-    SettingsText text = StoredSettings();
-    const auto values = text.Values();
-    const auto changed = change([&](std::string_view section, std::string_view key) -> std::optional<std::string> {
-        const auto found = values.find({std::string(section), std::string(key)});
-        if (found == values.end()) return std::nullopt;
-        return found->second;
-    });
-    for (const SettingValue& value : changed) text.Set(value.section, value.key, value.text);
+    const std::string written = ChangedSettings(StoredSettings(), change);
     readValues.reset();
-    const std::string written = text.Text();
     const bool isWritten = page::WriteSettings(written.data(), static_cast<std::uint32_t>(written.size())) != 0;
     TellOfSaving(isWritten);
     return isWritten;

@@ -3,17 +3,16 @@
 // waits.
 #pragma once
 
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "backends/web/Imports.h"
 #include "backends/web/ShownWindow.h"
 #include "platform/Platform.h"
 #include "platform/RandomNumbers.h"
+#include "platform/SettingsText.h"
 #include "platform/Surface.h"
 #include "platform/TimerWheel.h"
 #include "platform/WindowInput.h"
@@ -92,8 +91,7 @@ class WebPlatform final : public Platform {
     GameTime time;
     TimerWheel timers;
     RandomNumbers random;
-    std::optional<std::map<std::pair<std::string, std::string>, std::string>>
-        readValues;  // of the store, until it changes
+    std::optional<SettingsValues> readValues;  // of the store, until it changes
     bool isFailedSaveTold = false;
     bool ended = false;
     bool hidden = false;     // as the page was last seen

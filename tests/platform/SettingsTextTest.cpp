@@ -39,7 +39,7 @@ TEST(SettingsText, AnyTextComesBack) {
         return result;
     };
     SettingsText text("");
-    std::map<std::pair<std::string, std::string>, std::string> values;
+    SettingsValues values;
     for (int round = 0; round < 500; ++round) {
         const std::string section = any() + "s", key = any() + "k", value = any();
         text.Set(section, key, value);

@@ -2,13 +2,12 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 
-#include "platform/SettingsKeeper.h"
+#include "platform/SettingsText.h"
 
 namespace prismfall {
 
@@ -27,7 +26,7 @@ class SettingsFile {
 
   private:
     std::filesystem::path file;
-    std::optional<std::map<std::pair<std::string, std::string>, std::string>> values;
+    std::optional<SettingsValues> values;
 };
 
 }  // namespace prismfall
