@@ -83,7 +83,7 @@ bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
 }
 
 void TimerWheel::RenewMoment() {
-    if (running) running = Handler{.moment = WholeMilliseconds(time.Now()), .hasLetEventsRun = true};
+    if (running) running = Handler{.moment = MomentAt(time.Now()), .hasLetEventsRun = true};
 }
 
 void TimerWheel::TickFirst() { Tick(*First(), time.Now()); }
@@ -91,6 +91,7 @@ void TimerWheel::TickFirst() { Tick(*First(), time.Now()); }
 void TimerWheel::Tick(Timer timer, Nanoseconds moment) {
     State& state = Of(timer);
     state.due += state.interval;
+    lastTick = moment;
     CallHandler(timer, moment);
 }
 

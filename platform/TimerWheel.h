@@ -1,9 +1,11 @@
 // The six timers on game time, and the moments of all handlers. A handler has one moment: that of a tick is the time at
-// which it was due, that of everything else is game time as it begins, less what it has above a whole millisecond. What
-// a handler starts or re-times counts from its moment, so timers that are started together fall due together, however
-// long the handler takes and however late it is, and every due time is a whole millisecond that a text can name.
+// which it was due, that of everything else is game time as it begins, rounded down to a whole millisecond. What a
+// handler starts or re-times counts from its moment, so timers that are started together fall due together, however
+// long the handler takes and however late it is. All due times are whole milliseconds too, so a recording can name any
+// moment.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <optional>
@@ -48,7 +50,7 @@ class TimerWheel {
     template <typename Call>
     void Handle(Call handler) {
         TickDue();
-        const Running handling(*this, WholeMilliseconds(lastReading));
+        const Running handling(*this, MomentAt(lastReading));
         handler();
     }
 
@@ -59,7 +61,7 @@ class TimerWheel {
     template <typename TakeInput>
     bool LetEventsRun(TakeInput takeInput) {
         const bool isFirst = running && !running->hasLetEventsRun;
-        bool worked = isFirst ? TickWithin(running->moment + kFirstReach) : TickDue();
+        bool worked = isFirst ? TickWithin(std::min(running->moment, time.Now()) + kFirstReach) : TickDue();
         if (!isFirst && takeInput()) worked = true;
         RenewMoment();
         return worked;
@@ -108,10 +110,12 @@ class TimerWheel {
     };
 
     State& Of(Timer timer) { return states[static_cast<std::size_t>(timer)]; }
-    static Nanoseconds WholeMilliseconds(Nanoseconds gameTime) {
-        return std::chrono::floor<std::chrono::milliseconds>(gameTime);
+    // The moment of a handler that is not a tick. A tick can come up to a millisecond early; what follows it does not
+    // begin before it.
+    Nanoseconds MomentAt(Nanoseconds gameTime) const {
+        return std::max<Nanoseconds>(std::chrono::floor<std::chrono::milliseconds>(gameTime), lastTick);
     }
-    Nanoseconds Moment() const { return running ? running->moment : WholeMilliseconds(time.Now()); }
+    Nanoseconds Moment() const { return running ? running->moment : MomentAt(time.Now()); }
     std::optional<Timer> First() const;
     // Reads the clock into lastReading, and leaves out a stall.
     void ReadClock();
@@ -126,6 +130,7 @@ class TimerWheel {
     std::function<void(Timer)> tick;
     std::optional<Handler> running;
     Nanoseconds lastReading{0};
+    Nanoseconds lastTick{Nanoseconds::min()};  // its moment
 };
 
 }  // namespace prismfall

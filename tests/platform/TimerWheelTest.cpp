@@ -111,6 +111,34 @@ TEST(TimerWheel, TheFirstTimeEventsRunOnlyWhatIsCloseTicks) {
     EXPECT_EQ(bench.At(19), "A");
 }
 
+TEST(TimerWheel, HandlersBeginAtWholeMillisecondsAndNoneBeforeAnEarlierOne) {
+    Bench bench;
+    const auto moments = [&](std::initializer_list<int> microseconds) {
+        std::vector<std::int64_t> result;
+        for (const int time : microseconds) {
+            bench.clock = std::chrono::microseconds(time);
+            bench.wheel.Handle([&] { result.push_back(bench.wheel.MomentInMilliseconds()); });
+        }
+        return result;
+    };
+    EXPECT_EQ(moments({3000, 3001, 3999, 4000}), (std::vector<std::int64_t>{3, 3, 3, 4}));
+    bench.Start(Timer::LineExtender, 7);  // due at 11
+    bench.clock = std::chrono::microseconds(10'600);
+    bench.wheel.Handle([&] {
+        bench.Start(Timer::TimerA, 2);  // due at 12
+        bench.LetEventsRun();
+        EXPECT_EQ(bench.ticks, "E") << "early, but not by more than a millisecond";
+        EXPECT_EQ(bench.wheel.MomentInMilliseconds(), 11);
+        bench.clock = std::chrono::microseconds(11'900);
+        bench.wheel.RenewMoment();
+        EXPECT_EQ(bench.wheel.MomentInMilliseconds(), 11);
+    });
+    EXPECT_EQ(bench.wheel.NextDue(), std::chrono::milliseconds(12));
+    bench.clock = std::chrono::microseconds(11'950);
+    bench.wheel.Handle([&] { bench.LetEventsRun(); });
+    EXPECT_EQ(moments({11'960, 12'100, 13'000}), (std::vector<std::int64_t>{12, 12, 13}));
+}
+
 TEST(TimerWheel, NothingTicksWhileGameTimeStandsStill) {
     Bench bench;
     bench.Start(Timer::LineExtender, 10);
