@@ -26,6 +26,11 @@ class Platform : public SurfacePainter,
                  public SettingsKeeper,
                  public AudioPlayer {
   public:
+    // A game begins: from now on, all random numbers follow from `number` and from the moments of seeds, counted from
+    // the moment of the running handler. Whoever keeps the number can bring back all the chance of that game; it can be
+    // any number, such as one made of Random().
+    virtual void BeginRandom(std::uint64_t number) = 0;
+
     // Lets pending events run: what has changed is painted, due timers tick, and from the second call in a handler on
     // input is handled.
     virtual void LetEventsRun() = 0;

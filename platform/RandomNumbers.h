@@ -1,5 +1,6 @@
-// The random numbers of every machine with a clock. All chance of a game follows from one number: the same number,
-// seeded at the same moments since, gives the same sequence on every machine.
+// The random numbers of every machine with a clock, the same on all of them. One number stands for all the chance of a
+// game: a recorder calls Begin with it when a game begins, and again when the game is played back. Both times the same
+// calls of Seed and Next, at the same moments since Begin, give the same results, whenever and wherever that is.
 #pragma once
 
 #include <cstdint>
@@ -8,18 +9,18 @@ namespace prismfall {
 
 class RandomNumbers {
   public:
-    // `number` stands for all that will be random; a program draws it when it starts.
+    // A program draws `number` when it starts, so that no two runs are alike. Moments of seeds count from 0.
     explicit RandomNumbers(std::uint64_t number) : state(number) {}
 
-    // Starts a sequence of its own, as that of a game; `moment` is game time in milliseconds, and later seeds count
-    // from it.
+    // Begins anew with `number`; whatever was drawn before is forgotten. `moment` is game time in milliseconds, and the
+    // moments of later seeds count from it.
     void Begin(std::uint64_t number, std::int64_t moment);
 
-    // Lets the moment, game time in milliseconds, take part in what follows. What the sequence has come to is part of
-    // it too, so two seeds at one moment differ.
+    // Makes what follows depend on `moment` too, game time in milliseconds. It adds to what the sequence has come to,
+    // so two seeds at one moment are followed by different numbers.
     void Seed(std::int64_t moment);
 
-    // Uniform from 0 up to but not including 1.
+    // Uniform from 0 up to but not including 1, a multiple of 2^-53.
     double Next();
 
   private:

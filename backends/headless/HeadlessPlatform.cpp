@@ -147,17 +147,25 @@ double HeadlessPlatform::Random() {
         queuedRandoms.pop_front();
         return number;
     }
+    if (begunRandom) return begunRandom->Next();
     constexpr std::uint32_t kRange = 1U << 31U;
     generator = (generator * 1103515245U + 12345U) % kRange;
     return static_cast<double>(generator) / kRange;
+}
+
+void HeadlessPlatform::BeginRandom(std::uint64_t number) {
+    begunRandom.emplace(number).Begin(number, timers.MomentInMilliseconds());
+}
+
+void HeadlessPlatform::SeedRandomFromClock() {
+    if (begunRandom) begunRandom->Seed(timers.MomentInMilliseconds());
 }
 
 // --- Settings.
 
 std::string HeadlessPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
                                           std::string_view fallback) {
-    const auto value = store.find({std::string(section), std::string(key)});
-    return value == store.end() ? std::string(fallback) : value->second;
+    return FindSetting(store, section, key).value_or(std::string(fallback));
 }
 
 // The change reads an empty store, so the script's store takes every value of a save, whatever it held.

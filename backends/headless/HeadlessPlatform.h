@@ -6,11 +6,14 @@
 #include <array>
 #include <deque>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <utility>
 
 #include "platform/Platform.h"
+#include "platform/RandomNumbers.h"
+#include "platform/SettingsText.h"
 #include "platform/Surface.h"
 #include "platform/TimerWheel.h"
 #include "platform/WindowInput.h"
@@ -42,7 +45,7 @@ class HeadlessPlatform : public Platform {
 
     const WindowInput& Input() const { return input; }
     const TimerWheel& Timers() const { return timers; }
-    const std::map<std::pair<std::string, std::string>, std::string>& Store() const { return store; }
+    const SettingsValues& Store() const { return store; }
     Surface& Painted() { return surface; }
 
     // --- Platform.
@@ -69,7 +72,8 @@ class HeadlessPlatform : public Platform {
     void LetEventsRun() override;
     std::int64_t Clock() override;
     double Random() override;
-    void SeedRandomFromClock() override {}
+    void BeginRandom(std::uint64_t number) override;
+    void SeedRandomFromClock() override;
 
     std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view fallback) override;
@@ -100,7 +104,8 @@ class HeadlessPlatform : public Platform {
     std::deque<double> queuedRandoms;
     std::deque<std::string> queuedAnswers;
     std::uint32_t generator = 1;
-    std::map<std::pair<std::string, std::string>, std::string> store;
+    std::optional<RandomNumbers> begunRandom;  // once a game has begun with a number, in place of the generator
+    SettingsValues store;
     std::map<const Window*, Place> places;
     bool isMusicPresent = true;
     bool isPaintPrinted = false;

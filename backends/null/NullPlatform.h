@@ -75,6 +75,7 @@ class NullPlatform : public Platform {
     }
     std::int64_t Clock() override { return clock / std::chrono::milliseconds(1); }
     double Random() override { return random.Next(); }
+    void BeginRandom(std::uint64_t number) override { random.Begin(number, timers.MomentInMilliseconds()); }
     void SeedRandomFromClock() override { random.Seed(timers.MomentInMilliseconds()); }
 
     // --- Settings, sound and music.

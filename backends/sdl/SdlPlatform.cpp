@@ -184,6 +184,8 @@ std::int64_t SdlPlatform::Clock() {
 
 double SdlPlatform::Random() { return random.Next(); }
 
+void SdlPlatform::BeginRandom(std::uint64_t number) { random.Begin(number, loop.Timers().MomentInMilliseconds()); }
+
 void SdlPlatform::SeedRandomFromClock() { random.Seed(loop.Timers().MomentInMilliseconds()); }
 
 // The application's name has no place in the file: the file is this one application's.

@@ -50,6 +50,7 @@ class SdlPlatform final : public Platform {
     void LetEventsRun() override;
     std::int64_t Clock() override;
     double Random() override;
+    void BeginRandom(std::uint64_t number) override;
     void SeedRandomFromClock() override;
 
     std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,

@@ -48,6 +48,7 @@ class WebPlatform final : public Platform {
     void LetEventsRun() override;
     std::int64_t Clock() override;
     double Random() override { return random.Next(); }
+    void BeginRandom(std::uint64_t number) override { random.Begin(number, timers.MomentInMilliseconds()); }
     void SeedRandomFromClock() override { random.Seed(timers.MomentInMilliseconds()); }
 
     std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,

@@ -78,9 +78,14 @@ struct HeadlessDriver::Command {
 
 std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
     using Driver = HeadlessDriver;
-    static constexpr std::array<Command, 27> kCommands = {{
+    static constexpr std::array<Command, 28> kCommands = {{
         {"setting", 3, 3, false, [](Driver& driver, Arguments& words) { driver.PutSetting(words); }},
         {"random", 1, kAnyNumber, false, [](Driver& driver, Arguments& words) { driver.QueueRandoms(words); }},
+        {"seed", 1, 1, false,
+         [](Driver& driver, Arguments& words) {
+             const std::int64_t number = words.WholeNumber(0, std::numeric_limits<std::int64_t>::max());
+             if (words.IsGood()) driver.platform.BeginRandom(static_cast<std::uint64_t>(number));
+         }},
         {"music", 1, 1, false, [](Driver& driver, Arguments& words) { driver.ChooseMusic(words); }},
         {"load", 0, 0, false, [](Driver& driver, Arguments& words) { driver.Load(words); }},
         {"activate", 0, 0, true, [](Driver& driver, Arguments&) { driver.main->window.on.activate(); }},
