@@ -24,7 +24,7 @@ constexpr Colour kRed = 0x0000FF;
 enum class ElementKind {
     Picture,       // shows `picture`
     Button,        // shows `picture`; sounds at a press and has a click
-    PressPicture,  // shows `picture`; takes presses with their place, has no click
+    PressPicture,  // shows `picture`; takes presses and needs to know where; has no click
     Label,         // shows `text`; ignored by the mouse, which reaches what lies beneath
     RadioButton,   // a round mark when `checked`, then `text`; has a click, takes fast presses
     CheckBox,      // a square mark when `checked`, then `text`; has a click, takes fast presses
@@ -41,7 +41,7 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-// A place in a PressPicture that asks for a press, for players who use keys instead of a pointer.
+// A place in a PressPicture that the player is asked to press, for players who use keys instead of a pointer.
 struct PressSpot {
     std::string_view spoken = {};  // what a screen reader says of it
     float left = 0;                // in the picture
@@ -77,14 +77,14 @@ struct Element {
     std::string_view spoken = {};       // what a screen reader says of it, before its text; empty for decoration
     std::string text = {};              // starts at the left and top edge; what does not fit is cut off
     ButtonFaces faces = {};             // of a Button: what `picture` changes between
-    std::string_view tag = {};          // which of its meanings a button has that has several
+    std::string_view tag = {};          // which of its meanings a button has, if there are several
     Colour colour = kBlack;             // of text, marks and outlines
     std::optional<Colour> ground = {};  // the background of a label; without one, what is below shows through
     Font font = {};
-    bool wraps = false;    // break the text into lines at the box's right edge
-    int fitHeight = 0;     // above 0 the text is set smaller than its font, if need be, to end within this height
-    bool checked = false;  // radio buttons and check boxes
-    std::string_view group = {};          // radio buttons of one name: one of them is checked
+    bool wraps = false;           // break the text into lines at the box's right edge
+    int fitHeight = 0;            // above 0, the text is set smaller than its font if it would not fit this height
+    bool checked = false;         // radio buttons and check boxes
+    std::string_view group = {};  // radio buttons of one name: one of them is checked
     std::array<PressSpot, 2> spots = {};  // of a PressPicture
     const Element* panel = nullptr;       // the element that this one lies in and is hidden with
 

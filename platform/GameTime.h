@@ -1,5 +1,5 @@
-// Game time: the machine's clock less all stalls. A stall is a stretch in which the game could not or should not go on;
-// leaving it out stretches the game as a whole, so that nothing in it is lost and nothing comes in a rush.
+// Game time: the machine's clock less all stalls. A stall is a time in which the game could not or should not go on.
+// With stalls left out the game as a whole takes longer, but nothing in it is lost and nothing speeds up to catch up.
 #pragma once
 
 #include <chrono>
@@ -15,19 +15,20 @@ class GameTime {
     // `machineClock` tells the time since some fixed moment and never runs backwards.
     explicit GameTime(std::function<Nanoseconds()> machineClock) : clock(std::move(machineClock)) {}
 
-    Nanoseconds Now() const { return (standstills > 0 ? stoodAt : clock()) - stalls; }
-    // Leaves out a stretch that has just passed. `length` is 0 or more.
+    Nanoseconds Now() const { return (standstills > 0 ? stoppedAt : clock()) - stalls; }
+    // Leaves out a time that has just passed. `length` is 0 or more.
     void Stall(Nanoseconds length) { stalls += length; }
 
     bool StandsStill() const { return standstills > 0; }
-    // Game time stands still as long as one of these lives: while a sound is waited for, or an error box stands.
+    // Game time stands still while one of these exists: during a sound that is waited for, or while an error box is
+    // open.
     class Standstill {
       public:
         explicit Standstill(GameTime& gameTime) : time(gameTime) {
-            if (time.standstills++ == 0) time.stoodAt = time.clock();
+            if (time.standstills++ == 0) time.stoppedAt = time.clock();
         }
         ~Standstill() {
-            if (--time.standstills == 0) time.Stall(time.clock() - time.stoodAt);
+            if (--time.standstills == 0) time.Stall(time.clock() - time.stoppedAt);
         }
         Standstill(const Standstill&) = delete;
         Standstill& operator=(const Standstill&) = delete;
@@ -39,7 +40,7 @@ class GameTime {
   private:
     std::function<Nanoseconds()> clock;
     Nanoseconds stalls{0};
-    Nanoseconds stoodAt{0};
+    Nanoseconds stoppedAt{0};
     int standstills = 0;
 };
 

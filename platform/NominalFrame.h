@@ -1,5 +1,5 @@
-// The window frame that the game reckons with. It sets sizes that include a frame; whatever frame a desktop really
-// draws, what lies inside comes out the same everywhere.
+// The window frame that the game's sizes include. Whatever frame a desktop really draws, the area inside it is the same
+// size everywhere.
 #pragma once
 
 #include "platform/WindowHost.h"

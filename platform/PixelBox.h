@@ -1,4 +1,4 @@
-// A box of pixels: of the surface, or of the display.
+// A box of pixels, on the surface or on the display.
 #pragma once
 
 #include <algorithm>
@@ -16,7 +16,7 @@ struct PixelBox {
     bool operator==(const PixelBox&) const = default;
 };
 
-// What both boxes cover; empty if they do not meet.
+// What both boxes cover; empty if they do not overlap.
 inline PixelBox Overlap(const PixelBox& a, const PixelBox& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
 }

@@ -1,4 +1,4 @@
-// Reading and writing lines. Bytes that would not survive on a line of their own are written as \x and two hexadecimal
+// Reading and writing lines. Bytes that could not be read back from a line are written as \x and two hexadecimal
 // digits.
 #include "platform/SettingsText.h"
 
@@ -19,7 +19,7 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// `reserved` are the characters that would be misread in the place the text is for.
+// `reserved` are the characters that would be misread where the text goes.
 std::string Escaped(std::string_view text, std::string_view reserved) {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -119,23 +119,23 @@ SettingsValues SettingsText::Values() const {
 }
 
 void SettingsText::Set(const std::string& section, const std::string& key, const std::string& value) {
-    std::optional<std::size_t> place;        // of the key's last line
-    std::optional<std::size_t> sectionsEnd;  // the section's last line that is not blank
+    std::optional<std::size_t> place;       // of the key's last line
+    std::optional<std::size_t> sectionEnd;  // the section's last line that is not blank
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (lines[i].section != section) continue;
         if (lines[i].kind == LineKind::Value && lines[i].key == key) place = i;
-        if (lines[i].kind == LineKind::Section || !Trimmed(lines[i].raw).empty()) sectionsEnd = i;
+        if (lines[i].kind == LineKind::Section || !Trimmed(lines[i].raw).empty()) sectionEnd = i;
     }
     if (place) {
         if (lines[*place].value != value) lines[*place] = MakeValue(section, key, value);
         return;
     }
-    if (!sectionsEnd) {
+    if (!sectionEnd) {
         if (!lines.empty()) lines.push_back({});
         lines.push_back({LineKind::Section, section, {}, {}, '[' + Escaped(section, kReservedInSection).append("]")});
-        sectionsEnd = lines.size() - 1;
+        sectionEnd = lines.size() - 1;
     }
-    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(*sectionsEnd) + 1, MakeValue(section, key, value));
+    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(*sectionEnd) + 1, MakeValue(section, key, value));
 }
 
 std::string SettingsText::Text() const {

@@ -12,7 +12,7 @@ namespace {
 
 using Wide = std::int64_t;
 
-// Whole numbers from `first` to `last`; empty if they cross.
+// Whole numbers from `first` to `last`; empty if `last` is below `first`.
 struct Span {
     Wide first;
     Wide last;
@@ -89,12 +89,12 @@ class Stroke {
 
 constexpr PixelBox kWholeSurface{0, 0, Surface::kWidth, Surface::kHeight};
 
-constexpr std::size_t kMostDamageBoxes = 512;  // beyond that one box round all is cheaper to show
-constexpr int kDamagePiece = 16;               // pixels of a long diagonal that share a box
+constexpr std::size_t kMaxDamageBoxes = 512;  // beyond that, one box around all of them is cheaper to show
+constexpr int kDamagePiece = 16;              // pixels of a long diagonal that share a box
 
 }  // namespace
 
-Surface::Surface() { damage.reserve(kMostDamageBoxes); }
+Surface::Surface() { damage.reserve(kMaxDamageBoxes); }
 
 const std::uint32_t* Surface::Row(int y) const {
     static constexpr std::array<std::uint32_t, kWidth> kUnpaintedRow{};
@@ -148,7 +148,7 @@ void Surface::AddDamage(PixelBox box) {
     if (box.IsEmpty()) return;
     if (!damage.empty()) {
         const PixelBox both = BoundingBox(damage.back(), box);
-        if (damage.size() == kMostDamageBoxes || Area(both) <= Area(damage.back()) + Area(box)) {
+        if (damage.size() == kMaxDamageBoxes || Area(both) <= Area(damage.back()) + Area(box)) {
             damage.back() = both;
             return;
         }

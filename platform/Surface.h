@@ -18,9 +18,8 @@ class Surface {
 
     Surface();
 
-    // A surface on which nothing is painted takes no memory for its pixels.
-    // The operations of SurfacePainter.h. Any coordinates will do: what lies outside is cut off. A width of 0 or less paints
-    // nothing.
+    // The operations of SurfacePainter.h. Any coordinates will do: what lies outside is cut off. A width of 0 or less
+    // paints nothing. While nothing is painted, the pixels take no memory.
     void Line(int x1, int y1, int x2, int y2, Colour colour, int width);
     void Box(int x1, int y1, int x2, int y2, Colour colour, int width);
     void Restore(int x1, int y1, int x2, int y2);
@@ -31,8 +30,7 @@ class Surface {
     const std::uint32_t* Row(int y) const;
 
     // What has changed since the last call, as boxes on the surface that may overlap; long diagonals come in pieces.
-    // The boxes are put into `boxes`, whose former content goes; the caller keeps it, so that nothing is allocated
-    // from frame to frame.
+    // Replaces the contents of `boxes`, which the caller keeps so that no frame has to allocate it anew.
     void TakeDamage(std::vector<PixelBox>& boxes);
 
   private:

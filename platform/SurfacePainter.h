@@ -1,4 +1,5 @@
-// Paints on the surface of the main window. What is painted stays until painted over, and lies over the background.
+// Paints on the surface of the main window, which lies over its background. What is painted stays until it is painted
+// over.
 // Places and widths are game pixels.
 #pragma once
 

@@ -24,7 +24,7 @@ void WindowInput::Open(Window& window) {
 void WindowInput::Close(const Window& window) {
     std::erase(windows, &window);
     pressed = nullptr;
-    if (last.window == &window) last.window = nullptr;  // it was another one than any that comes later
+    if (last.window == &window) last.window = nullptr;  // a later window at the same address is a different one
 }
 
 bool WindowInput::HasInput(const Window& window) const {

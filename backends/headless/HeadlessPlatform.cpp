@@ -9,10 +9,10 @@ namespace prismfall {
 
 namespace {
 
-constexpr int kFirstSoundResource = 101;  // less than a sound's id by its number
+constexpr int kFirstSoundResource = 101;  // subtracted from a resource id it gives the sound's number
 constexpr int kCannotOpen = 1;
 
-constexpr Nanoseconds kLatest = Nanoseconds::max() / 2;  // of the clock; no script plays for so many years
+constexpr Nanoseconds kLatest = Nanoseconds::max() / 2;  // for the clock: more years than a script plays
 
 }  // namespace
 
@@ -22,7 +22,7 @@ void HeadlessPlatform::Run(std::int64_t milliseconds) {
     MoveClockTo(end);
 }
 
-// Handlers that let events run may have carried it further.
+// Handlers that let events run may have moved it further already.
 void HeadlessPlatform::MoveClockTo(Nanoseconds moment) { clock = std::max(clock, moment); }
 
 void HeadlessPlatform::TickUntil(Nanoseconds moment) {
@@ -168,7 +168,7 @@ std::string HeadlessPlatform::ReadSetting(std::string_view, std::string_view sec
     return FindSetting(store, section, key).value_or(std::string(fallback));
 }
 
-// The change reads an empty store, so the script's store takes every value of a save, whatever it held.
+// The change is shown an empty store, so each save writes all values to the script's store, whatever it held.
 bool HeadlessPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
     const auto empty = [](std::string_view, std::string_view) { return std::nullopt; };
     for (const SettingValue& value : change(empty)) PutSetting(value.section, value.key, value.text);

@@ -1,6 +1,6 @@
-// A machine that exists in memory alone: a virtual clock, a settings store that outlives the program, queued random
-// numbers and clicks, and a line of text for everything that the game does to the outside. It runs the whole game
-// without a window, the same way on every machine.
+// A machine that exists only in memory: a virtual clock, a settings store that outlives the program, queued random
+// numbers and clicks, and a line of text for everything that the game does to the outside world. It runs the whole game
+// without a window, the same way everywhere.
 #pragma once
 
 #include <array>
@@ -25,9 +25,9 @@ class HeadlessPlatform : public Platform {
     // What happens is written to `events`, which must outlive the platform.
     explicit HeadlessPlatform(std::ostream& events) : out(events) {}
 
-    // --- For whoever drives it.
+    // --- For the driver.
 
-    // Lets time pass until `milliseconds` from now; handlers that yield may carry the clock further.
+    // Lets time pass until `milliseconds` from now; handlers that let events run may move the clock further.
     void Run(std::int64_t milliseconds);
     // Calls a timer's handler now, as a running handler, and leaves its due time alone.
     void Fire(Timer timer) { timers.Fire(timer); }
@@ -36,10 +36,10 @@ class HeadlessPlatform : public Platform {
     void SetMusicPresent(bool isPresent) { isMusicPresent = isPresent; }
     void SetPainting(bool isPrinted) { isPaintPrinted = isPrinted; }
     void PutSetting(const std::string& section, const std::string& key, const std::string& text);
-    // Forgets what belongs to one run of the program: timers, windows and surface. Clock, generator, queues and store
-    // go on.
+    // Forgets what belongs to one run of the program: timers, windows and surface. Keeps the clock, the
+    // generator, the queues and the store.
     void BeginRun();
-    // Puts a window in front, without its activation.
+    // Opens a window in front of all others, without running its `activate`.
     void Open(Window& window);
     bool HasEnded() const { return hasEnded; }
 

@@ -1,5 +1,6 @@
-// The least that a backend is: nothing is shown, heard or kept, and time passes when Run is told so. A porter begins
-// with this page: each routine's contract is in platform/, and what is shared by all backends is taken from there.
+// The smallest backend that keeps the contract: it shows, plays and stores nothing, and time passes only in Run. A port
+// to a new machine begins with a copy of this page. The contract of each function is in platform/, and so is all that
+// backends share.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +33,7 @@ class NullPlatform : public Platform {
             timers.TickDue();
         }
     }
-    // What a player does, by way of `act`.
+    // Lets `act` do what a player does.
     void Do(const std::function<void(WindowInput& input)>& act) {
         timers.Handle([&] { act(input); });
     }

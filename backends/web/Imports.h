@@ -16,7 +16,7 @@
 
 namespace prismfall::page {
 
-// UTF-8, without a zero at its end.
+// UTF-8, not terminated by a zero.
 struct Text {
     Text() = default;
     Text(std::string_view text) : bytes(text.data()), length(static_cast<std::uint32_t>(text.size())) {}
@@ -35,13 +35,13 @@ struct WindowRecord {
     Text background;  // a picture's name
 };
 
-// A place in an element that asks for a press.
+// A place in an element that the player is asked to press.
 struct SpotRecord {
     float left = 0;  // in the element
     float top = 0;
     float width = 0;  // 0 for no spot
     float height = 0;
-    std::int32_t button = 0;  // a MouseButton that does it
+    std::int32_t button = 0;  // the MouseButton to press it with
     Text spoken;
 };
 
@@ -116,37 +116,37 @@ PAGE_IMPORT("now") double Now();
 PAGE_IMPORT("wait") void Wait(double until, std::int32_t forInput);
 // Takes the oldest pending event. 0 if there is none.
 PAGE_IMPORT("takeEvent") std::int32_t TakeEvent(Event* event);
-// Whether nobody can see the page at present.
+// Whether the page is hidden, so that nobody can see it.
 PAGE_IMPORT("isHidden") std::int32_t IsHidden();
-// From 0 up to but not including 1, another one at each start of the program.
+// From 0 up to but not including 1, different at each start of the program.
 PAGE_IMPORT("random") double Random();
 
 // --- Windows.
 
 PAGE_IMPORT("openWindow") void OpenWindow(std::int32_t window, const WindowRecord* record);
 PAGE_IMPORT("closeWindow") void CloseWindow(std::int32_t window);
-// An element as it is from now on. The elements of a window come in their stacking order.
+// What an element looks like from now on. The elements of a window come in stacking order.
 PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t element, const ElementRecord* record);
 // Puts pixels on the surface: rows without gaps, four bytes a pixel, red, green, blue and opacity.
 PAGE_IMPORT("showPixels")
 void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
                 std::int32_t height);
-// One line below the picture about saving. An empty one takes it away.
+// Shows one line about saving below the picture. An empty one removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
-// An error box. It stays until the page reports Close for the window kMessageBox.
+// An error box. It stays open until the page reports Close for the window kMessageBox.
 PAGE_IMPORT("openMessage") void OpenMessage(const char* text, std::uint32_t length);
-// The program has ended: the page dims the picture and offers to start anew.
+// The program has ended: the page dims the picture and offers a new start.
 PAGE_IMPORT("endProgram") void EndProgram();
 
 // --- Settings: one text for all of them.
 
-// The length of the stored text in bytes; it is held ready for ReadSettings.
+// The length of the stored text in bytes; the page keeps it for ReadSettings.
 PAGE_IMPORT("openSettings") std::uint32_t OpenSettings();
 PAGE_IMPORT("readSettings") void ReadSettings(char* text);
-// 0 if it could not be stored; what was there before is then there still.
+// 0 if it could not be stored; then what was stored before is unchanged.
 PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::uint32_t length);
 
-// --- Sound and music. The page finds the files by itself; one that cannot be had is silence.
+// --- Sound and music. The page finds the files by itself; one that cannot be loaded is silent.
 
 PAGE_IMPORT("playSound") void PlaySound(std::int32_t id);
 PAGE_IMPORT("openMusic") void OpenMusic(const char* name, std::uint32_t length);

@@ -10,8 +10,8 @@ namespace prismfall {
 
 class ShownWindow {
   public:
-    // Opens the window on the page under a number. `place` is that of a dialog's frame, from the corner of the main
-    // window's inner area.
+    // Opens the window on the page, known by `pageNumber`. `place` is that of a dialog's frame, from the corner of the
+    // main window's inner area.
     ShownWindow(Window& shown, std::int32_t pageNumber, Place place);
     ~ShownWindow();
     ShownWindow(const ShownWindow&) = delete;

@@ -12,7 +12,7 @@ namespace {
 constexpr int kFullVolume = 1000;
 constexpr double kYieldRest = 1;  // milliseconds
 constexpr double kLongestWait = 60'000;
-constexpr double kStartNumbers = 1LL << 53;  // as many as a random number of the page can tell apart
+constexpr double kStartNumbers = 1LL << 53;  // as many as there are random numbers of the page
 constexpr std::size_t kRateAt = 28;          // in a wave file of plain samples: bytes a second
 constexpr std::size_t kLengthAt = 40;        // and bytes in all
 
@@ -31,7 +31,7 @@ std::uint32_t NumberAt(std::span<const std::byte> bytes, std::size_t at) {
     return number;
 }
 
-// The page has the samples; the program carries the file's head alone, which tells how long they sound.
+// The page has the samples; the program has only the head of the file, which says how long they last.
 double WaveMilliseconds(std::span<const std::byte> head) {
     if (head.size() < kLengthAt + 4) return 0;
     return 1000.0 * NumberAt(head, kLengthAt) / NumberAt(head, kRateAt);
@@ -254,8 +254,8 @@ void WebPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetIn
 
 std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()); }
 
-// --- Settings. The page keeps them as one text, so that all of them are stored or none. Nothing can come between the
-// reading and the writing. The application's name has no place in the text: it is this one application's.
+// --- Settings. The page keeps them as one text, so that all of them are stored or none. Nothing can come between
+// reading and writing. The application's name is left out: the text belongs to this application alone.
 
 std::string WebPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
                                      std::string_view fallback) {

@@ -1,5 +1,5 @@
 // A browser's page as the machine behind the game. The program runs in a loop of its own, as on a desktop: it takes
-// input from the page, lets due timers tick, tells the page what has changed, and stands still in the one call that
+// input from the page, lets due timers tick, tells the page what has changed, and is suspended in the one call that
 // waits.
 #pragma once
 
@@ -81,7 +81,7 @@ class WebPlatform final : public Platform {
 
     Surface layer;
     std::vector<PixelBox> damage;
-    std::vector<std::uint32_t> pixels;  // a box of the layer, as the page wants it
+    std::vector<std::uint32_t> pixels;  // a box of the layer, in the page's format
 
     Window* main = nullptr;
     std::vector<std::unique_ptr<ShownWindow>> shown;  // the main window, then dialogs in the order of their opening
