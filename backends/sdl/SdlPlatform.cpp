@@ -96,8 +96,8 @@ void SdlPlatform::CloseProgram() {
     EndProgram();
 }
 
-// Handlers may be on the stack below this call, with data that the program's end must not touch: the process ends here, without
-// going back through them.
+// Handlers may be on the stack below this call, with data that the program's end must not touch: the process ends here,
+// without going back through them.
 void SdlPlatform::EndProgram() {
     desktop.HideAll();
     if (!audio.Finish()) std::_Exit(EXIT_SUCCESS);

@@ -175,8 +175,8 @@ std::optional<float> ResourceDotsPerInch(Display* display) {
     return std::strtof(text, nullptr);
 }
 
-// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment takes precedence.
-// Where there can be no Wayland the library is not asked, since it complains on standard error.
+// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment takes
+// precedence. Where there can be no Wayland the library is not asked, since it complains on standard error.
 const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
 
 bool OnX11() {

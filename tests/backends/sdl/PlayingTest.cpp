@@ -188,7 +188,8 @@ bool WaitFor(const std::function<bool()>& holds) {
     return holds();
 }
 
-// SDL's disk driver plays the part of a device that can be unplugged: its device goes when the file may not grow any more.
+// SDL's disk driver plays the part of a device that can be unplugged: its device goes when the file may not grow any
+// more.
 TEST_F(PlayingTest, MusicWaitsForADeviceAndGoesOnWhereItFellSilentInTheFormOfTheNext) {
     const Samples track = WholeTrack();
     const fs::path folder = fs::path(testing::TempDir()) / ("devices-" + std::to_string(getpid()));
