@@ -41,7 +41,7 @@ int main() {
     std::array<int, 5> outcomes{};
     for (int tick = 0; tick < 600; ++tick) {
         if (tick % 60 == 0) CreateLine(field, kSpawnHeight);
-        field.GrowthToggle = 1 - field.GrowthToggle;
+        field.GrowthToggle = field.GrowthToggle == 0 ? 1 : 0;
         for (std::size_t i = 0, count = field.Lines.size(); i < count; ++i)
             ++outcomes[static_cast<std::size_t>(GrowLine(field, *field.Lines[i]))];
         if (ThinDyingLines(field) && RemoveGoneLines(field)) RedrawLines(field);
