@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "game/GrowthTick.h"
-#include "game/Modes.h"
 #include "game/RemovalTick.h"
 #include "simulation/BeamRemoval.h"
 #include "tests/support/TestGame.h"
@@ -27,7 +26,7 @@ TEST(GrowthTick, AWallCutsItShortAndWhatHadCollidedScoresNothing) {
     EXPECT_EQ(game.Main().field.GrowthToggle, 0);
 }
 
-TEST(GrowthTick, ScoresAllItsHitsAtItsEndAndPaintsTheBlueLine) {
+TEST(GrowthTick, ScoresAllItsHitsAtItsEnd) {
     TestGame game(Mode::ArcadeGame,
                   "150,100 104,146 green; 50,100 100,150 green stopped; 350,100 304,146 green; 250,100 300,150 green "
                   "stopped; 500,100 510,110 red stopped");
@@ -37,14 +36,6 @@ TEST(GrowthTick, ScoresAllItsHitsAtItsEndAndPaintsTheBlueLine) {
     EXPECT_EQ(main.LevelLineCount, 2);
     EXPECT_EQ(main.LabelMulti.left, (104 + 304) / 2);
     EXPECT_EQ(main.LabelMulti.top, 146 - 10);
-    game.TakePrinted();
-    game.Machine().SetPainting(true);
-    ExtendLines(main);
-    EXPECT_EQ(game.TakePrinted(), "line 14 60 670 60 0xFF0000 1\n");
-    EXPECT_EQ(main.Score, 20);
-    EnterMode(main, Mode::PuzzleGame);
-    ExtendLines(main);
-    EXPECT_EQ(game.TakePrinted(), "") << "a puzzle has no such line";
 }
 
 TEST(LineDeleter, ThinsTheWholeChainAndTakesItOut) {

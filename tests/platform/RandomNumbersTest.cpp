@@ -23,7 +23,7 @@ std::vector<double> Play(std::uint64_t number, std::int64_t start, std::int64_t 
     return drawn;
 }
 
-TEST(RandomNumbers, FollowFromOneNumberAndTheMomentsOfTheSeeds) {
+TEST(RandomNumbers, FollowFromOneNumberAndTheSeedsAndAreUniform) {
     EXPECT_EQ(Play(7, 0), Play(7, 123'456)) << "wherever the game begins";
     const std::vector<double> drawn = Play(7, 0);
     EXPECT_EQ(std::set(drawn.begin(), drawn.end()).size(), drawn.size()) << "two seeds at one moment differ";
@@ -32,16 +32,13 @@ TEST(RandomNumbers, FollowFromOneNumberAndTheMomentsOfTheSeeds) {
     EXPECT_NE(Play(7, 0)[6], Play(7, 0, 2501)[6]);
     RandomNumbers known(1);
     EXPECT_EQ(known.Next(), 0.5665615751722809) << "the same on every machine";
-}
-
-TEST(RandomNumbers, AreUniformAlsoWhenSeededBeforeEach) {
     RandomNumbers random(5);
     std::array<int, 10> buckets{};
     for (int i = 0; i < 100'000; ++i) {
         if (i % 2 == 0) random.Seed(i);
         ++buckets.at(static_cast<std::size_t>(random.Next() * 10));
     }
-    for (const int count : buckets) EXPECT_NEAR(count, 10'000, 500);
+    for (const int count : buckets) EXPECT_NEAR(count, 10'000, 500) << "uniform, also when seeded before every second";
 }
 
 }  // namespace

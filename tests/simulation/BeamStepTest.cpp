@@ -47,13 +47,6 @@ TEST(GrowLine, DoesWhatTheTableSays) {
     }
 }
 
-TEST(GrowLine, EntersWhatItStrikes) {
-    TestField test("arcade", "250,100 200,150 red stopped; 150,100 196,146 red");
-    GrowLine(test.field, test.Beam(2));
-    EXPECT_EQ(Places(test.field, test.field.DyingLines), "2 1");
-    EXPECT_EQ(Places(test.field, test.Beam(1).StoppingLines), "2") << "also what dies";
-}
-
 TEST(GrowLine, ErasesTheSpotInTheEntryZoneOfAnArcadeGame) {
     for (const auto& [mode, y, isErased] :
          {std::tuple{"arcade", 63, true}, {"arcade", 64, false}, {"puzzle", 63, false}}) {

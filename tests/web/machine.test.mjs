@@ -227,17 +227,8 @@ test('a finger is the right button where the tutorial asks for it', async () => 
     await tap('Puzzle');
     await game.page.tap(...(await game.at(120, 120)));
     await tap('Start');
-    for (const spot of [
-        'OK',
-        'The end of the red beam',
-        'OK',
-        'The end of the blue beam',
-        'OK',
-        'OK',
-        'The end of the red beam',
-        'OK',
-    ])
-        await tap(spot);
+    const spots = 'OK|The end of the red beam|OK|The end of the blue beam|OK|OK|The end of the red beam|OK';
+    for (const spot of spots.split('|')) await tap(spot);
     await game.until(
         'the last picture to go',
         () => ![...document.querySelectorAll('.spot')].some((n) => n.offsetParent),
