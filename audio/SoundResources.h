@@ -7,8 +7,6 @@
 
 namespace prismfall {
 
-constexpr int kFirstSoundId = 102;
-
 // A complete RIFF WAVE file, or nothing for an id without a file.
 std::span<const std::byte> LoadSoundResource(int id);
 

@@ -12,6 +12,7 @@ namespace prismfall {
 
 // A complete RIFF WAVE file and the number under which the program carries it.
 struct Wave {
+    static constexpr int kFirstId = 102;  // of sound 1
     int id = 0;
     std::span<const std::byte> bytes;
 };

@@ -9,7 +9,6 @@ namespace prismfall {
 
 namespace {
 
-constexpr int kFirstSoundResource = 101;  // subtracted from a resource id it gives the sound's number
 constexpr int kCannotOpen = 1;
 
 constexpr Nanoseconds kLatest = Nanoseconds::max() / 2;  // for the clock: more years than a script plays
@@ -178,7 +177,7 @@ bool HeadlessPlatform::ChangeSettings(std::string_view, const SettingsChange& ch
 // --- Sound and music.
 
 void HeadlessPlatform::PlayWave(Wave wave, bool wait) {
-    out << "sound " << wave.id - kFirstSoundResource << (wait ? " sync" : " async") << '\n';
+    out << "sound " << wave.id - Wave::kFirstId + 1 << (wait ? " sync" : " async") << '\n';
 }
 
 void HeadlessPlatform::MusicClose() { out << "music close\n"; }
