@@ -105,9 +105,9 @@ void PlayMusicOfMode(const VMain& main) {
 
 void SetMusic(VMain& main, bool value) {
     if (value == main.settings.Music) return;
-    if (!value) StopMusic(main.audio);
+    if (!value) StopMusic(main.audio);  // before it is off, when nothing reaches the machine any more
     main.settings.Music = value;
-    PlayMusicOfMode(main);
+    if (value) PlayMusicOfMode(main);
 }
 
 }  // namespace prismfall

@@ -8,7 +8,7 @@ export interface Back {
     noteEnd(): void;
 }
 
-/** Puts an entry into the browser's history that going back can take away, and puts it back each time. */
+/** Keeps an entry in the browser's history above the page's own, so that going back only takes that one away. */
 export function connectBack(windows: Windows, waiting: Waiting, input: Input): Back {
     let hasEnded = false;
     let isGoingBack = false;
@@ -20,16 +20,14 @@ export function connectBack(windows: Windows, waiting: Waiting, input: Input): B
         const dialog = windows.frontDialog();
         if (dialog === undefined) input.escape();
         else waiting.send(EventKind.Close, dialog);
-        // Esc is handled when the program next takes its events; if it has not ended by then, it is being played on.
-        setTimeout(() => {
-            isGoingBack = false;
-            if (!hasEnded) history.pushState('playing', '');
-        }, 300);
+        history.pushState('playing', '');
+        // The program handles it as soon as it takes its events. What ends it later is something else.
+        setTimeout(() => (isGoingBack = false), 300);
     });
     return {
         noteEnd: () => {
             hasEnded = true;
-            if (isGoingBack) history.back();
+            if (isGoingBack) history.go(-2);
         },
     };
 }

@@ -5,7 +5,7 @@ import { onPress } from './gestures';
 import type { Notices } from './notices';
 
 export class Music {
-    /** Kept when the first track is opened, which happens only while music is switched on. */
+    /** Resolves when the first track is opened, which happens only while music is switched on. */
     readonly played: Promise<void>;
     private readonly player = new Audio();
     private notePlayed: () => void = () => undefined;

@@ -36,11 +36,9 @@ export async function takeNewVersion(): Promise<boolean> {
 /** Until this page is closed, no other version deletes the files that it was made of. */
 export function holdVersion(): void {
     const locks = navigator.locks as LockManager | undefined;
-    void locks?.request(
-        lockName(cacheName(scope, build.folder)),
-        { mode: 'shared' },
-        () => new Promise(() => undefined),
-    );
+    const name = lockName(cacheName(scope, build.folder));
+    // Where the browser refuses locks, it keeps no caches either.
+    locks?.request(name, { mode: 'shared' }, () => new Promise(() => undefined)).catch(() => undefined);
 }
 
 /** Keeps everything for the next start, and, once music has been played here, the tracks one after the other. */
