@@ -29,7 +29,7 @@ constexpr double kFillDown = 0.85;
 
 struct Page {
     std::string_view picture;
-    std::string_view spoken;
+    std::string_view accessibleName;
 };
 
 constexpr auto kPages = std::to_array<Page>({
@@ -96,7 +96,7 @@ void ShowPuzzleMenu(VMain& main) {
         for (int column = 0; column < kMenuColumns; ++column) DrawCell(main, row, column);
     const Page& page = kPages[static_cast<std::size_t>(main.PuzzlePage - 1)];
     main.LabelPuzzlePage.picture = page.picture;
-    main.LabelPuzzlePage.spoken = page.spoken;
+    main.LabelPuzzlePage.accessibleName = page.accessibleName;
 }
 
 void CommandPuzzle_Click(VMain& main) {

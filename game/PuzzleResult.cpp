@@ -33,7 +33,7 @@ void MakeResult(VMain& main) {
 void ShowMessage(Window& dialog, bool Solved) {
     Element& message = dialog["ImageMessage"];
     message.picture = Solved ? "PuzzleSolved" : "YouFailed";
-    message.spoken = Solved ? "You Succeeded!" : "Puzzle Failed...";
+    message.accessibleName = Solved ? "You Succeeded!" : "Puzzle Failed...";
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ constexpr std::array<Moment, kTutorialPictureCount> kMoments = {{
 // Where a picture can be clicked, in its own pixels; all bounds lie outside the spot.
 struct Spot {
     std::size_t picture;
-    std::string_view spoken;
+    std::string_view accessibleName;
     bool rightButtonOnly;
     float xAbove;
     float xBelow;
@@ -65,8 +65,8 @@ bool Contains(const Spot& spot, float x, float y) {
 // The part of a spot that can be seen: one of them reaches below its picture.
 PressSpot SeenPart(const Spot& spot, const Element& picture) {
     const float bottom = std::min(spot.yBelow, static_cast<float>(picture.height));
-    return {spot.spoken,          spot.xAbove,         spot.yAbove, spot.xBelow - spot.xAbove,
-            bottom - spot.yAbove, spot.rightButtonOnly};
+    return {spot.accessibleName,       spot.xAbove,          spot.yAbove,
+            spot.xBelow - spot.xAbove, bottom - spot.yAbove, spot.rightButtonOnly};
 }
 
 CLine* FindBeam(const Field& field, std::int16_t number) {

@@ -43,8 +43,8 @@ struct Font {
 
 // A place in a PressPicture that the player is asked to press, for players who use keys instead of a pointer.
 struct PressSpot {
-    std::string_view spoken = {};  // what a screen reader says of it
-    float left = 0;                // in the picture
+    std::string_view accessibleName = {};  // for screen readers
+    float left = 0;                        // in the picture
     float top = 0;
     float width = 0;  // 0 for no spot
     float height = 0;
@@ -71,15 +71,15 @@ struct Element {
     int width = 0;
     int height = 0;
     bool visible = true;
-    bool enabled = true;                // a disabled element is ignored by the mouse
-    bool fastPresses = false;           // the second press of a double click is a press as well
-    std::string_view picture = {};      // name of the picture it shows, empty for none
-    std::string_view spoken = {};       // what a screen reader says of it, before its text; empty for decoration
-    std::string text = {};              // starts at the left and top edge; what does not fit is cut off
-    ButtonFaces faces = {};             // of a Button: what `picture` changes between
-    std::string_view tag = {};          // which of its meanings a button has, if there are several
-    Colour colour = kBlack;             // of text, marks and outlines
-    std::optional<Colour> ground = {};  // the background of a label; without one, what is below shows through
+    bool enabled = true;                   // a disabled element is ignored by the mouse
+    bool fastPresses = false;              // the second press of a double click is a press as well
+    std::string_view picture = {};         // name of the picture it shows, empty for none
+    std::string_view accessibleName = {};  // for screen readers, read before the text; empty for decoration
+    std::string text = {};                 // starts at the left and top edge; what does not fit is cut off
+    ButtonFaces faces = {};                // of a Button: what `picture` changes between
+    std::string_view tag = {};             // which of its meanings a button has, if there are several
+    Colour colour = kBlack;                // of text, marks and outlines
+    std::optional<Colour> ground = {};     // the background of a label; without one, what is below shows through
     Font font = {};
     bool wraps = false;           // break the text into lines at the box's right edge
     int fitHeight = 0;            // above 0, the text is set smaller than its font if it would not fit this height

@@ -73,7 +73,7 @@ std::vector<Element> MakeElements() {
     std::ranges::find(table, "Label11", &Element::name)->fitHeight = kObjectiveHeight;
     Element picture = MakePicture("Image1", 202, 28, 195, 58);
     picture.picture = "AboutPicture";
-    picture.spoken = "Prismfall";
+    picture.accessibleName = "Prismfall";
     table.push_back(picture);
     Element outline = MakePicture("Shape1", 12, 90, 383, 105);
     outline.kind = ElementKind::Outline;

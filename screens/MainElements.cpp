@@ -13,7 +13,7 @@ struct TutorialPicture {
     std::string_view name;
     int width;
     int height;
-    std::string_view spoken;
+    std::string_view accessibleName;
 };
 
 constexpr std::array<TutorialPicture, kTutorialPictureCount> kTutorialPictures = {{
@@ -47,11 +47,11 @@ MainElements::MainElements() {
         const TutorialPicture& picture = kTutorialPictures[i];
         PictTut[i] = MakePicture(picture.name, 0, 0, picture.width, picture.height);
         PictTut[i].kind = ElementKind::PressPicture;
-        PictTut[i].spoken = picture.spoken;
+        PictTut[i].accessibleName = picture.accessibleName;
         PictTut[i].visible = false;
     }
     CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to leaf through the pages
-    ImagePrismfall.spoken = "Prismfall";
+    ImagePrismfall.accessibleName = "Prismfall";
     LabelPuzzlePage.picture = {};
 }
 

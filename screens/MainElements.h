@@ -22,12 +22,12 @@ inline Element MakePicture(std::string_view name, int left, int top, int width, 
 }
 
 inline Element MakeButton(std::string_view name, int left, int top, int width, int height, ButtonFaces faces,
-                          std::string_view spoken) {
+                          std::string_view accessibleName) {
     Element button = MakePicture(name, left, top, width, height);
     button.kind = ElementKind::Button;
     button.faces = faces;
     button.picture = faces.up;
-    button.spoken = spoken;
+    button.accessibleName = accessibleName;
     return button;
 }
 
@@ -35,7 +35,7 @@ inline Element MakeButton(std::string_view name, int left, int top, int width, i
 struct ButtonMeaning {
     ButtonFaces faces;
     std::string_view tag;
-    std::string_view spoken;
+    std::string_view accessibleName;
 };
 
 inline constexpr ButtonMeaning kStart{{"StartUp", "StartDown"}, "", "Start"};
@@ -48,16 +48,16 @@ inline void SetMeaning(Element& button, const ButtonMeaning& meaning) {
     button.faces = meaning.faces;
     button.picture = meaning.faces.up;
     button.tag = meaning.tag;
-    button.spoken = meaning.spoken;
+    button.accessibleName = meaning.accessibleName;
 }
 
 // A number in red on a panel's picture.
 inline Element MakeNumber(std::string_view name, const Element& panel, int left, int top, int width, int height,
-                          std::string_view spoken) {
+                          std::string_view accessibleName) {
     Element number = MakePicture(name, left, top, width, height);
     number.kind = ElementKind::Label;
     number.picture = {};
-    number.spoken = spoken;
+    number.accessibleName = accessibleName;
     number.colour = kRed;
     number.font = {.family = "Arial", .points = 14.25F};
     number.panel = &panel;

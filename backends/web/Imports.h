@@ -42,7 +42,7 @@ struct SpotRecord {
     float width = 0;  // 0 for no spot
     float height = 0;
     std::int32_t button = 0;  // the MouseButton to press it with
-    Text spoken;
+    Text accessibleName;
 };
 
 struct ElementRecord {
@@ -64,7 +64,7 @@ struct ElementRecord {
     std::int32_t fitHeight = 0;
     Text family;
     Text picture;
-    Text spoken;
+    Text accessibleName;
     Text text;
     Text group;
     SpotRecord spots[2];

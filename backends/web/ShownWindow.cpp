@@ -10,7 +10,7 @@ namespace {
 
 page::SpotRecord SpotOf(const PressSpot& spot) {
     const MouseButton button = spot.rightButton ? MouseButton::Right : MouseButton::Left;
-    return {spot.left, spot.top, spot.width, spot.height, static_cast<std::int32_t>(button), spot.spoken};
+    return {spot.left, spot.top, spot.width, spot.height, static_cast<std::int32_t>(button), spot.accessibleName};
 }
 
 }  // namespace
@@ -62,7 +62,7 @@ void ShownWindow::Send(std::size_t place) const {
     record.fitHeight = element.fitHeight;
     record.family = element.font.family;
     record.picture = element.picture;
-    record.spoken = element.spoken;
+    record.accessibleName = element.accessibleName;
     record.text = std::string_view(element.text);
     record.group = element.group;
     std::ranges::transform(element.spots, record.spots, SpotOf);

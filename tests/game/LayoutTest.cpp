@@ -28,7 +28,7 @@ void Describe(std::ostream& out, const Window& window, Element& element) {
         window.on.mouseMove(0, 0);
         out << ' ' << element.picture << ' ' << down;
     }
-    if (!element.spoken.empty()) out << " spoken=\"" << element.spoken << '"';
+    if (!element.accessibleName.empty()) out << " accessibleName=\"" << element.accessibleName << '"';
     if (element.picture.empty())
         out << ' ' << element.font.points << (element.font.bold ? " bold" : "")
             << (element.font.italic ? " italic" : "") << (element.wraps ? " wraps" : "") << std::hex << std::uppercase

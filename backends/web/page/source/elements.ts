@@ -20,7 +20,7 @@ class Shown {
     readonly input: HTMLInputElement | undefined;
     readonly words: HTMLElement | undefined;
     readonly unseen: HTMLElement | undefined;
-    spokenLast = '';
+    lastAnnounced = '';
 
     constructor(record: ElementRecord, place: number) {
         switch (record.kind) {
@@ -82,13 +82,13 @@ export class Elements {
         if (node instanceof HTMLButtonElement) node.disabled = !record.enabled;
         if (image) {
             this.pictures.show(image, record.picture);
-            image.alt = record.spoken;
+            image.alt = record.accessibleName;
         }
         if (input) {
             input.checked = record.checked;
             input.disabled = !record.enabled;
         }
-        if (unseen) unseen.textContent = record.spoken && `${record.spoken} `;
+        if (unseen) unseen.textContent = record.accessibleName && `${record.accessibleName} `;
         if (words) setText(node, words, record);
         this.speak(element, record);
     }
@@ -120,10 +120,10 @@ export class Elements {
 
     /** Numbers that change and pictures that tell something are said when they come. */
     private speak(element: Shown, record: ElementRecord): void {
-        const tells = (record.kind === Kind.Label && record.spoken !== '') || record.kind === Kind.PressPicture;
-        const words = tells && record.visible ? `${record.spoken} ${record.text}` : '';
-        if (words !== element.spokenLast && words !== '') this.notices.speak(words);
-        element.spokenLast = words;
+        const tells = (record.kind === Kind.Label && record.accessibleName !== '') || record.kind === Kind.PressPicture;
+        const words = tells && record.visible ? `${record.accessibleName} ${record.text}` : '';
+        if (words !== element.lastAnnounced && words !== '') this.notices.speak(words);
+        element.lastAnnounced = words;
     }
 }
 
@@ -149,7 +149,7 @@ function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): 
 function makeSpot(spot: SpotRecord): HTMLButtonElement {
     const node = make('button', 'spot');
     for (const side of ['left', 'top', 'width', 'height'] as const) node.style[side] = `${spot[side]}px`;
-    node.setAttribute('aria-label', spot.spoken);
+    node.setAttribute('aria-label', spot.accessibleName);
     node.dataset['button'] = String(spot.button);
     return node;
 }

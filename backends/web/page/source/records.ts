@@ -94,7 +94,7 @@ export interface SpotRecord {
     readonly width: number;
     readonly height: number;
     readonly button: number;
-    readonly spoken: string;
+    readonly accessibleName: string;
 }
 
 export interface ElementRecord {
@@ -116,7 +116,7 @@ export interface ElementRecord {
     readonly fitHeight: number;
     readonly family: string;
     readonly picture: string;
-    readonly spoken: string;
+    readonly accessibleName: string;
     readonly text: string;
     readonly group: string;
     readonly spots: readonly SpotRecord[];
@@ -137,7 +137,7 @@ function readSpot(field: FieldReader): SpotRecord {
         width: field.real(),
         height: field.real(),
         button: field.whole(),
-        spoken: field.text(),
+        accessibleName: field.text(),
     };
 }
 
@@ -165,7 +165,7 @@ function elementFrom(field: FieldReader): ElementRecord {
         fitHeight: field.whole(),
         family: field.text(),
         picture: field.text(),
-        spoken: field.text(),
+        accessibleName: field.text(),
         text: field.text(),
         group: field.text(),
         spots: [readSpot(field), readSpot(field)].filter(({ width }) => width > 0),
