@@ -1,4 +1,4 @@
-// The game: puts the real machine and the state together and runs. It takes no command line.
+// The game: connects the desktop backend and the game's state and runs. It takes no command-line arguments.
 #include <SDL_filesystem.h>
 #include <SDL_stdinc.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where the pictures lie, seen from the folder of the program: beside it, installed, and in a checkout.
+// Where the pictures are, relative to the program's folder: next to it, installed, and in a checkout.
 constexpr std::array<const char*, 3> kPictureFolders = {"pictures", PRISMFALL_DATA_FOLDER "/pictures",
                                                         "../../assets/pictures"};
 

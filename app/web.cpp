@@ -1,4 +1,4 @@
-// The game in a browser: the page calls `run`, which comes back when the program has ended.
+// The game in a browser: the page calls `run`, which returns when the program has ended.
 #include <array>
 #include <cstdint>
 
@@ -9,7 +9,8 @@
 
 namespace {
 
-// Where browsers that cannot suspend a program keep its stack while it waits: from the first address to the second.
+// Where the stack is saved during a wait in browsers that cannot suspend a program: from the first address to the
+// second.
 struct SuspendedStack {
     std::uint8_t* start;
     std::uint8_t* end;

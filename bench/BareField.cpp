@@ -37,7 +37,7 @@ void BareField::Add(int tailX, int tailY, int headX, int headY, int color, bool 
     isGrowing.push_back(grows);
 }
 
-// A beam whose box is farther away than 3 pixels is passed over, as in the game.
+// A beam whose box is more than 3 pixels away is skipped, as in the game.
 std::size_t BareField::FindNear(int x, int y, int prevY, int way) const {
     for (std::size_t i = 0; i < Count(); ++i) {
         const auto [left, right] = std::minmax(xStart[i], xEnd[i]);

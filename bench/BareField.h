@@ -1,5 +1,5 @@
-// The floor that the benchmarks compare with: the arithmetic of the game in bare loops over arrays, with no lists, no
-// states and no rules around it. It plays no game.
+// The baseline that the benchmarks compare with: the game's arithmetic in bare loops over arrays, without lists, states
+// or rules. It does not play a game.
 #pragma once
 
 #include <cstddef>
@@ -20,7 +20,7 @@ struct BareField {
 
     // The first beam near the test point, or Count().
     std::size_t FindNear(int x, int y, int prevY, int way) const;
-    // One step of every growing beam, looked ahead and painted.
+    // One step of every growing beam, with its look-ahead and painting.
     void Tick(Surface& surface);
     // Runs one beam to the ground, painting each step.
     void RunDown(Surface& surface, std::size_t beam);

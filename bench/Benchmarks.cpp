@@ -1,4 +1,4 @@
-// What the game does most, each beside its floor (BareField). `bench/ratios` runs this and compares.
+// What the game does most, each paired with its baseline (BareField). `bench/ratios` runs this and compares.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -20,7 +20,7 @@ namespace {
 constexpr int kTicksAtATime = 100;
 constexpr std::int16_t kFastBeamTop = 70;
 
-// The same beams as a game and as bare arrays.
+// The same beams, once as a game and once as bare arrays.
 struct Pair {
     std::ostream nowhere{nullptr};
     HeadlessPlatform machine{nowhere};
@@ -54,14 +54,14 @@ struct Pair {
         main.field.Lines[beam]->YEnd = bare.yEnd[beam] = static_cast<std::int16_t>(headY);
     }
 
-    // What a frame takes.
+    // The work of one frame.
     void TakeDamage() {
         machine.Painted().TakeDamage(damage);
         surface.TakeDamage(damage);
     }
 };
 
-// Thirty that grow among sixty, in lanes of their own, so that none meets another.
+// Thirty growing beams among sixty, in separate lanes, so that none hits another.
 struct BusyField : Pair {
     BusyField() {
         for (int i = 0; i < 60; ++i) Add(HeadX(i) - 20, 80, HeadX(i), 100, i % 4, i % 2 == 0);
@@ -86,7 +86,7 @@ void Tick(benchmark::State& state) {
 }
 BENCHMARK(Tick);
 
-void TickFloor(benchmark::State& state) {
+void TickBaseline(benchmark::State& state) {
     BusyField pair;
     for (auto _ : state) {
         for (int tick = 0; tick < kTicksAtATime; ++tick) {
@@ -97,9 +97,9 @@ void TickFloor(benchmark::State& state) {
     }
     state.SetItemsProcessed(state.iterations() * kTicksAtATime);
 }
-BENCHMARK(TickFloor);
+BENCHMARK(TickBaseline);
 
-// A thousand beams all over the field, and test points that meet none of them: each walk goes to the end.
+// A thousand beams all over the field, and test points that hit none of them: every search runs to the end.
 struct CrowdedField : Pair {
     struct Point {
         std::int16_t x, y;
@@ -129,15 +129,15 @@ void FindCollisionIn1000(benchmark::State& state) {
 }
 BENCHMARK(FindCollisionIn1000);
 
-void FindCollisionIn1000Floor(benchmark::State& state) {
+void FindCollisionIn1000Baseline(benchmark::State& state) {
     const CrowdedField pair;
     for (auto _ : state)
         for (const auto& [x, y] : pair.points) benchmark::DoNotOptimize(pair.bare.FindNear(x, y, 1000, -1));
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(pair.points.size()));
 }
-BENCHMARK(FindCollisionIn1000Floor);
+BENCHMARK(FindCollisionIn1000Baseline);
 
-// One beam with the whole field before it, among sixty that it passes.
+// One beam that crosses the whole field and passes sixty others.
 struct OpenField : Pair {
     OpenField() {
         for (int i = 0; i < 60; ++i) Add(500 + i % 3, 80 + i, 620 + i % 3, 200 + i, i % 4, false);
@@ -160,7 +160,7 @@ void SpeedUp(benchmark::State& state) {
 }
 BENCHMARK(SpeedUp);
 
-void SpeedUpFloor(benchmark::State& state) {
+void SpeedUpBaseline(benchmark::State& state) {
     OpenField pair;
     for (auto _ : state) {
         pair.bare.RunDown(pair.surface, 60);
@@ -168,7 +168,7 @@ void SpeedUpFloor(benchmark::State& state) {
     }
     state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(SpeedUpFloor);
+BENCHMARK(SpeedUpBaseline);
 
 struct FullField : Pair {
     FullField() {
@@ -186,7 +186,7 @@ void Redraw(benchmark::State& state) {
 }
 BENCHMARK(Redraw);
 
-void RedrawFloor(benchmark::State& state) {
+void RedrawBaseline(benchmark::State& state) {
     FullField pair;
     for (auto _ : state) {
         pair.bare.Paint(pair.surface);
@@ -194,7 +194,7 @@ void RedrawFloor(benchmark::State& state) {
     }
     state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(RedrawFloor);
+BENCHMARK(RedrawBaseline);
 
 }  // namespace
 }  // namespace prismfall::bench

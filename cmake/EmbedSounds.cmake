@@ -1,6 +1,6 @@
-# Writes the wave files of SOUNDS into the C++ source OUTPUT as the definition of LoadSoundResource. Run by the build:
+# Writes the wave files in SOUNDS to the C++ source OUTPUT as the definition of LoadSoundResource. Run by the build:
 #   cmake -DSOUNDS=FOLDER -DOUTPUT=FILE [-DLIMIT=BYTES] -P EmbedSounds.cmake
-# With a limit it takes only that many bytes of each.
+# With a limit, only that many bytes of each file.
 if(LIMIT)
     set(limit LIMIT ${LIMIT})
 endif()

@@ -15,7 +15,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(ENV{PKG_CONFIG_LIBDIR} ${windows_libraries}/lib/pkgconfig)
 set(PKG_CONFIG_ARGN --static)
 
-# Windows 10. The compiler's own libraries become part of the programs, and two builds of one commit are the same.
+# Windows 10. The compiler's own libraries are linked statically, and two builds of one commit are identical.
 set(CMAKE_C_FLAGS_INIT "-D_WIN32_WINNT=0x0A00 -DWINVER=0x0A00 -D_FILE_OFFSET_BITS=64")
 set(CMAKE_CXX_FLAGS_INIT "${CMAKE_C_FLAGS_INIT}")
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")

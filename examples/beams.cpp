@@ -1,5 +1,5 @@
-// Plays beams without the rest of Prismfall: a playfield that paints letters on the terminal, random beams that grow on
-// it, and what has come of each.
+// Runs beams without the rest of Prismfall: a playfield that paints letters on the terminal, random beams that grow on
+// it, and the outcome of each.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -14,7 +14,7 @@
 
 using namespace prismfall;
 
-// A letter for each 10 by 20 pixels. A beam's core is painted as a letter, its edges are left out.
+// One letter per 10 by 20 pixels. A beam's core is painted as a letter, its edges are left out.
 struct Terminal : SurfacePainter {
     std::array<std::string, 31> rows;
     Terminal() { rows.fill(std::string(68, ' ')); }

@@ -1,11 +1,11 @@
-// Measures the time from what the mouse does to a changed pixel: it moves or clicks like a real mouse and watches one
-// pixel in the virtual display's memory, which costs neither the display nor the game anything.
+// Measures the latency from mouse to pixel: it moves or clicks like a real mouse and watches one pixel in the virtual
+// display's memory, which costs neither the display nor the game anything.
 //
 //     prismfall_bench_latency FRAMEBUFFER OFFSET COUNT click X Y
 //     prismfall_bench_latency FRAMEBUFFER OFFSET COUNT hover X Y AWAY_X AWAY_Y
 //
 // FRAMEBUFFER is the file in which Xvfb keeps the display, OFFSET the pixel's place in it. Prints microseconds, one
-// measurement a line.
+// measurement per line.
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 #include <fcntl.h>
@@ -28,9 +28,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto kLongest = 1s;   // a change that takes longer is none
-constexpr auto kLook = 20us;    // between two looks
-constexpr auto kSettle = 30ms;  // between two measurements, and up to kUneven more, so that both fall asleep
+constexpr auto kLongest = 1s;   // a slower change counts as none
+constexpr auto kLook = 20us;    // between two checks
+constexpr auto kSettle = 30ms;  // between two measurements, plus up to kUneven, so that both go to sleep
 constexpr int kUnevenMicroseconds = 20'000;
 
 const volatile std::uint32_t* MapPixel(const char* path, std::size_t offset) {
@@ -55,7 +55,7 @@ void Click(Display* display) {
     XFlush(display);
 }
 
-// Microseconds until the pixel is another one, or -1.
+// Microseconds until the pixel changes, or -1.
 template <typename Act>
 long TimeToChange(const volatile std::uint32_t* pixel, const Act& act) {
     const std::uint32_t before = *pixel;

@@ -1,5 +1,5 @@
-// The least that a program on SDL2 can do: it opens a window of the game's size without acceleration, fills it once and
-// waits until it is closed. What the game takes beyond this is its own.
+// The least that an SDL2 program can do: it opens a window of the game's size without acceleration, fills it once and
+// waits until it is closed. Whatever the game needs beyond this is its own cost.
 #include <SDL.h>
 
 #include <cstdio>
@@ -28,7 +28,7 @@ int main(int, char**) {
     SDL_UpdateWindowSurface(window);
     SDL_Event event;
     while (SDL_WaitEvent(&event) == 1 && event.type != SDL_QUIT) {
-        // Nothing but the end matters here.
+        // Only the end matters here.
     }
     SDL_Quit();
     return 0;

@@ -33,11 +33,11 @@ signal.signal(signal.SIGTERM, lambda *_: os._exit(end_all() or 1))
 
 
 class Missing(Exception):
-    """What was waited for has not come."""
+    """What was waited for has not appeared."""
 
 
 def wait_for(condition, seconds=5, what="the condition"):
-    """Calls `condition` until it gives something true, and gives that back."""
+    """Calls `condition` until it returns something true, and returns that."""
     end = time.monotonic() + seconds
     while True:
         answer = condition()
@@ -49,7 +49,7 @@ def wait_for(condition, seconds=5, what="the condition"):
 
 
 def holds_for(condition, seconds):
-    """Whether `condition` is true all the time for so long."""
+    """Whether `condition` stays true for that long."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         if not condition():
@@ -59,7 +59,7 @@ def holds_for(condition, seconds):
 
 
 def end_with_me():
-    """In a child process: it ends when this one does, even if this one is killed."""
+    """In a child process: ends it when this one ends, even if this one is killed."""
     ctypes.CDLL(None).prctl(1, signal.SIGKILL)
 
 
@@ -89,7 +89,7 @@ class Pixels:
 
 
 class Screen:
-    """The display's memory, which the X server keeps in a file. Looking at it costs the server nothing."""
+    """The display's memory, which the X server keeps in a file. Reading it costs the server nothing."""
 
     def __init__(self, path):
         with open(path, "rb") as file:
@@ -109,7 +109,7 @@ class Screen:
 
 
 class Desktop:
-    """A display of its own, with or without a window manager."""
+    """A separate display, with or without a window manager."""
 
     def __init__(self, manager=True, size="1280x1024"):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="prismfall-desktop-"))
@@ -136,8 +136,8 @@ class Desktop:
         return self.processes[-1]
 
     def settle(self):
-        """Gives the window manager time to forget windows that have gone. It could take a new one for an old one, since
-        the display gives their numbers out again, and never show it."""
+        """Gives the window manager time to forget closed windows. It could mistake a new one for an old one, since the
+        display reuses their numbers, and never show it."""
         end = time.monotonic() + 1
         while "0x" in self.output("xprop", "-root", "_NET_CLIENT_LIST") and time.monotonic() < end:
             time.sleep(PAUSE)
@@ -158,7 +158,7 @@ class Desktop:
         self.output("xdotool", *[str(word) for word in words])
 
     def windows(self, title):
-        """The visible windows of exactly this title."""
+        """The visible windows with exactly this title."""
         found = self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
         return [Window(self, int(number)) for number in found]
 
@@ -167,25 +167,25 @@ class Desktop:
 
 
 class Window:
-    """A window of the program; places are pixels of its inside."""
+    """A window of the program; places are pixels of its inner area."""
 
     def __init__(self, desktop, number):
         self.desktop, self.number = desktop, number
 
     def facts(self):
-        """Its lines of xwininfo by name."""
+        """Its xwininfo values by name."""
         lines = self.desktop.output("xwininfo", "-id", str(self.number)).splitlines()
         return {name.strip(): value.strip() for name, colon, value in (line.partition(":") for line in lines) if colon}
 
     def place(self):
-        """Left, top, width and height of the inside on the display."""
+        """Left, top, width and height of the inner area on the display."""
         facts = self.facts()
         if "Width" not in facts:
             raise Missing(f"window {self.number} is gone")
         return tuple(int(facts[n]) for n in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     def frame(self):
-        """Widths of the frame: left, right, top, bottom. All 0 without one."""
+        """Widths of the frame: left, right, top, bottom. All 0 if there is none."""
         text = self.property("_NET_FRAME_EXTENTS")
         return tuple(int(number) for number in text.split(",")) if text else (0, 0, 0, 0)
 
@@ -201,7 +201,7 @@ class Window:
         self.desktop.mouse("mousemove", left + x, top + y)
 
     def click(self, x, y, button=1, times=1, delay=40):
-        """Clicks so many times, `delay` milliseconds apart."""
+        """Clicks repeatedly, `delay` milliseconds apart."""
         left, top, _, _ = self.place()
         repeat = ["--repeat", times, "--delay", delay] if times > 1 else []
         self.desktop.mouse("mousemove", left + x, top + y, "click", *repeat, button)
@@ -213,7 +213,7 @@ class Window:
         return self.viewer(x, y, width, height)()
 
     def viewer(self, x, y, width, height):
-        """A routine that looks at one place quickly, for as long as the window is not moved."""
+        """A function that reads one place quickly, as long as the window is not moved."""
         left, top, _, _ = self.place()
         return lambda: self.desktop.screen.pixels(left + x, top + y, width, height)
 

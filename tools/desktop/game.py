@@ -11,18 +11,18 @@ from desktop import ENDING, Missing, holds_for, wait_for
 
 
 def later_run(**general):
-    """Settings of a run that is not the first one, in silence unless a test wants it otherwise."""
+    """Settings of a run that is not the first, silent unless a test asks for sound."""
     return {"General": {"PlayFirstTime": "False", "Music": "False"} | general}
 
 
 def still(look, seconds):
-    """Whether what is seen does not change for so long."""
+    """Whether the picture does not change for that long."""
     before = look()
     return holds_for(lambda: look() == before, seconds)
 
 
 class Settings:
-    """A folder for settings of the test's own."""
+    """A folder for the test's own settings."""
 
     def __init__(self, values=None):
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="prismfall-settings-"))
@@ -90,11 +90,11 @@ class Game:
     # The main window.
 
     def press(self, button):
-        """Clicks a button of the main window, which must be there for the mouse."""
+        """Clicks a button of the main window, which must be clickable."""
         self.main.click(*layout.middle(button))
 
     def rest_mouse(self):
-        """Puts the pointer where it lies on no button and gives all of them their Up faces."""
+        """Moves the pointer away from all buttons, so that all show their Up faces."""
         self.main.move(*layout.NO_ELEMENT)
 
     def face(self, element):
@@ -108,7 +108,7 @@ class Game:
         wait_for(self.in_main_menu, seconds, "the main menu")
 
     def start_puzzle(self, puzzle):
-        """From the main menu, by way of the puzzle's page."""
+        """From the main menu, through the puzzle's page."""
         self.press("CommandPuzzle")
         wait_for(lambda: self.coloured(layout.PLAYFIELD) > 1000, 5, "the puzzle menu")
         for _ in range((puzzle - 1) // 9):
@@ -131,7 +131,7 @@ class Game:
         return self.main.pixels(*box).count(*layout.CORES)
 
     def lowest_head(self, y=0):
-        """Where the lowest beam ends, below the blue line, if that is at `y` or lower."""
+        """Where the lowest beam below the blue line ends, if that is at `y` or lower."""
         left, top, width, _ = layout.BELOW_BLUE_LINE
         words = self.main.pixels(*layout.BELOW_BLUE_LINE).words()
         for at in range(len(words) - 1, max(y - top, 0) * width - 1, -1):
@@ -153,6 +153,6 @@ class Game:
         wait_for(lambda: not self.desktop.windows(title), 5, f"the end of {title!r}")
 
     def answer_dialog(self, title, button=None, seconds=5):
-        """Clicks a button of a dialog, OK if none is named, and waits until it is gone."""
+        """Clicks a button of a dialog, by default OK, and waits until the dialog is gone."""
         self.desktop.window(title, seconds).click(*layout.middle(button or layout.OK[title], title))
         self.wait_for_close(title)

@@ -1,4 +1,4 @@
-"""Where things are in the game's windows, in pixels of their insides, read from what the game says of itself."""
+"""Where things are in the game's windows, in pixels of their inner areas, read from the list that the game prints."""
 import pathlib
 import re
 

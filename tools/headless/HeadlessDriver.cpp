@@ -59,7 +59,7 @@ Timer TimerOf(Arguments& words) {
     return Timer::LineDeleter;
 }
 
-// Whether the next word is `yes`; anything but `yes` or `no` is a fault.
+// Whether the next word is `yes`; anything else except `no` is an error.
 bool Choice(Arguments& words, std::string_view yes, std::string_view no) {
     const std::string word = words.Word();
     if (word != yes && word != no) words.Fail("neither " + std::string(yes) + " nor " + std::string(no));
@@ -70,9 +70,9 @@ bool Choice(Arguments& words, std::string_view yes, std::string_view no) {
 
 struct HeadlessDriver::Command {
     std::string_view name;
-    std::size_t fewestWords;  // behind the name
+    std::size_t fewestWords;  // after the name
     std::size_t mostWords;
-    bool needsProgram;                                          // only while the program runs
+    bool needsProgram;                                          // only while the program is running
     void (*execute)(HeadlessDriver& driver, Arguments& words);  // does nothing if a word is bad
 };
 
@@ -140,7 +140,7 @@ std::string HeadlessDriver::Execute(std::string_view line) {
     return arguments.Fault();
 }
 
-// --- The program and the world around it.
+// --- The program and its environment.
 
 void HeadlessDriver::Load(Arguments& words) {
     if (IsRunning()) return words.Fail("the program is running already");

@@ -1,4 +1,4 @@
-// Reads a script, a command a line, and runs the whole game by it on a headless platform. What happens is printed; a
+// Reads a script, one command per line, and runs the whole game from it on a headless platform. Prints what happens; a
 // line that cannot be executed ends the run.
 #pragma once
 
@@ -19,7 +19,7 @@ class HeadlessDriver {
   public:
     explicit HeadlessDriver(std::ostream& output) : out(output), platform(output) {}
 
-    // Executes one line. Returns why it cannot be executed, or nothing; what was printed before stays.
+    // Executes one line. Returns why it cannot be executed, or nothing; whatever was printed before that stays.
     std::string Execute(std::string_view line);
 
   private:
@@ -48,10 +48,10 @@ class HeadlessDriver {
 
     std::ostream& out;
     HeadlessPlatform platform;
-    std::unique_ptr<VMain> main;  // nothing while the program does not run
+    std::unique_ptr<VMain> main;  // null while the program is not running
 };
 
-// Runs a whole script. The exit status: 0, or 2 after a line that `errors` then tells.
+// Runs a whole script. Returns the exit status: 0, or 2 after a bad line, which is reported on `errors`.
 int RunScript(std::istream& script, std::ostream& output, std::ostream& errors);
 
 }  // namespace prismfall

@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\v\f";
 constexpr std::string_view kDigits = "0123456789";
 
-// Digits with or without a point among them, perhaps behind a minus.
+// Digits with or without a decimal point, perhaps after a minus.
 bool IsDecimal(std::string_view word) {
     if (word.starts_with('-')) word.remove_prefix(1);
     const std::size_t point = std::min(word.find('.'), word.size());

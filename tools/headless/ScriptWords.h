@@ -1,4 +1,4 @@
-// Takes a script line apart: words, and what they are meant to be.
+// Parses a script line: its words, and the values they stand for.
 #pragma once
 
 #include <cstddef>
@@ -12,26 +12,26 @@ namespace prismfall {
 
 using Words = std::vector<std::string>;
 
-// The words of a line, without the comment that a # starts.
+// The words of a line, without the comment that starts at a #.
 Words SplitWords(std::string_view line);
 
-// The words behind a command's name, taken one after the other; there must be a next one. The first that is not what it
-// should be is the line's fault. After that the calls go on and give values in their ranges, which nobody must use.
+// The words after a command's name, taken one after the other; there must be a next one. The first bad word is the
+// line's error. Later calls still return values in their ranges, but these must not be used.
 class Arguments {
   public:
     explicit Arguments(Words line) : words(std::move(line)) {}
 
     std::size_t Left() const { return words.size() - next; }
-    const std::string& Next() const { return words[next]; }  // which is not taken yet
+    const std::string& Next() const { return words[next]; }  // without taking it
     std::string Word() { return words[next++]; }
-    // A whole decimal number from `lowest` to `highest`.
+    // A decimal integer from `lowest` to `highest`.
     std::int64_t WholeNumber(std::int64_t lowest, std::int64_t highest);
-    // A whole number of 16 bits.
+    // A 16-bit integer.
     std::int16_t ShortNumber();
     // A decimal number that may have a fraction.
     double DecimalNumber();
 
-    // Only the first fault counts.
+    // Only the first error counts.
     void Fail(std::string why);
     bool IsGood() const { return fault.empty(); }
     const std::string& Fault() const { return fault; }

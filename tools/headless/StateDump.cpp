@@ -18,7 +18,7 @@ int NumberOf(Enum value) {
     return static_cast<int>(value);
 }
 
-// The place of a beam in Lines, from 1; 0 for one that is no longer there.
+// A beam's position in Lines, from 1; 0 if it is no longer there.
 std::ptrdiff_t PlaceOf(const Field& field, const CLine* beam) {
     const auto found = std::ranges::find(field.Lines, beam);
     return found == field.Lines.end() ? 0 : found - field.Lines.begin() + 1;

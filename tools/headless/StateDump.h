@@ -1,4 +1,4 @@
-// Prints what the game holds, for scripts and people to read: state, beams, elements, settings, store.
+// Prints the game's data for scripts and people to read: state, beams, elements, settings, store.
 #pragma once
 
 #include <ostream>
@@ -11,7 +11,7 @@ namespace prismfall {
 void PrintDump(std::ostream& out, const VMain& main, const TimerWheel& timers);
 // The visible elements of the main window, sorted by name.
 void PrintElements(std::ostream& out, const VMain& main);
-// The settings in memory and the score table, with the time of the clock.
+// The settings in memory and the score table, with the clock's time.
 void PrintSettings(std::ostream& out, const VMain& main, std::int64_t time);
 void PrintStore(std::ostream& out, const HeadlessPlatform& platform);
 

@@ -1,4 +1,4 @@
-// The timers by name, in the order in which they are printed.
+// The timers by name, in print order.
 #pragma once
 
 #include <array>

@@ -10,7 +10,7 @@
 
 int main() {
 #ifdef _WIN32
-    // What is printed is the same on every machine, the ends of lines too.
+    // The output is the same on every machine, including line endings.
     _setmode(_fileno(stdout), _O_BINARY);
 #endif
     std::ios::sync_with_stdio(false);
