@@ -1,4 +1,4 @@
-// Which track plays when, and the sounds that the program carries.
+// Which track plays when, and the sounds embedded in the program.
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -12,7 +12,7 @@ namespace prismfall {
 namespace {
 
 TEST(Music, EveryNumberHasItsTrackAndOthersNone) {
-    // From number 1 on; the tracks by what tells them apart in their names.
+    // From number 1 on, each track as the distinctive part of its name.
     constexpr std::string_view kTracks =
         "003 019 011 014 010 024 025 030 Oce 014 010 024 025 030 Oce 003 019 011 025 030 Oce 003 019 "
         "011 014 010 024 003 019 011 014 010 024 025 030 Oce 014 010 024 025 030 Oce 003 019 011 ";

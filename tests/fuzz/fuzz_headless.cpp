@@ -1,4 +1,4 @@
-// Feeds scripts to the headless driver. No script may crash, hang or leak; what it prints does not matter.
+// Feeds scripts to the headless driver. No script may crash, hang or leak; its output does not matter.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -10,8 +10,7 @@
 
 namespace {
 
-// A script may ask for years of play. Here one gets half a minute in all, and no line may ask for more than it has
-// left.
+// A script may ask for years of play. Here each gets half a minute in all, and no line may ask for more than is left.
 class Patience {
   public:
     bool Endures(const std::string& line) {

@@ -1,5 +1,5 @@
-// Feeds damaged settings files to the reader, and what it has read to the game's start-up. Saving over such a file must
-// keep every value that is saved.
+// Feeds damaged settings files to the reader, and the result to the game's start-up. Saving over such a file must keep
+// every saved value.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// What follows when a beam, growing or run forward, ends at another: sounds, points, the timers' speed, the blue line.
+// What happens when a beam, growing or run forward, ends at another: sounds, points, timer speed, the blue line.
 #include <gtest/gtest.h>
 
 #include "game/GrowthTick.h"
@@ -8,8 +8,8 @@
 namespace prismfall {
 namespace {
 
-// Mode; beams, of which the last grows one step, or runs from where it would have been before; what sounds in a tick
-// and in a run.
+// Mode; beams, of which the last grows one step, or runs forward from one step earlier; the sounds of a tick and of a
+// run.
 constexpr char kCollisions[] = R"(
     puzzle | 250,100 200,150 green stopped; 150,100 196,146 blue            | sound 1 async | sound 1 async
     puzzle | 250,100 200,150 blue; 150,100 196,146 blue                     | sound 4 sync  | sound 4 async

@@ -1,6 +1,5 @@
-// Everything in the windows, as a list to be compared with layout.expected: places, texts, the faces of the
-// buttons, and where the pictures of the tutorial can be pressed. The tests in a real window find their way by that
-// file.
+// Everything in the windows, as a list to be compared with layout.expected: places, texts, button faces, and where the
+// tutorial pictures can be pressed. The window tests find their way by that file.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -46,7 +45,7 @@ void Describe(std::ostream& out, TestMachine& machine, const Window& window) {
     for (Element* element : window.elements) Describe(out, window, *element);
 }
 
-// Where a picture of the tutorial can be pressed, by either button or by the right one.
+// Where a tutorial picture can be pressed, with either button or only the right one.
 void DescribeSpots(std::ostream& out, TestGame& game, std::size_t picture) {
     VMain& main = game.Main();
     for (const bool skips : {true, false}) {
@@ -75,7 +74,7 @@ void DescribeSpots(std::ostream& out, TestGame& game, std::size_t picture) {
     }
 }
 
-// When the pictures of the tutorial come, by the height of the beam that is its clock, and where.
+// When the tutorial pictures appear, by the height of the beam that is its clock, and where.
 void DescribeMoments(std::ostream& out, TestGame& game) {
     VMain& main = game.Main();
     AddBeams(game.Main().field, "400,20 400,20 red #4; 300,300 324,324 red #4; 300,300 324,324 red #3");
@@ -91,7 +90,7 @@ void DescribeMoments(std::ostream& out, TestGame& game) {
     }
 }
 
-TEST(Layout, StandsAsItShould) {
+TEST(Layout, IsAsExpected) {
     std::ostringstream out;
     TestGame game;
     VMain& main = game.QuietStore().Load();

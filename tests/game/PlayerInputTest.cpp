@@ -10,8 +10,8 @@
 namespace prismfall {
 namespace {
 
-// Mode and button; the beam that is pressed near its head; a second beam, across its way; what becomes of the first; a
-// beam that is added; what sounds.
+// Mode and button; the beam that is pressed near its head; a second beam, across its path; the first one afterwards; a
+// beam that is added; the sounds.
 constexpr char kPresses[] = R"(
     arcade left  | 100,29 130,59 blue           |                             | 130,59 130,59 blue left      |                            |
     arcade left  | 100,30 130,60 blue           |                             | 100,30 130,60 blue stopped   | 130,60 130,60 blue left    |

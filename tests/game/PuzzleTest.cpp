@@ -1,5 +1,5 @@
-// How the beams of a puzzle are joined when it is laid out, how its tutorial pauses, and a solution whose beams go
-// while it yields. What each step of a solution does, the solutions themselves show (StallsTest).
+// How the beams of a puzzle are linked when it is laid out, how the tutorial pauses, and a solution whose beams
+// disappear while it yields. What each solution step does is tested by the solutions themselves (StallsTest).
 #include <gtest/gtest.h>
 
 #include "game/PuzzleStart.h"
@@ -10,9 +10,9 @@
 namespace prismfall {
 namespace {
 
-// Beams, and "HEAD:LINKS/STOPS" of each, with places in Lines: a chain, also straight on or the other way round; not
-// one of two colours; heads on heads, of two colours and ways; heads on beams; none; two against one, and a head that
-// has moved.
+// Beams, and "HEAD:LINKS/STOPS" of each, as positions in Lines: a chain, also straight or reversed; no chain of two
+// colours; heads on heads, of two colours and directions; heads on beams; none; two against one, and a head that has
+// moved.
 constexpr char kLayouts[] = R"(
     100,100 150,150 red; 150,150 120,180 red  | 150,150:2/ 120,180:1/
     100,100 150,150 red; 150,150 180,180 red  | 150,150:2/ 180,180:1/
@@ -43,7 +43,7 @@ TEST(LinkPuzzleLines, AppliesTheFirstRuleThatHolds) {
 TEST(Tutorial, ItsSpeedAndItsPauses) {
     TestGame game;
     VMain& main = game.QuietStore().Load();
-    game.Machine().SetTimerInterval(Timer::LineExtender, 6);  // as a game of high level has left it
+    game.Machine().SetTimerInterval(Timer::LineExtender, 6);  // as left by a game at a high level
     StartPuzzleGame(main, false, false);
     EXPECT_EQ(game.Machine().Timers().Interval(Timer::LineExtender), 75);
     game.Click("CmdStart");
@@ -59,11 +59,11 @@ TEST(Tutorial, ItsSpeedAndItsPauses) {
     EXPECT_EQ(std::string(main.cmdPause.picture) + std::string(main.cmdPause.tag), "PauseUp");
 }
 
-TEST(PlaySolutionStep, StandsBeamsThatGoWhileItYields) {
+TEST(PlaySolutionStep, SurvivesBeamsThatDisappearWhileItYields) {
     TestGame game(Mode::SolutionReplay, "100,100 150,150 blue 1 #1; 400,100 200,300 blue stopped 1 #2");
     constexpr SolutionStep kScript[] = {{.TriggerLineNr = 1, .TriggerYEnd = 150, .SpeedUp = true},
                                         {.TriggerLineNr = 2, .TriggerYEnd = 300}};
-    game.Beam(1).StoppingLines = {&game.Beam(2)};  // so that it would fire its step, if it had not gone
+    game.Beam(1).StoppingLines = {&game.Beam(2)};  // so that it would trigger its step if it still existed
     game.Machine().SetTimerInterval(Timer::LineDeleter, 1);
     game.Machine().StartTimer(Timer::LineDeleter);
     PlaySolutionStep(game.Main(), kScript);

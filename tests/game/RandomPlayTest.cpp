@@ -1,6 +1,5 @@
-// A player who clicks at random, through whole games of all modes, against what must hold at every tick: of the beams,
-// of what is painted, and of what is kept. PRISMFALL_TEST_TICKS and PRISMFALL_TEST_SEED can ask for more than one short
-// run.
+// A player who clicks at random, through whole games of all modes, with checks at every tick: of the beams, the pixels
+// and the settings. PRISMFALL_TEST_TICKS and PRISMFALL_TEST_SEED select more than one short run.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -19,7 +18,7 @@
 namespace prismfall {
 namespace {
 
-// A whole number from the environment of the test program, or `fallback`.
+// An integer from the environment, or `fallback`.
 long FromEnvironment(const char* name, long fallback) {
     const char* text = std::getenv(name);
     return text == nullptr ? fallback : std::atol(text);
@@ -55,7 +54,7 @@ class RandomPlayer : public TestGame {
         if (!isSolution) CmdStart_Click(*main);
     }
 
-    // On beams mostly. A bend of a beam that is on a wall leads out of the field, so that is left out.
+    // Mostly on beams. Bending a beam that is on a wall leads out of the field, so that is left out.
     void Press() {
         int x = Number(0, 700), y = Number(0, 600);
         if (!main->field.Lines.empty() && Chance(90)) {
@@ -77,7 +76,7 @@ bool Holds(const std::vector<CLine*>& beams, const CLine* beam) {
     return std::ranges::find(beams, beam) != beams.end();
 }
 
-// What is wrong with a beam; empty for nothing.
+// What is wrong with a beam; empty if nothing is.
 std::string WrongWith(const CLine& beam) {
     const int across = (beam.XEnd - beam.XStart) * (beam.Direction == Heading::Rightwards ? 1 : -1);
     if (across != beam.YEnd - beam.YStart || across < 0) return "not a diagonal in its direction";
@@ -100,7 +99,7 @@ std::string WrongWith(const VMain& main) {
     return "";
 }
 
-TEST(RandomPlay, KeepsWhatMustHold) {
+TEST(RandomPlay, KeepsTheInvariants) {
     const auto seed = static_cast<std::uint32_t>(FromEnvironment("PRISMFALL_TEST_SEED", 1));
     const long ticks = FromEnvironment("PRISMFALL_TEST_TICKS", 60'000);
     RandomPlayer player(seed);

@@ -1,4 +1,4 @@
-// Points, levels and how fast they are, and the pop-up.
+// Points, levels and their speed, and the pop-up.
 #include "game/Scoring.h"
 
 #include <gtest/gtest.h>
@@ -56,7 +56,7 @@ TEST(PopUp, FloatsFromBesideTheCollision) {
         Element& label = main.LabelMulti;
         main.MultiDirection = direction;
         main.MultiColor = BeamColor::Yellow;
-        for (const int ticks : {5, 7}) {  // the second takes the label over
+        for (const int ticks : {5, 7}) {  // the second takes over the label
             AddScore(main, {2, sumX, 620});
             for (int tick = 0; tick <= ticks; ++tick) {
                 EXPECT_EQ(label.visible, tick < 7) << "tick " << tick;

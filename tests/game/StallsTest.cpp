@@ -1,5 +1,5 @@
-// All solutions, for both values that GrowthToggle can start with, on the driver's clock and on one that no machine
-// should have: it moves with every look, and stalls. Every stroke and sound must be the same.
+// All solutions, for both starting values of GrowthToggle, on the driver's clock and on a terrible one, which advances
+// with every reading and stalls. Every stroke and sound must be the same.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Prints as a headless machine does, on the timers and the game time of a real one.
+// Prints like a headless machine, but has the timers and the game time of a real one.
 class StallingMachine : public HeadlessPlatform {
   public:
     StallingMachine(std::ostream& events, std::uint32_t seed) : HeadlessPlatform(events), random(seed) {}

@@ -1,6 +1,6 @@
-// The state machine where the stories leave it out: what is behind a dialog, and where its answers lead. A state
-// looks like "MODE running C E D S P": C, E and D stand for the game's timers that run, S and P for the buttons
-// CmdStart and cmdPause that show.
+// The state machine, where the stories do not cover it: what is behind a dialog, and where its answers lead. A state
+// looks like "MODE running C E D S P": C, E and D are the game timers that run, S and P the buttons CmdStart and
+// cmdPause if visible.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -27,13 +27,13 @@ std::string Looks(TestGame& game) {
     return looks;
 }
 
-// Does what a word says.
+// Carries out one word.
 void Do(TestGame& game, const std::string& what) {
     VMain& main = game.Main();
     const bool isFirst = what == "tutorial";
     if (what == "lose" || what == "solve") {
         main.field.Lines.clear();
-        // One beam that has come down to the floor; or two of one colour before their collision, and time for it.
+        // One beam that has reached the floor; or two of one colour about to collide, and the time they need.
         AddBeams(game.Main().field,
                  what == "lose" ? "100,500 185,585 green" : "100,100 150,150 green; 220,100 170,150 green");
         if (what == "solve") return game.Machine().Run(2000);
@@ -49,8 +49,8 @@ void Do(TestGame& game, const std::string& what) {
     }
 }
 
-// What is done, word by word; the last word's dialog is answered by the button, or closed; what is behind it; and
-// after.
+// What is done, word by word; the button that answers the last word's dialog, or closing it; the state behind the
+// dialog; the state after it.
 constexpr char kDialogs[] = R"(
     CommandArcade lose       |                 | 3 P             | 0
     puzzle lose              |                 | 2 S P           | 2 S P
@@ -96,7 +96,7 @@ TEST(States, AnArcadeGameBeginsAfresh) {
     EXPECT_EQ(std::tuple(main.LevelLineCount, main.HighScore), std::tuple(0, 90));
 }
 
-// While the steps of a game's end run, nothing of what the player does reaches the game.
+// While a game's end runs, no input reaches the game.
 TEST(States, AGamesEndTakesNoInput) {
     TestGame game;
     VMain& main = game.QuietStore().Load();

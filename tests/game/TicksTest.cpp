@@ -1,4 +1,4 @@
-// The two ticks of a game: which beams grow and what cuts that short, what a removal does, and what each adds up.
+// The two ticks of a game: which beams grow and what cuts that short, what a removal does, and what each counts.
 #include <gtest/gtest.h>
 
 #include "game/GrowthTick.h"
@@ -56,13 +56,13 @@ TEST(LineDeleter, ThinsTheWholeChainAndTakesItOut) {
               "line 300 100 350 150 0x008000 5\nline 300 98 352 150 0x00FF00 1\nline 298 100 350 152 0x000400 1\n");
 }
 
-TEST(LineDeleter, ABeamThatStandsTwiceLosesTwoSteps) {
+TEST(LineDeleter, ABeamThatIsDyingTwiceLosesTwoSteps) {
     TestGame game(Mode::PuzzleGame, "400,400 410,410 blue stopped; 100,100 150,150 blue; 300,100 350,150 blue");
     VMain& main = game.Main();
     const CLine& twice = game.Beam(2);
     for (const std::size_t beam : {2U, 3U}) StartRemoval(main.field, game.Beam(beam), false);
     main.field.DyingLines.push_back(&game.Beam(2));
-    for (int i = 0; i < 100; ++i) main.field.Beams.Make();  // enough that it pays to free those out of reach
+    for (int i = 0; i < 100; ++i) main.field.Beams.Make();  // enough to make freeing unreachable ones worthwhile
     LineDeleter_Timer(main);
     EXPECT_EQ(Places(main.field, main.field.DyingLines), "2 3 2");
     EXPECT_EQ(twice.Thicknes + game.Beam(3).Thicknes, 2 + 3);

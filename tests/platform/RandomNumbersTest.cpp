@@ -1,4 +1,4 @@
-// That one number stands for all chance of a game.
+// All randomness of a game follows from one number.
 #include "platform/RandomNumbers.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 namespace prismfall {
 namespace {
 
-// Numbers of a game that begins at `start`, seeded at moments counted from there.
+// The numbers of a game that begins at `start`, seeded at moments relative to it.
 std::vector<double> Play(std::uint64_t number, std::int64_t start, std::int64_t secondSeed = 2500) {
     RandomNumbers random(99);
     random.Next();

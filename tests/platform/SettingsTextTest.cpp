@@ -1,4 +1,4 @@
-// The text of the settings: what is kept of it, where values are put, and that any text comes back.
+// The text of the settings: what is kept of it, where values are inserted, and that any text survives.
 #include "platform/SettingsText.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(SettingsText, KeepsWhatItDoesNotKnowAndADamagedLineCostsItselfAlone) {
+TEST(SettingsText, KeepsWhatItDoesNotKnowAndLosesOnlyDamagedLines) {
     SettingsText text(
         "; mine\n[General\nMu=1\n[General]\n===\nMusic = True\nColour=green\nnonsense\n\xff\xfe\nSt\n\n[Else]\nx=1\n[");
     const auto values = text.Values();
@@ -28,7 +28,7 @@ TEST(SettingsText, KeepsWhatItDoesNotKnowAndADamagedLineCostsItselfAlone) {
     EXPECT_EQ(SettingsText(text.Text()).Values().at({"New [one]", "a=b"}), "c#");
 }
 
-TEST(SettingsText, AnyTextComesBack) {
+TEST(SettingsText, AnyTextSurvives) {
     const unsigned seed = std::random_device{}();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);

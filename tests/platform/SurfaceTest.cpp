@@ -1,4 +1,5 @@
-// The painter against a plain distance test for every pixel, and its damage boxes against what really changed.
+// The painter, compared with a plain distance test for every pixel, and its damage boxes, compared with what really
+// changed.
 #include "platform/Surface.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +27,7 @@ bool IsCovered(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y
            across * across <= width * width * length2;
 }
 
-// A surface and what a plain model of it holds, painted alike.
+// A surface and a plain model of it, painted alike.
 class SurfaceTest : public testing::Test {
   protected:
     void Set(PixelBox box, auto isMeant, std::uint32_t pixel) {
@@ -60,7 +61,7 @@ class SurfaceTest : public testing::Test {
         surface.Clear();
         model.assign(model.size(), Surface::kUnpainted);
     }
-    // Also that the damage boxes lie on the surface and hold all that has changed since the last call.
+    // Also that the damage boxes lie on the surface and contain everything that has changed since the last call.
     void Check(const std::string& after) {
         std::vector<PixelBox> boxes;
         surface.TakeDamage(boxes);

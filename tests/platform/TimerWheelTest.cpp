@@ -1,5 +1,5 @@
-// Game time and the timers on it, under a clock that the test sets: what ticks when the machine is late, and from which
-// moment on that counts which a handler starts.
+// Game time and its timers, on a clock that the test sets: what ticks when the machine is late, and from which moment
+// the timers count that a handler starts.
 #include "platform/TimerWheel.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ struct Bench {
         wheel.Start(timer);
     }
 
-    // What ticks when the loop comes round at that time of the clock.
+    // What ticks when the event loop runs at that clock time.
     std::string At(int milliseconds) {
         clock = std::chrono::milliseconds(milliseconds);
         ticks.clear();
@@ -47,8 +47,8 @@ struct Bench {
     std::function<void(Timer)> onTick;
 };
 
-TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsMadeUpFor) {
-    using Looks = std::vector<std::pair<int, const char*>>;  // at what time of the clock, and what ticks
+TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsCaughtUp) {
+    using Looks = std::vector<std::pair<int, const char*>>;  // clock time, and what ticks then
     for (const auto& [deleter, extender, looks] : {std::tuple{0, 10, Looks{{9, ""}, {10, "E"}, {19, ""}, {20, "E"}}},
                                                    {0, 10, Looks{{19, "E"}, {20, "E"}, {20, ""}, {30, "E"}}},
                                                    {0, 10, Looks{{20, "E"}, {29, ""}, {30, "E"}}},
@@ -76,7 +76,7 @@ TEST(TimerWheel, WhatAHandlerStartsCountsFromItsMoment) {
     bench.onTick = [&](Timer timer) {
         if (timer != Timer::LineExtender) return;
         bench.clock += std::chrono::milliseconds(3);
-        bench.Start(Timer::TimerA, 20);  // due at 30, however late it is
+        bench.Start(Timer::TimerA, 20);  // due at 30, no matter how late it is
         bench.wheel.Stop(Timer::LineExtender);
         bench.wheel.SetInterval(Timer::TimerMulti, 20);
     };
@@ -94,7 +94,7 @@ TEST(TimerWheel, WhatAHandlerStartsCountsFromItsMoment) {
     EXPECT_EQ(bench.wheel.NextDue(), std::chrono::milliseconds(59));
 }
 
-TEST(TimerWheel, TheFirstTimeEventsRunOnlyWhatIsCloseTicks) {
+TEST(TimerWheel, TheFirstYieldTicksOnlyWhatIsClose) {
     Bench bench;
     bench.Start(Timer::LineExtender, 10);
     bench.Start(Timer::LineDeleter, 11);

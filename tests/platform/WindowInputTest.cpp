@@ -1,4 +1,4 @@
-// What reaches a window's handlers of what the player does: places, clicks, double clicks, and what is kept away.
+// Which input reaches a window's handlers: places, clicks, double clicks, and what is kept from them.
 #include "platform/WindowInput.h"
 
 #include <gtest/gtest.h>
@@ -48,7 +48,7 @@ class WindowInputTest : public ::testing::Test {
         input.Open(opened);
     }
 
-    // A press and its release, with the window's inside at (100, 100) on the desktop unless that is not told.
+    // A press and its release, with the window's inner area at (100, 100) on the desktop if that is known.
     std::string Press(Window& where, float x, float y, std::uint32_t milliseconds,
                       MouseButton button = MouseButton::Left) {
         log.clear();
@@ -63,7 +63,7 @@ class WindowInputTest : public ::testing::Test {
     std::string log;
 };
 
-TEST_F(WindowInputTest, PlacesAreThoseOfWhatIsMetAndLabelsAreNot) {
+TEST_F(WindowInputTest, PlacesAreRelativeToWhatIsHitAndLabelsAreNotHit) {
     for (const float x : {12.0F, 302.0F}) input.Move(window, x, 202 - (x < 300 ? 180 : 0));
     EXPECT_EQ(log, "over-button move@302,202 ");
     EXPECT_EQ(Press(window, 12, 22, 0), "button@2,2 click-button ");
@@ -75,7 +75,7 @@ TEST_F(WindowInputTest, PlacesAreThoseOfWhatIsMetAndLabelsAreNot) {
 
 TEST_F(WindowInputTest, AClickIsPressAndReleaseOnTheSameClickableElement) {
     std::uint32_t milliseconds = 0;
-    // Within the button; let go just outside; pressed outside; an element without a click.
+    // Within the button; released just outside; pressed outside; an element that cannot be clicked.
     for (const auto& [from, to, clicks] : {std::tuple{Place{11, 21}, Place{59, 49}, true},
                                            {{11, 21}, {60, 49}, false},
                                            {{100, 21}, {11, 21}, false},
@@ -95,7 +95,7 @@ TEST_F(WindowInputTest, AClickIsPressAndReleaseOnTheSameClickableElement) {
     EXPECT_EQ(log, "") << "a dialog has come in between";
 }
 
-TEST_F(WindowInputTest, SecondPressesAreDoubleClicksOnTheSameSurfaceAlone) {
+TEST_F(WindowInputTest, SecondPressesAreDoubleClicksOnlyOnTheSameSurface) {
     struct Case {
         float firstX, firstY;
         std::uint32_t later;
@@ -142,7 +142,7 @@ TEST_F(WindowInputTest, ASecondPressInAnotherWindowReachesNothing) {
     }
 }
 
-TEST_F(WindowInputTest, OnlyTheWindowInFrontHasInputWhileItIsShownAndTakesIt) {
+TEST_F(WindowInputTest, OnlyTheFrontWindowGetsInputWhileItIsShownAndTakesIt) {
     std::uint32_t presses = 0;
     const auto all = [&](Window& where) {
         ++presses;

@@ -1,4 +1,4 @@
-// How the texts of the store are read, and where a game enters the score table.
+// How stored texts are parsed, and where a game enters the score table.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -28,7 +28,7 @@ TEST(Settings, NumbersAreAnOptionalSignAndDigitsAndBooleansHaveNoCase) {
     }
 }
 
-TEST(EnterScore, BelowOlderEqualOnesAndTheLastRowGoes) {
+TEST(EnterScore, BelowOlderEqualOnesAndTheLastRowDrops) {
     ScoreTable table;
     for (const int score : {90, 100, 0, 80, 70, 60, 50, 40, 30, 20, 10, 10, 100, 32767})
         EnterScore(table, {static_cast<std::int16_t>(score), static_cast<std::int16_t>(score / 10), 5});

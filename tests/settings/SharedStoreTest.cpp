@@ -1,4 +1,4 @@
-// What becomes of the store when several runs save to it.
+// What happens to the store when several runs save to it.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -11,14 +11,14 @@
 namespace prismfall {
 namespace {
 
-// A store as real machines have it: what it held before is seen by a save, it can be full, and it can be deleted.
+// A store like a real machine's: a save sees its previous contents, it can be full, and it can be deleted.
 class SharedStore : public HeadlessPlatform {
   public:
     SharedStore() : HeadlessPlatform(printed) {}
 
     bool isFull = false;
     bool isDeleted = false;
-    std::size_t written = 0;  // by the last save
+    std::size_t written = 0;  // in the last save
 
     bool ChangeSettings(std::string_view, const SettingsChange& change) override {
         const auto values = change([this](std::string_view section, std::string_view key) {
@@ -50,7 +50,7 @@ TEST(Settings, RunsThatSaveInTurnLoseNothingOfEachOthers) {
     std::mt19937 random(seed);
     for (int round = 0; round < 100; ++round) {
         SharedStore shared, ofOne;
-        GameRun first(shared), second(shared), all(ofOne);  // `all` does what both do, with a store of its own
+        GameRun first(shared), second(shared), all(ofOne);  // `all` does what both do, with its own store
         for (int step = 0; step < 40; ++step) {
             GameRun& run = random() % 2 == 0 ? first : second;
             const std::size_t what = random() % 90;

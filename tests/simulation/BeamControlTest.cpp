@@ -1,4 +1,4 @@
-// What a player's hand does to a beam: which one it means, and how far a speeded beam runs.
+// What a player does to a beam: which one a press means, and how far a beam runs forward.
 #include "simulation/BeamControl.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ TEST(FindNearestLine, TakesTheNearestHeadWithinReach) {
     EXPECT_EQ(FindNearestLine(test.field, 210, 190), &test.Beam(1)) << "of two as near the first in Lines";
 }
 
-// The playfield; the beams, of which the last runs forward; what becomes of them; what has come of it; who is dying.
+// The playfield; the beams, of which the last runs forward; the beams afterwards; the outcome; the dying beams.
 constexpr char kRuns[] = R"(
     puzzle | 100,100 130,130 red | 100,100 585,585 red                             | at floor  |
     puzzle | 100,18 96,22 red    | 96,22 13,105 red stopped; 13,105 493,585 red    | at floor  |
@@ -54,13 +54,13 @@ TEST(SpeedUpLine, RunsToTheEnd) {
     }
 }
 
-TEST(SpeedUpLine, LinksAndStopsWhatItMeets) {
+TEST(SpeedUpLine, LinksAndStopsWhatItHits) {
     TestField test("arcade", "300,120 60,360 blue stopped; 90,70 60,100 green");
     Field& field = test.field;
     SpeedUpLine(field, test.Beam(2));
     EXPECT_EQ(Places(field, test.Beam(1).StoppingLines), "3");
     EXPECT_EQ(Places(field, test.Beam(2).LinkedLines), "3");
-    // A beam that meets its own chain thins it twice.
+    // A beam that hits its own chain thins it twice.
     TestField puzzle("puzzle", "340,200 200,340 blue stopped; 200,200 240,240 blue");
     puzzle.Beam(1).LinkedLines = {&puzzle.Beam(2)};
     puzzle.Beam(2).LinkedLines = {&puzzle.Beam(1)};

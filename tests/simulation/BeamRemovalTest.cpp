@@ -1,4 +1,4 @@
-// How beams thin out with their chains, and what is repaired and repainted.
+// How beams thin out along their chains, and what is repaired and repainted.
 #include "simulation/BeamRemoval.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ TEST(DeleteLine, GoesThroughTheChainInOneColour) {
                    "150,250 100,300 green; 100,300 150,350 blue");
     Field& field = test.field;
     for (std::size_t beam = 1; beam < 5; ++beam) Link(test.Beam(beam), test.Beam(beam + 1));
-    Link(test.Beam(3), test.Beam(1));  // and round in a ring
+    Link(test.Beam(3), test.Beam(1));  // and around in a ring
     test.painter.isPrinting = true;
     DeleteLine(field, test.Beam(2), 4, true);
     EXPECT_EQ(InShort(field),
@@ -35,7 +35,7 @@ TEST(DeleteLine, GoesThroughTheChainInOneColour) {
               "line 150 150 100 200 0x000000 5\nline 100 100 150 150 0x000000 5\nline 100 200 150 250 0x000000 5\n");
 }
 
-TEST(DeleteLine, StandsAChainOfAHundredThousandBends) {
+TEST(DeleteLine, SurvivesAChainOfAHundredThousandBends) {
     TestField test("puzzle");
     Field& field = test.field;
     for (int bend = 0; bend < 100'000; ++bend) {
@@ -46,7 +46,7 @@ TEST(DeleteLine, StandsAChainOfAHundredThousandBends) {
     EXPECT_TRUE(AllLinesDeleted(field));
 }
 
-TEST(RepairWalls, OneStripBesideTheFirstEndThatIsNear) {
+TEST(RepairWalls, OneStripNextToTheFirstEndNearby) {
     for (const auto& [beam, restored] : {std::pair{"121,300 21,400 red", ""},
                                          {"120,300 20,400 red", "restore 7 390 14 410\n"},
                                          {"20,300 120,400 red", "restore 7 290 14 310\n"},

@@ -27,8 +27,8 @@ TEST(CreateLine, ARandomBeamByItsNumbers) {
     }
 }
 
-TEST(CreateLine, PassesOverColumnsThatAreTaken) {
-    // A dying beam takes its column too, a head takes none.
+TEST(CreateLine, SkipsTakenColumns) {
+    // A dying beam takes its column too, a head alone does not.
     TestField test("arcade", "41,20 50,29 blue dying; 61,200 90,229 blue; 100,200 81,219 blue");
     EXPECT_EQ(Spawn(test, {1.5 * 20 / 642, 2.5 * 20 / 642, 3.5 * 20 / 642})->XStart, 81);
     for (int column = 0; column < 33; ++column)
@@ -38,7 +38,7 @@ TEST(CreateLine, PassesOverColumnsThatAreTaken) {
     EXPECT_EQ(test.dice.numbers.size(), 1U) << "no number is drawn when none is free";
 }
 
-TEST(SplitLine, GoesOnWithTheNextSegmentOfTheChain) {
+TEST(SplitLine, ContinuesWithTheNextSegmentOfTheChain) {
     for (const auto& [from, stopped, expected] :
          {std::tuple{"100,100 150,150 yellow 3 dying #7", "100,100 150,150 yellow stopped 3 dying #7",
                      "150,150 150,150 yellow left #7"},

@@ -1,4 +1,4 @@
-// One step of one growing beam: whose turn it is, what it meets, and what that leads to.
+// One step of one growing beam: whose turn it is, what it hits, and what follows.
 #include "simulation/BeamStep.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +9,8 @@
 namespace prismfall {
 namespace {
 
-// Mode and GrowthToggle, where 0 and 1 stand for both; the beams, of which the last takes the step; what becomes of
-// them; what has come of the step.
+// Mode and GrowthToggle, or both values; the beams, of which the last takes the step; the beams afterwards; the outcome
+// of the step.
 constexpr char kSteps[] = R"(
     arcade 1  | 300,53 310,63 red          | 300,53 310,63 red          | goes on
     arcade 0  | 300,53 310,63 red          | 300,53 311,64 red          | goes on

@@ -1,4 +1,4 @@
-// What keeps beams in memory.
+// What keeps a beam in memory.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -16,7 +16,7 @@ void Reach(CLine* beam, std::set<const CLine*>& reached) {
     for (CLine* next : beam->StoppingLines) Reach(next, reached);
 }
 
-TEST(BeamStore, FreesWhatIsOutOfReachAndNothingElse) {
+TEST(BeamStore, FreesOnlyTheUnreachable) {
     std::mt19937 random(5);
     BeamStore store;
     std::vector<CLine*> all, first, second;

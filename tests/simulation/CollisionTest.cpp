@@ -1,4 +1,4 @@
-// What a test point hits, and which of several.
+// What a test point hits, and which of several beams.
 #include "simulation/CollisionDetection.h"
 
 #include <gtest/gtest.h>
@@ -8,13 +8,13 @@
 namespace prismfall {
 namespace {
 
-constexpr std::int16_t kFarAway = 5000;  // as PrevY: no head meets another
+constexpr std::int16_t kFarAway = 5000;  // as PrevY: no head hits another
 
 TEST(FindCollision, HitsWhatTheTableSays) {
     struct Case {
         const char* beams;
         std::int16_t x, y, prevY;
-        bool isHit, isHitBySpeeded;  // the first beam, by a head that runs to the left
+        bool isHit, isHitBySpeeded;  // the first beam, by a head moving left
     };
     for (const Case& c : {
              // By distance, which may be 1.
@@ -27,7 +27,7 @@ TEST(FindCollision, HitsWhatTheTableSays) {
              {"100,100 150,150 blue", 151, 151, kFarAway, false, false},
              {"200,200 200,200 blue", 201, 199, kFarAway, false, false},
              {"-32768,100 32767,100 blue", 0, 100, kFarAway, true, true},
-             // By heads that run towards each other and are less than 3 apart both ways; the point lies far below.
+             // By heads that run towards each other and are less than 3 apart in both axes; the point is far below.
              {"100,100 150,150 blue", 152, 300, 152, true, true},
              {"100,100 150,150 blue", 148, 300, 148, true, true},
              {"100,100 150,150 blue", 153, 300, 150, false, false},
@@ -35,7 +35,7 @@ TEST(FindCollision, HitsWhatTheTableSays) {
              {"100,100 150,150 blue", 150, 300, 153, false, false},
              {"100,100 150,150 blue", 150, 300, 147, false, false},
              {"200,100 150,150 blue", 150, 300, 150, false, false},
-             // A growing beam strikes those in the first step of their removal, unless a speeded one has struck them.
+             // A growing beam strikes those in the first step of their removal, unless a sped-up beam has struck them.
              {"100,100 150,150 blue stopped 4 dying", 120, 120, kFarAway, true, false},
              {"100,100 150,150 blue stopped 4 dying fast", 120, 120, kFarAway, false, false},
              {"100,100 150,150 blue stopped 3 dying", 151, 153, 149, false, false},

@@ -1,5 +1,5 @@
-# Runs the script STORY through DRIVER and compares what it prints, errors and a failing exit status included, with the
-# .expected file beside it. With the environment variable UPDATE_STORIES set, writes that file instead.
+# Runs the script STORY through DRIVER and compares its output, including errors and a failing exit status, with the
+# .expected file next to it. If the environment variable UPDATE_STORIES is set, writes that file instead.
 string(REGEX REPLACE "\\.script$" ".expected" expected_file "${STORY}")
 execute_process(COMMAND "${DRIVER}" INPUT_FILE "${STORY}" OUTPUT_VARIABLE printed ERROR_VARIABLE errors
                 RESULT_VARIABLE status)

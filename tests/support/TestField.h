@@ -1,4 +1,4 @@
-// A playfield by itself, for the tests of beams: it prints what is painted and takes random numbers from a list.
+// A playfield on its own, for testing beams: it prints what is painted and takes random numbers from a list.
 #pragma once
 
 #include <deque>
@@ -11,7 +11,7 @@
 
 namespace prismfall {
 
-// Paints on a surface of its own, and prints each operation if asked to.
+// Paints on its own surface, and prints each operation if asked to.
 class TestPainter : public SurfacePainter {
   public:
     bool isPrinting = false;
@@ -34,17 +34,17 @@ class TestDice : public Chance {
 
 class TestField {
   public:
-    // Beams in words on the playfield of an Arcade game, with its entry zone, or of a puzzle. The next growth tick
-    // moves the beams of the entry zone too.
+    // Beams given as text, on the playfield of an Arcade game, with its entry zone, or of a puzzle. The next growth
+    // tick also moves the beams in the entry zone.
     explicit TestField(std::string_view kind, std::string_view beams = {});
 
     TestPainter painter;
     TestDice dice;
     Field field{painter, dice};
 
-    // A beam by its place in Lines, from 1.
+    // A beam by its position in Lines, from 1.
     CLine& Beam(std::size_t place) { return *field.Lines.at(place - 1); }
-    // What was printed since the last call.
+    // What has been printed since the last call.
     std::string TakePrinted();
 };
 

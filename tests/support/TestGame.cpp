@@ -19,7 +19,7 @@ TestGame::TestGame(Mode mode, std::string_view beams) : TestGame() {
     EnterMode(*main, mode);
     main->GameRunning = true;
     main->CurrentPuzzle = 2;
-    main->field.GrowthToggle = 1;  // the next growth tick moves the beams of the entry zone too
+    main->field.GrowthToggle = 1;  // the next growth tick also moves the beams in the entry zone
     main->field.CollisionLineY = RowOf(mode).collisionLineY;
     AddBeams(main->field, beams);
     TakePrinted();

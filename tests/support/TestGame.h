@@ -17,25 +17,25 @@ Mode ModeNamed(std::string_view name);
 
 class TestGame {
   public:
-    // A machine without a program; settings can be put before Load. Effects, music and the first run are as an empty
-    // store has them, unless QuietStore is called first.
+    // A machine without a running program; settings can be stored before Load. Effects, music and the first run are as
+    // with an empty store, unless QuietStore is called first.
     TestGame() : machine(printed), main(std::make_unique<VMain>(machine)) {}
-    // A quiet program with beams in words on an empty playfield of `mode`, in play: no timer runs.
+    // A quiet program with beams, given as text, on an otherwise empty playfield of `mode`, in play; no timer runs.
     explicit TestGame(Mode mode, std::string_view beams = {});
 
     TestMachine& Machine() { return machine; }
     VMain& Main() { return *main; }
-    // A beam by its place in Lines, from 1.
+    // A beam by its position in Lines, from 1.
     CLine& Beam(std::size_t place) { return *main->field.Lines.at(place - 1); }
 
     // Starts the program into its main menu.
     VMain& Load();
-    // A store in which the first run is over and the music is off.
+    // Stores settings with the first run over and the music off.
     TestGame& QuietStore();
     // A press and a click of the left button on an element of the main window.
     void Click(std::string_view element);
 
-    // Something of the test's own between the lines.
+    // Adds text of the test's own.
     void Print(std::string_view text) { printed << text; }
     // The lines printed since the last call.
     std::string TakePrinted();

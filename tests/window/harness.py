@@ -1,9 +1,8 @@
-"""What the tests in a real window have in common: a desktop for each class, a fresh game for each test, and a picture of the
-screen when one fails.
+"""What the window tests share: a desktop for each class, a fresh game for each test, and a screenshot when one fails.
 
     python3 tests/window/test_arcade.py PROGRAM FOLDER [unittest options and names]
 
-PROGRAM is the built game; pictures of failures go to FOLDER.
+PROGRAM is the built game; screenshots of failures go to FOLDER.
 """
 import pathlib
 import shutil
@@ -46,7 +45,7 @@ class WindowTest(unittest.TestCase):
         return settings
 
     def install(self, pictures):
-        """The program in a folder where it finds `pictures`."""
+        """Copies the program to a folder where it finds `pictures`."""
         root = self.folder()
         (root / "build/test").mkdir(parents=True)
         (root / "assets").mkdir()
@@ -54,14 +53,14 @@ class WindowTest(unittest.TestCase):
         return shutil.copy(self.program, root / "build/test/prismfall")
 
     def start(self, settings=None, folder=ASSETS, program=None, pictures=ASSETS / "pictures", **options):
-        """Starts the game, by default past its first run."""
+        """Starts the game, by default not as its first run."""
         program = program or self.install(pictures)
         run = game.Game(self.desktop, program, settings or self.settings(game.later_run()), folder, **options)
         self.addCleanup(lambda: run.is_running() and run.kill())
         return run
 
     def end_in_menu(self, run, complaint=""):
-        """Ends a run by Exit in the main menu: content, or with one line that holds a complaint."""
+        """Ends a run by Exit in the main menu: without output, or with one line that contains a complaint."""
         run.press("CommandExit")
         self.assertEqual(run.wait_for_end(), 0)
         self.assertIn(complaint, run.said())

@@ -1,6 +1,6 @@
-"""A player who does anything at all, with a real mouse and keyboard: clicks, drags, keys, close boxes, minimising, moving
-the window, in every screen and dialog that comes up. The game may end when it is told to; it may not crash, hang or
-complain. Meant for a build with the sanitizers (script/soak).
+"""Random input from a real mouse and keyboard: clicks, drags, keys, close boxes, minimising, moving the window, in every
+screen and dialog that comes up. The game may end when told to; it may not crash, hang or complain. Meant for a build with
+the sanitizers (script/soak).
 
     python3 tests/window/soak.py PROGRAM SECONDS [SEED]
 """
@@ -19,7 +19,7 @@ import layout  # noqa: E402
 
 LEAKS = {"LSAN_OPTIONS": f"suppressions={HERE / 'leaks.txt'}:print_suppressions=0"}
 LONGEST_RUN = 60  # seconds; then the game gets a SIGTERM
-# Words of xdotool, by how often they come: W is a window, P a place in it, B a mouse button, K a key.
+# xdotool commands, weighted by repetition: W is a window, P a place in it, B a mouse button, K a key.
 ACTIONS = {"mousemove --window W P click B": 60, "mousemove --window W P click --repeat 2 --delay 30 B": 8, "key K": 6,
            "mousemove --window W P mousedown B mousemove --window W P mouseup B": 6, "mousemove --window W P click 4": 2,
            "windowmove W P": 2, "windowminimize W sleep 0.2 windowmap W": 1, "windowunmap W sleep 0.1 windowmap W": 1}
@@ -33,7 +33,7 @@ def chosen(chance, number):
 
 
 def play(screen, program, chance, end):
-    """One run of the program. Gives what is wrong with it, or nothing."""
+    """One run of the program. Returns what went wrong, or nothing."""
     general = {"Music": chance.choice(("True", "False")), "StartLevel": str(chance.randint(1, 12))}
     settings = game.Settings(None if chance.random() < 0.2 else game.later_run(**general))
     run = game.Game(screen, program, settings, HERE.parents[1] / "assets", environment=LEAKS, shows_up=False)

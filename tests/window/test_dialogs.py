@@ -1,4 +1,4 @@
-"""Dialogs as windows of the desktop: whose they are, where they are placed, how they close, and what they keep from the game."""
+"""Dialogs as desktop windows: which window they belong to, where they appear, how they close, and which input they block."""
 import harness
 import layout
 from desktop import holds_for, wait_for
@@ -9,7 +9,7 @@ HASTY_ROUNDS = 25  # the fault that this is for showed in one of dozens
 
 class Dialogs(harness.WindowTest):
     def check_window(self, run, dialog, title):
-        """The marks and the place that make it a dialog of the main window."""
+        """The properties and the place that make it a dialog of the main window."""
         self.assertIn(hex(run.main.number), dialog.property("WM_TRANSIENT_FOR"))
         self.assertIn("_NET_WM_STATE_MODAL", dialog.property("_NET_WM_STATE"))
         self.assertIn("_NET_WM_WINDOW_TYPE_DIALOG", dialog.property("_NET_WM_WINDOW_TYPE"))

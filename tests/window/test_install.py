@@ -1,4 +1,4 @@
-"""What `cmake --install` leaves behind is played from a prefix of any name, and after the whole tree has been moved."""
+"""Plays what `cmake --install` has installed, from a prefix of any name, and after the whole tree was moved."""
 import pathlib
 import subprocess
 import time

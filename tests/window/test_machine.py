@@ -1,4 +1,4 @@
-"""Machines on which something is missing or comes to its end: a window manager, a display, a sound device, files, time."""
+"""Machines on which something is missing or goes away: a window manager, a display, a sound device, files, time."""
 import signal
 import time
 
@@ -37,7 +37,7 @@ class PlainDisplay(harness.WindowTest):
     manager = False
 
     def resize(self, window, width, height):
-        """What a desktop does that gives no window the size it asks for."""
+        """Acts like a desktop that gives no window the size it asks for."""
         self.desktop.output("xdotool", "windowsize", str(window.number), str(width), str(height))
 
     def test_a_window_of_another_size_shows_its_whole_picture(self):

@@ -1,4 +1,4 @@
-// Saves settings again and again until it is ended: every value of one save is the same number.
+// Saves settings over and over until it is killed: all values of one save are the same number.
 #include <string>
 #include <vector>
 

@@ -2,7 +2,7 @@
 
     python3 tests/windows/test_windows.py PACKAGES FOLDER [unittest options and names]
 
-PACKAGES is build/windows-packages; pictures of failures go to FOLDER. PRISMFALL_KILLS is the number of kills in a save.
+PACKAGES is build/windows-packages; screenshots of failures go to FOLDER. PRISMFALL_KILLS is the number of kills in a save.
 """
 import os
 import pathlib
@@ -26,7 +26,7 @@ NATIVE = ROOT / "build/release/prismfall-headless"
 BUILT = ROOT / "build/windows"
 STORIES = ROOT / "tests/stories"
 KILLS = int(os.environ.get("PRISMFALL_KILLS", "20"))
-# Libraries of every Windows 10; the last comes with the game.
+# Libraries that every Windows 10 has; the last comes with the game.
 LIBRARIES = "advapi32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 setupapi shell32 shlwapi user32 version winmm libmpg123"
 REPLAYS = "".join(
     f"set GrowthToggle {toggle}\nset CurrentPuzzle {puzzle}\nsolution {puzzle}\nrun 120000\ndump\n"
@@ -38,7 +38,7 @@ RUNNING = 2  # the installer's exit status
 
 
 class WineSettings(game.Settings):
-    """The settings of the one user of a wine."""
+    """The settings of wine's only user."""
 
     def __init__(self, user, values=None):
         self.home = user / "AppData/Roaming"
@@ -133,7 +133,7 @@ class Player(WindowsTest):
         wait_for(run.stands_still, 10, "a picture of the tutorial")
         run.main.click(*spot, button=button)
         run.wait_for_motion()
-        # An older version that runs is to be closed first.
+        # An older version that is running must be closed first.
         self.assertEqual(self.wine(self.setup, "/S"), RUNNING)
         run.main.use_close_box()
         self.assertEqual(run.wait_for_end(), 0)

@@ -1,4 +1,4 @@
-// A game on the backend that a port begins with: all of the contract that the game leans on is there.
+// A game on the starting point of a port: it fulfils everything in the interface that the game relies on.
 #include "backends/null/NullPlatform.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Drawing only what has changed must end in the picture that drawing everything gives, at every scale of the display.
+// Drawing only what has changed must give the same picture as drawing everything, at every scale of the display.
 #include "backends/sdl/drawing/Composer.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// How large a picture is drawn, pictures that cannot be had, and text that has to fit.
+// How large a picture is drawn, pictures that cannot be loaded, and text that has to fit.
 #include <gtest/gtest.h>
 #include <png.h>
 
@@ -18,7 +18,7 @@ TEST(PictureFitTest, AWholeFactorAndTheWantedScaleAreWorthAPixel) {
     EXPECT_EQ(FitPicture({802, 602}, {1003, 753}, 1.25F), (PictureFit{1.25F, {0, 0, 1002, 752}}));
 }
 
-TEST(PictureStoreTest, WhatIsWrongWithAPictureIsToldAsItIs) {
+TEST(PictureStoreTest, ReportsExactlyWhatIsWrongWithAPicture) {
     const fs::path folder = fs::path(testing::TempDir()) / "prismfall-pictures";
     fs::create_directories(folder / "1x");
     std::string whole(4096, ' ');

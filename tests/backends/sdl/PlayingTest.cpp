@@ -1,5 +1,5 @@
-// What the sound device is given to play: music to the sample, over loops, pauses and its end, from files good and bad,
-// and the one voice of the sounds. The device is SDL's dummy, and the test takes the samples in its place.
+// What the sound device gets to play: music, exact to the sample, across loops, pauses and its end, from good and bad
+// files, and the single voice for sounds. The device is SDL's dummy, and the test reads the samples in its place.
 #include <gtest/gtest.h>
 #include <mpg123.h>
 #include <sys/resource.h>
@@ -23,7 +23,7 @@ namespace prismfall {
 namespace {
 
 namespace fs = std::filesystem;
-using Samples = std::vector<std::int16_t>;  // left and right in turn
+using Samples = std::vector<std::int16_t>;  // left and right alternating
 
 constexpr std::size_t kChunk = 4096;  // samples
 const std::string kTrack = PRISMFALL_ASSETS "/music/Side_Scroller-Ocean.mp3";
@@ -105,7 +105,7 @@ TEST_F(PlayingTest, MusicLoopsWithoutASeamAndPlaysOnFromWhereItPaused) {
     EXPECT_TRUE(IsSilence(Take(music, kChunk)));
 }
 
-TEST_F(PlayingTest, VolumeIsAShareOfTheTracksOwn) {
+TEST_F(PlayingTest, VolumeScalesTheTracksOwn) {
     ASSERT_EQ(music.Open(kTrack), "");
     const auto energy = [&](int volume) {
         music.SetVolume(volume);
@@ -120,7 +120,7 @@ TEST_F(PlayingTest, VolumeIsAShareOfTheTracksOwn) {
     EXPECT_EQ(energy(-5), 0);
 }
 
-TEST_F(PlayingTest, AFileThatIsNoMusicIsToldAndSilent) {
+TEST_F(PlayingTest, AFileThatIsNotMusicIsReportedAndSilent) {
     const fs::path folder = fs::path(testing::TempDir()) / "no-music";
     fs::create_directories(folder);
     std::ofstream(folder / "empty.mp3").flush();
@@ -173,7 +173,7 @@ TEST_F(PlayingTest, AFileThatChangesItsRateAndChannelsKeepsItsLength) {
     EXPECT_NEAR(length, 1152 * (50 + 200 * 44.1 / 32 + 50 * 44.1 / 48), kChunk);
 }
 
-// What a device of SDL's disk driver has played. Until it is told to play it writes chunks of silence.
+// What a device of SDL's disk driver has played. Until playback starts it writes chunks of silence.
 Samples ReadSamples(const fs::path& file) {
     Samples samples(fs::file_size(file) / 2);
     std::ifstream(file, std::ios::binary)
@@ -188,9 +188,9 @@ bool WaitFor(const std::function<bool()>& holds) {
     return holds();
 }
 
-// SDL's disk driver plays the part of a device that can be unplugged: its device goes when the file may not grow any
-// more.
-TEST_F(PlayingTest, MusicWaitsForADeviceAndGoesOnWhereItFellSilentInTheFormOfTheNext) {
+// SDL's disk driver stands in for a device that can be unplugged: its device disappears when the file reaches its size
+// limit.
+TEST_F(PlayingTest, MusicWaitsForADeviceAndResumesInTheFormatOfTheNext) {
     const Samples track = WholeTrack();
     const fs::path folder = fs::path(testing::TempDir()) / ("devices-" + std::to_string(getpid()));
     fs::create_directories(folder);
@@ -203,7 +203,7 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndGoesOnWhereItFellSilentInTheFormOfThe
     getrlimit(RLIMIT_FSIZE, &room);
     const rlimit little{1'000'000, room.rlim_max};
     setrlimit(RLIMIT_FSIZE, &little);
-    setenv("SDL_DISKAUDIODELAY", "15", 1);  // milliseconds a chunk, so that there is time before the file is full
+    setenv("SDL_DISKAUDIODELAY", "15", 1);  // milliseconds per chunk, so that there is time before the file is full
     setenv("SDL_DISKAUDIOFILE", first.c_str(), 1);
 
     SdlAudio audio;
@@ -213,7 +213,7 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndGoesOnWhereItFellSilentInTheFormOfThe
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     setenv("SDL_AUDIODRIVER", "disk", 1);
     ASSERT_TRUE(WaitFor([&] { return size(first) > 300'000; })) << "a device has come";
-    audio.DeviceLost();  // but that was not this one
+    audio.DeviceLost();  // but that was a different one
     ASSERT_TRUE(WaitFor([] { return SDL_HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE; }));
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
     setenv("SDL_DISKAUDIOFILE", second.c_str(), 1);

@@ -1,4 +1,4 @@
-// The settings file under everything that a disk, a crash, an editor and other copies of the game can do to it.
+// The settings file, under everything that a disk, a crash, an editor and other copies of the game can do to it.
 #include "backends/sdl/settings/SettingsFile.h"
 
 #include <gtest/gtest.h>
@@ -50,8 +50,8 @@ class SettingsFileTest : public ::testing::Test {
     fs::path path;
 };
 
-// Two copies count their saves in the file, each in a key of its own and in all the others, until they are killed.
-TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
+// Two copies count their saves in the file, each in its own key and in all the others, until they are killed.
+TEST_F(SettingsFileTest, CopiesKilledWhileSavingLoseNothingOfEachOther) {
     using Counts = std::array<std::atomic<int>, 2>;
     void* shared = mmap(nullptr, sizeof(Counts), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     Counts& done = *new (shared) Counts{};
@@ -64,7 +64,7 @@ TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
         });
     };
     std::mt19937 random(Seed());
-    // On a machine with other work it takes more and longer rounds until enough was saved.
+    // A busy machine needs more and longer rounds until enough has been saved.
     for (unsigned round = 0; round < 30 || done[0] + done[1] < 20; ++round) {
         std::array<pid_t, 2> copies{};
         for (std::size_t i = 0; i < copies.size(); ++i) {
@@ -88,7 +88,7 @@ TEST_F(SettingsFileTest, CopiesThatAreKilledWhileSavingLoseNothingOfEachOther) {
     }
 }
 
-TEST_F(SettingsFileTest, WithoutRoomTheOldFileStandsAndNothingIsLeft) {
+TEST_F(SettingsFileTest, AFullDiskKeepsTheOldFileAndLeavesNothingElse) {
     ASSERT_EQ(Write(path, {{"General", "Music", "True"}}), "");
     const pid_t writer = fork();
     if (writer == 0) {
@@ -104,7 +104,7 @@ TEST_F(SettingsFileTest, WithoutRoomTheOldFileStandsAndNothingIsLeft) {
     EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), fs::directory_iterator()), 1);
 }
 
-TEST_F(SettingsFileTest, NewFoldersAreTheUsersOwnAndWhatCannotBeOneIsTold) {
+TEST_F(SettingsFileTest, NewFoldersArePrivateAndAPathThatIsNoFolderIsReported) {
     const mode_t old = umask(0);
     EXPECT_EQ(Write(path, {{"General", "Music", "True"}}), "");
     umask(old);

@@ -1,4 +1,4 @@
-// Signals that ask the program to end: the first becomes an event, and nothing that hangs outlives the next.
+// Signals that ask the program to end: the first becomes an event, the next ends even a program that hangs.
 #include "backends/sdl/desktop/SignalWatch.h"
 
 #include <SDL.h>
@@ -9,7 +9,7 @@
 namespace prismfall {
 namespace {
 
-// Sends a signal to this process and tells whether it has become an event soon after.
+// Sends a signal to this process and returns whether it soon becomes an event.
 bool BecomesAnEvent(int signal) {
     kill(getpid(), signal);
     SDL_Delay(100);
@@ -17,7 +17,7 @@ bool BecomesAnEvent(int signal) {
     return SDL_HasEvent(SDL_QUIT) == SDL_TRUE;
 }
 
-TEST(SignalWatchTest, EndsWhatHangsAndLeavesIgnoredSignalsAlone) {
+TEST(SignalWatchTest, EndsAHangingProgramAndLeavesIgnoredSignalsAlone) {
     const auto watch = [] {
         signal(SIGHUP, SIG_IGN);
         WatchEndSignals();

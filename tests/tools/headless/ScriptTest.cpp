@@ -1,4 +1,4 @@
-// What a script may say: words, ranges, and what has no meaning while no program runs. What commands do is in the
+// What a script may contain: words, ranges, and commands that need a running program. What commands do is tested by the
 // stories.
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr char kQuiet[] = "setting General PlayFirstTime False\nsetting General Music False\nload\n";
 
-// Runs a script with each command of a list in turn (a semicolon behind each), and hands over what that gave.
+// Runs a script with each command of a list in turn (each ends with a semicolon), and passes on the result.
 template <typename Check>
 void Try(const std::string& before, const std::string& commands, const std::string& after, Check check) {
     std::istringstream list(commands);
@@ -56,7 +56,7 @@ TEST(Script, TheEndsOfTheRangesAreGood) {
         });
 }
 
-TEST(Script, OnlyTheWorldCanBeChangedWhileNoProgramRuns) {
+TEST(Script, OnlyTheEnvironmentCanBeChangedWhileNoProgramRuns) {
     for (const std::string& start :
          {std::string(), kQuiet + std::string("key 27\n"), kQuiet + std::string("close\n")}) {
         const std::string wholeWorld =
@@ -69,7 +69,7 @@ TEST(Script, OnlyTheWorldCanBeChangedWhileNoProgramRuns) {
     }
 }
 
-TEST(Script, ASeedBringsAllChanceOfAGameBack) {
+TEST(Script, ASeedReproducesAllRandomnessOfAGame) {
     constexpr char kGame[] = "set GrowthToggle 0\nclick CommandArcade\nrun 20000\ndump\nkey 27\n";
     const auto beamsOfTwoGames = [&](const std::string& secondSeed) {
         std::istringstream script(std::string(kQuiet) + "seed 7\n" + kGame + "run 777\n" + secondSeed + kGame);
@@ -87,7 +87,7 @@ TEST(Script, ASeedBringsAllChanceOfAGameBack) {
     EXPECT_NE(first, beamsOfTwoGames("").second);
 }
 
-TEST(HeadlessPlatform, ADialogThatStandsIsNotShownAgain) {
+TEST(HeadlessPlatform, AnOpenDialogIsNotShownAgain) {
     std::ostringstream printed;
     HeadlessPlatform machine(printed);
     Window dialog;
