@@ -1,8 +1,8 @@
-; The installer. For the user who runs it, without asking for more rights, or for all of the computer:
+; The installer. Installs for the user who runs it, without asking for more rights, or for all users:
 ;   prismfall-VERSION-windows-setup.exe [/S] [/AllUsers] [/D=FOLDER]
 ;   uninstall.exe [/S] [/DeleteScores]
-; /S is silent. Exit status: 0 done, 1 given up by the user, 2 the game is running, 3 no right to install for all.
-; Made by script/package-windows, which defines VERSION, FOLDER, OUTPUT and FILES, a list of what to remove again.
+; /S is silent. Exit status: 0 done, 1 cancelled by the user, 2 the game is running, 3 no right to install for all users.
+; Built by script/package-windows, which defines VERSION, FOLDER, OUTPUT and FILES, the list of what to uninstall.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -42,7 +42,7 @@ UninstPage custom un.AskScores un.TakeScores
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
 
-; A program that runs cannot be written to. Asks until it is closed, or gives up.
+; A running program cannot be overwritten. Asks until it is closed, or gives up.
 !macro AwaitEndOfGame un
 Function ${un}AwaitEndOfGame
     ${DoWhile} ${FileExists} "$INSTDIR\prismfall.exe"
@@ -62,7 +62,7 @@ FunctionEnd
 !insertmacro AwaitEndOfGame ""
 !insertmacro AwaitEndOfGame "un."
 
-; Where things are kept, for all of the computer or for this user. Whoever installed it before finds it where it was.
+; Where things are stored, for all users or for this one. An existing installation is updated in place.
 Function ChooseScope
     SetShellVarContext current
     ${If} $forAll == 1
@@ -128,7 +128,7 @@ Function TakeForWhom
     Quit
 FunctionEnd
 
-; By way of the desktop, so that the game never runs with the installer's rights.
+; Through the desktop shell, so that the game never runs with the installer's rights.
 Function Play
     Exec '"$WINDIR\explorer.exe" "$SMPROGRAMS\Prismfall.lnk"'
 FunctionEnd
@@ -157,7 +157,7 @@ SectionEnd
 
 Var deleteScores
 
-; What was installed for all can be removed by an administrator alone. Goes on only with that right.
+; What was installed for all users can only be removed by an administrator. Continues only with that right.
 Function un.AskForRights
     UserInfo::GetAccountType
     Pop $0
