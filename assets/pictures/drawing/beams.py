@@ -1,4 +1,4 @@
-"""The beams as the game itself paints them, pixel by pixel, for pictures that lie among them.
+"""The beams as the game itself paints them, pixel by pixel, for pictures that are shown among them.
 
 A tutorial picture covers pieces of beams and has to show the same pixels. A stroke covers the pixels whose centres lie
 within half its width of its middle line; the result is given as runs of whole pixels, sharp at every scale.
@@ -12,7 +12,7 @@ LOWER = ("#000080", "#000400", "#c00000", "#808000")
 
 
 class Pixels:
-    """What is painted inside a window of the playfield, as colours by place."""
+    """What is painted in a section of the playfield, as colours by place."""
 
     def __init__(self, left, top, width, height):
         self.left, self.top, self.width, self.height = left, top, width, height

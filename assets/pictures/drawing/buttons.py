@@ -5,8 +5,8 @@ Buttons of one column have one width of pill, whatever the size of their picture
 
 from neon import PALE, SOFT, TUBE, WHITE, centred_text, document, gradient, rounded, stroke
 
-# Name, words, picture size, middle of the pill in the picture (its own middle where nothing is said), pill size, height
-# of the lettering in pixels. PANEL is the axis of the main window's side panel.
+# Name, words, picture size, middle of the pill in the picture (the picture's middle if not given), pill size, height of
+# the lettering in pixels. PANEL is the axis of the main window's side panel.
 PANEL = 740.5
 TABLE = [
     ("Puzzle", "Puzzle", 133, 54, (66.5, 28), 121, 44, 17),

@@ -11,7 +11,7 @@ ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 
 
 def pictures():
-    """Name of each picture and the function that gives its SVG text."""
+    """The name of each picture and the function that returns its SVG text."""
     drawn = {
         "Background": scenery.background,
         "DialogBackground": scenery.dialog_background,

@@ -2,7 +2,7 @@
 
 from neon import BEAM_LIGHT, PALE, WHITE, document, glowing, gradient, rounded, stroke
 
-# Sizes of the icon that have a simpler drawing of their own.
+# Sizes of the icon that have their own simpler drawing.
 SMALL_SIZES = (16, 22, 24)
 
 BLUE, GREEN, RED, YELLOW = BEAM_LIGHT
@@ -38,7 +38,7 @@ def icon(size):
 
 
 def falling(starts, top, fall, colours):
-    """The ways of beams side by side, going down to the right."""
+    """The paths of beams side by side, going down to the right."""
     return [(f"M{x} {top} L{x + fall} {top + fall}", colour) for x, colour in zip(starts, colours)]
 
 

@@ -62,7 +62,7 @@ def logo():
 
 
 def last_letter():
-    """The letter alone; its halo is narrow and fades towards the edges, or the picture would show as a box."""
+    """The letter alone; its halo is narrow and fades towards the edges, otherwise the picture would be visible as a box."""
     *_, (path, weight, colour) = tubes()
     fading = ('<mask id="fading" maskUnits="userSpaceOnUse" x="0" y="0" width="84" height="87">'
               '<rect x="3" y="3" width="78" height="81" rx="6" fill="#ffffff" filter="url(#blur1.5)"/></mask>')

@@ -28,13 +28,13 @@ def document(width, height, body, defs=""):
 
 
 def blur_filter(radius):
-    """A blur that reaches far enough for any picture, also where a picture shows a part of a larger drawing."""
+    """A blur that extends far enough for any picture, even one that shows part of a larger drawing."""
     return (f'<filter id="blur{radius}" filterUnits="userSpaceOnUse" x="-700" y="-700" width="2200" '
             f'height="2200" color-interpolation-filters="sRGB"><feGaussianBlur stdDeviation="{radius}"/></filter>')
 
 
 def gradient(name, stops, x2=0, y2=1):
-    """A straight gradient over the box of what it fills; a stop is (place, colour, opacity)."""
+    """A linear gradient over the box that it fills; a stop is (place, colour, opacity)."""
     inner = "".join(f'<stop offset="{place}" stop-color="{colour}" stop-opacity="{opacity}"/>'
                     for place, colour, opacity in stops)
     return f'<linearGradient id="{name}" x1="0" y1="0" x2="{x2}" y2="{y2}">{inner}</linearGradient>\n'

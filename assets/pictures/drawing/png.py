@@ -1,4 +1,4 @@
-"""Writes a rendered picture anew as small as a plain PNG gets: 8 bits, no comments, no opacity where all is opaque."""
+"""Rewrites a rendered picture as small as a plain PNG gets: 8 bits, no comments, no alpha channel if all is opaque."""
 
 import struct
 import zlib
@@ -7,7 +7,7 @@ SIGNATURE = b"\x89PNG\r\n\x1a\n"
 
 
 def read(data):
-    """Width, height, bytes a pixel and the rows of an 8-bit RGB or RGBA file that is not interlaced."""
+    """Width, height, bytes per pixel and the rows of a non-interlaced 8-bit RGB or RGBA file."""
     at, packed, header = 8, b"", None
     while at < len(data):
         length, kind = struct.unpack(">I4s", data[at:at + 8])
@@ -55,7 +55,7 @@ def guess(kind, left, up, corner):
 
 
 def without_opacity(rows):
-    """The rows without their fourth byte, or nothing if some pixel is not opaque."""
+    """The rows without the alpha channel, or nothing if some pixel is not opaque."""
     if any(row[3::4] != b"\xff" * (len(row) // 4) for row in rows):
         return None
     result = []
@@ -67,7 +67,7 @@ def without_opacity(rows):
 
 
 def filtered(rows, kind, size):
-    """All rows with one way of guessing, as a stream for the packer."""
+    """All rows with one filter, as a stream for the compressor."""
     out, above = bytearray(), bytes(len(rows[0]))
     for row in rows:
         out.append(kind)
@@ -87,7 +87,7 @@ def chunk(kind, content):
 
 
 def write(width, height, size, rows):
-    """The smallest of three ways of guessing; which is best differs from picture to picture."""
+    """The smallest result of three filters; which is best differs from picture to picture."""
     packed = min((zlib.compress(filtered(rows, kind, size), 9) for kind in (0, 1, 2)), key=len)
     header = struct.pack(">IIBBBBB", width, height, 8, 6 if size == 4 else 2, 0, 0, 0)
     return SIGNATURE + chunk(b"IHDR", header) + chunk(b"IDAT", packed) + chunk(b"IEND", b"")

@@ -1,7 +1,7 @@
 """The eight pictures of the tutorial: a white frame with white words, an arrow, and the spot that has to be clicked.
 
-Each lies among the beams at a fixed moment of puzzle 1 and shows what it covers: pieces of beams, and of the frame of
-the playfield where it reaches over that. All places are pixels of the picture; the spots are those the game tests.
+Each is shown among the beams at a fixed moment of puzzle 1 and shows what it covers: pieces of beams, and of the frame of
+the playfield where it overlaps that. All places are pixels of the picture; the spots are those that the game tests.
 """
 
 from typing import NamedTuple
@@ -107,7 +107,7 @@ def small_button(left, top, right, bottom, words, cap):
 
 
 def call(end, words, cap):
-    """Words on a beam's end, a ring round the very end, and dark around the letters where the beam runs behind."""
+    """Words on a beam's end, a ring around the end itself, and dark around the letters where the beam runs behind."""
     ring = f"M{end[0] - 4.5} {end[1] + 0.5} a5 5 0 0 1 10 0 a5 5 0 0 1 -10 0"
     body = f'<path d="{ring}" fill="none" stroke="{WHITE}" stroke-width="1.2"/>\n'
     paths = [centred_text(word, end[0] + 1, baseline, cap / 10, -0.6) for word, baseline in words]

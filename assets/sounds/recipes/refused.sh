@@ -1,5 +1,5 @@
 # shellcheck shell=sh disable=SC2086,SC2154
-# A click that the game declines: two low buzzes, the second longer and a little lower, as one shakes one's head.
+# A click that the game declines: two low buzzes, the second longer and a little lower, like shaking one's head.
 layer short   0.21 "square 116.5 square mix 117.9"        lowpass 1100 fade q 0.006 0.21 0.03
 layer long    0.38 "square 103.8 square mix 105.2"        lowpass 900  fade q 0.006 0.38 0.16
 layer bottom1 0.21 "sine 58.3"                         fade q 0.01 0.21 0.04 gain -3
