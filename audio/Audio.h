@@ -1,4 +1,4 @@
-// What sounds and music are played with: a machine, and the player's two switches.
+// What sounds and music are played with: an audio player, and the player's two switches.
 #pragma once
 
 #include "platform/AudioPlayer.h"
@@ -9,7 +9,7 @@ namespace prismfall {
 
 struct Audio {
     AudioPlayer& player;
-    MessageBoxes& boxes;       // tell the player what went wrong
+    MessageBoxes& boxes;       // for telling the player what went wrong
     const Settings& settings;  // Music and SoundEffects
 };
 

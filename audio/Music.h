@@ -1,5 +1,5 @@
-// Background music: which file belongs to which level, and the one track that plays. Tracks loop. With the player's
-// Music switch off nothing reaches the machine.
+// Background music: which file belongs to which level, and the one track that plays. Tracks loop. While the player's
+// Music switch is off, nothing is passed to the platform.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@ namespace prismfall {
 constexpr std::int16_t kMusicVolume = 900;  // of 1000
 constexpr std::string_view kIntroTrack = "Orvane-Aurora_Borealis.mp3";
 
-// Plays the file, looping, in place of what played before. If it cannot be opened, a message box tells the player, and
+// Plays the file in a loop, replacing the previous track. If it cannot be opened, a message box tells the player, and
 // there is no music until the next track.
 void PlayMusicFile(const Audio& audio, std::string_view file, std::int16_t volume);
 inline void PlayIntroMusic(const Audio& audio) { PlayMusicFile(audio, kIntroTrack, kMusicVolume); }
@@ -22,7 +22,7 @@ void PlayLevelMusic(const Audio& audio, std::int16_t number);
 void SetMusicVolume(const Audio& audio, std::int16_t volume);
 void StopMusic(const Audio& audio);
 void PauseMusic(const Audio& audio);
-// The track plays on to its end, once; then there is silence until another one starts.
+// The track plays on to its end, once; then there is silence until another track starts.
 void ResumeMusic(const Audio& audio);
 
 }  // namespace prismfall

@@ -1,4 +1,4 @@
-// The seven short sounds of the game. They are part of the program (SoundResources.h).
+// The seven short sounds of the game. They are embedded in the program (SoundResources.h).
 #pragma once
 
 #include <cstdint>
@@ -17,8 +17,8 @@ enum class Sound : std::int32_t {
     Button,
 };
 
-// Plays a sound, cutting off the one that still plays; with `sync` it returns when the sound has ended, and no timer
-// ticks meanwhile. Nothing, not even reading the sound, while effects are off.
+// Plays a sound, cutting off the one that is still playing; with `sync` it returns when the sound has ended, and no
+// timer ticks until then. Does nothing while effects are off.
 void PlaySound2(const Audio& audio, Sound eName, bool sync);
 
 }  // namespace prismfall

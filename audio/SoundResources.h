@@ -1,4 +1,4 @@
-// The wave files that the program carries, under their ids 102 to 108. The build makes the definition from
+// The wave files embedded in the program, by their ids 102 to 108. The build generates the definition from
 // assets/sounds with cmake/EmbedSounds.cmake.
 #pragma once
 

@@ -34,7 +34,7 @@ constexpr std::array<ButtonClick, 10> kClicks = {{
     {"CommandExit", CommandExit_Click},
 }};
 
-// Opens a dialog, with a running game paused meanwhile, and puts the button's Up picture back.
+// Opens a dialog, pausing a running game meanwhile, and restores the button's Up picture.
 template <typename Show>
 void OpenDialog(VMain& main, Element& button, Show show) {
     const bool wasRunning = main.GameRunning;

@@ -1,16 +1,16 @@
-// The buttons of the main window: when they show which face, what their clicks call, and the three that open a dialog.
+// The buttons of the main window: which face they show when, what their clicks call, and the three that open a dialog.
 #pragma once
 
 #include "game/VMain.h"
 
 namespace prismfall {
 
-// The pointer moves over the surface: resets the buttons, in a game only right of the playfield.
+// The pointer moves over the surface: resets the buttons; during a game only right of the playfield.
 void Form_MouseMove(VMain& main, float X);
 
 void Button_Click(VMain& main, const Element& element);
 
-// Each opens its dialog; a running game stands still meanwhile.
+// Each opens its dialog and pauses a running game meanwhile.
 void CmdOptions_Click(VMain& main);
 void CmdScores_Click(VMain& main);
 void CmdAbout_Click(VMain& main);

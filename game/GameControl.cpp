@@ -84,7 +84,7 @@ void DropTutorial(VMain& main) {
     main.TutorialStep = 0;
 }
 
-// Leaves a game for its menu, or the puzzle menu for the main menu.
+// Goes from a game to its menu, or from the puzzle menu to the main menu.
 void LeaveScreen(VMain& main) {
     const ModeRow& row = RowOf(main.GameMode);
     if (row.isGame) DropGame(main);

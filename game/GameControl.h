@@ -7,26 +7,26 @@
 
 namespace prismfall {
 
-// Starts an Arcade game at StartLevel with three beams on their way.
+// Starts an Arcade game at StartLevel with three beams already in play.
 void CommandArcade_Click(VMain& main);
 
-// Takes a solution replay over, starts a puzzle that waits, or lays the puzzle out anew.
+// Takes over a solution replay, starts a waiting puzzle, or lays out the puzzle again.
 void CmdStart_Click(VMain& main);
 
 // Pauses or resumes, with the music. Does nothing while a tutorial picture is shown.
 void cmdPause_Click(VMain& main);
 
-// One step up: from a game to its menu, dropping the game, with the intro music; from the puzzle menu to the main menu;
-// from there out of the program, with all settings saved.
+// Goes back one screen: from a game to its menu, abandoning the game and starting the intro music; from the puzzle menu
+// to the main menu; from there it saves all settings and ends the program.
 void CommandExit_Click(VMain& main);
 
-// Esc does what CommandExit does, but leaves the present music on. Other keys do nothing.
+// Esc does what CommandExit does, but keeps the current music playing. Other keys do nothing.
 void Form_KeyDown(VMain& main, std::int16_t KeyCode);
 
-// The window has been minimised, which pauses, or has come back, which resumes the music and a solution replay.
+// The window was minimised, which pauses the game, or restored, which resumes the music and a solution replay.
 void Form_Resize(VMain& main, bool isMinimised);
 
-// In the very first run: the About page, then the tutorial.
+// In the very first run, shows About, then the tutorial.
 void Form_Activate(VMain& main);
 
 }  // namespace prismfall

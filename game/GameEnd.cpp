@@ -14,7 +14,7 @@ namespace prismfall {
 namespace {
 
 constexpr int kSweepBand = 20;           // pixels
-constexpr std::int64_t kSweepWait = 10;  // milliseconds a band
+constexpr std::int64_t kSweepWait = 10;  // milliseconds per band
 
 void WaitForBand(const VMain& main) {
     const std::int64_t start = main.platform.Clock();

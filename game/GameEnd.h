@@ -5,12 +5,12 @@
 
 namespace prismfall {
 
-// Stops the game's timers, enters the score, stops the music, plays the sound of the end to its length and greys the
-// beams out. Then an Arcade game shows the high scores and the main menu, a puzzle its result. All the while the main
-// window takes no input but its close box.
+// Stops the game's timers, enters the score, stops the music, plays the game-over sound to its end and greys out the
+// beams. Then an Arcade game shows the high scores and the main menu, a puzzle its result. Meanwhile the main window
+// takes no input except its close box.
 void EndGame(VMain& main);
 
-// All beams turn grey from the floor upwards, in bands of 20 pixels that take 10 ms each; events run meanwhile.
+// Turns all beams grey from the floor upwards, in bands of 20 pixels that take 10 ms each; events run meanwhile.
 void GameOverSweep(VMain& main);
 
 }  // namespace prismfall

@@ -11,7 +11,7 @@ namespace {
 constexpr float kCreatorInterval = 2500.0F;
 constexpr float kExtenderInterval = 75.0F;
 constexpr float kLevelFactor = 0.8F;
-constexpr std::int16_t kTopSpeedLevel = 64;  // from here on both intervals are at their shortest
+constexpr std::int16_t kTopSpeedLevel = 64;  // from here on both intervals are at their minimum
 
 int IntervalOf(float milliseconds) { return std::max(1, int{Rounded(milliseconds)}); }
 

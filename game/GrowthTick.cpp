@@ -33,7 +33,7 @@ void ExtendLines(VMain& main) {
     if (main.TutorialActive) TriggerTutorial(main);
     if (main.GameMode == Mode::SolutionReplay) PlaySolutionStep(main, PuzzleSolution(main.CurrentPuzzle));
     Hits hits;
-    const std::size_t count = field.Lines.size();  // beams that are appended meanwhile do not move in this tick
+    const std::size_t count = field.Lines.size();  // beams appended during this tick do not move in it
     for (std::size_t i = 0; i < count; ++i) {
         CLine& beam = *field.Lines[i];
         switch (GrowLine(field, beam)) {
@@ -47,7 +47,7 @@ void ExtendLines(VMain& main) {
                 PlaySound2(main.audio, Sound::Stopped, false);
                 break;
             case Outcome::Destroyed:
-                SetLevelSpeed(main);  // a level rise reaches the timers by the next hit
+                SetLevelSpeed(main);  // a level rise reaches the timers with the next hit
                 CountHit(main, hits, beam);
                 PlaySoundOfHit(main);
                 break;

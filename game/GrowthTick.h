@@ -1,5 +1,5 @@
-// The clock of the game: one tick lets every growing beam take its step, after the tutorial and a solution have had
-// their turn, and ends the game when a beam reaches the ground. GameControl starts and stops its timer.
+// The growth tick: the tutorial or a solution acts first, then every growing beam takes a step; if a beam reaches the
+// ground, the game ends. GameControl starts and stops its timer.
 #pragma once
 
 #include "game/VMain.h"
@@ -11,8 +11,8 @@ void LineExtender_Timer(VMain& main);
 // A new beam for an Arcade game.
 void LineCreator_Timer(VMain& main);
 
-// One tick. A wall or the floor cuts it short: the beams behind in Lines do not move, and what had collided scores
-// nothing. The last collision of a puzzle waits for its sound.
+// One tick. A wall or the floor cuts it short: the following beams in Lines do not move, and collisions earlier in the
+// tick score nothing. After the last collision of a puzzle it waits for the sound.
 void ExtendLines(VMain& main);
 
 }  // namespace prismfall

@@ -19,7 +19,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr Extent kOuterSize{806, 629};  // with a nominal frame; the inside is 802 by 602 whatever the desktop draws
+constexpr Extent kOuterSize{806, 629};  // with a nominal frame; the inner area is 802 by 602 whatever the desktop draws
 
 // One second after start-up: the intro track, once.
 void TimerPlayIntro_Timer(VMain& main) {

@@ -1,15 +1,15 @@
-// The main window: its start-up, its closing, and which handler each event of the player and the desktop goes to.
+// The main window: its start-up, its closing, and which handler each event from the player and the desktop goes to.
 #pragma once
 
 #include "game/VMain.h"
 
 namespace prismfall {
 
-// Brings the state to what it is when the main menu first shows: timers, settings, catalogue, menu. Called once,
-// before the window is seen.
+// Sets up the state for the first main menu: timers, settings, catalogue, menu. Called once, before the window is
+// shown.
 void Form_Load(VMain& main);
 
-// The window is about to close by its close box: saves the settings as they are.
+// The window is about to be closed by its close box: saves the settings as they are.
 void Form_QueryUnload(VMain& main);
 void Form_Unload(VMain& main);
 

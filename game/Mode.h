@@ -1,11 +1,11 @@
-// The modes of the game by name. Modes.h says what each is like.
+// The modes of the game by name. Modes.h describes each.
 #pragma once
 
 #include <cstdint>
 
 namespace prismfall {
 
-// The numbers are what scripts of the headless driver say and print.
+// Scripts of the headless driver use and print these numbers.
 enum class Mode : std::int32_t { MainMenu, PuzzleMenu, PuzzleGame, ArcadeGame, SolutionReplay };
 
 }  // namespace prismfall

@@ -32,8 +32,8 @@ constexpr std::array<ModeRow, 5> kModes = {{
     {.mode = Mode::SolutionReplay, .isGame = true, .isPuzzle = true, .exitTo = Mode::PuzzleMenu, .clears = 4},
 }};
 
-// --- Which elements of the main window a screen shows when it is entered. Those that are in no row here are always
-// shown, or come and go by themselves.
+// --- Which elements of the main window a screen shows when it is entered. Elements without a row here are always
+// shown, or are shown and hidden elsewhere.
 
 struct ScreenElement {
     Element MainElements::*element;
@@ -61,7 +61,7 @@ constexpr std::array<ScreenElement, 15> kScreenElements = {{
     {&MainElements::PictureScores2, kInPuzzles},
     {&MainElements::LabelPuzzleNr, kInPuzzles},
     {&MainElements::CmdStart, kInPuzzles},
-    {&MainElements::cmdPause, kInArcade},  // a puzzle's comes when it is started
+    {&MainElements::cmdPause, kInArcade},  // a puzzle shows it when it is started
 }};
 
 void ShowElements(VMain& main, Mode mode) {
@@ -105,7 +105,7 @@ void PlayMusicOfMode(const VMain& main) {
 
 void SetMusic(VMain& main, bool value) {
     if (value == main.settings.Music) return;
-    if (!value) StopMusic(main.audio);  // before it is off, when nothing reaches the machine any more
+    if (!value) StopMusic(main.audio);  // first, since nothing reaches the platform once it is off
     main.settings.Music = value;
     if (value) PlayMusicOfMode(main);
 }

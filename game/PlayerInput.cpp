@@ -17,7 +17,7 @@ namespace prismfall {
 
 namespace {
 
-// --- The beam action of a press.
+// --- What a press does to a beam.
 
 bool IsInEntryZone(const Field& field, const CLine& beam) { return beam.YEnd < field.CollisionLineY + kBlueLine; }
 
@@ -62,7 +62,7 @@ void PressBeam(VMain& main, MouseButton Button, float X, float Y) {
     }
 }
 
-// --- The puzzle menu's pick.
+// --- Picking a puzzle in the puzzle menu.
 
 void PressPreview(VMain& main, float X, float Y) {
     const float column = std::floor((X - kLeftWall) / (kRightWall - kLeftWall) * kMenuColumns);

@@ -1,16 +1,16 @@
-// What the mouse does on the playfield: the left button bends a beam or starts one that waits, the right button runs it
-// forward at once, and in the puzzle menu either picks a preview.
+// What the mouse does on the playfield: the left button bends a beam or starts a waiting one, the right button runs it
+// forward at once, and in the puzzle menu either button picks a preview.
 #pragma once
 
 #include "game/VMain.h"
 
 namespace prismfall {
 
-// A press on the playfield at (X, Y), in game pixels. Any other button than the left one acts as the right one. The
-// place is remembered in every mode; beams are out of reach during the tutorial, a pause and a replay.
+// A press on the playfield at (X, Y), in game pixels. Any button except the left one acts as the right one. The place
+// is remembered in every mode; presses do not reach beams during the tutorial, a pause or a replay.
 void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y);
 
-// The second press of a double click: a left press at the place of the last one, while a game runs.
+// The second press of a double click: a left press at the place of the last press, while a game runs.
 void Form_DblClick(VMain& main);
 
 }  // namespace prismfall

@@ -19,7 +19,7 @@ static_assert(kSolutionRows.size() == kPuzzleCount, "every layout needs a soluti
 
 using Rows = std::array<std::string_view, kPuzzleCount>;
 
-// Not constexpr on purpose: a bad row stops the compiler at the call that tells what is wrong with it.
+// Not constexpr on purpose: a bad row makes the compiler stop at a call that says what is wrong with it.
 [[noreturn]] void RejectRow(const char* /*reason*/) { std::abort(); }
 
 class RowReader {
@@ -52,7 +52,7 @@ class RowReader {
         if (!Take(expected)) RejectRow("another character was expected");
     }
 
-    // A number and a colon in front of a record, or the given one.
+    // The number before a record, if there is one followed by a colon, or the given one.
     constexpr std::int16_t NumberInFront(std::int16_t fallback) {
         if (rest.substr(0, rest.find(' ')).find(':') == std::string_view::npos) return fallback;
         const std::int16_t number = Number();
@@ -101,7 +101,7 @@ constexpr std::size_t CountAllRecords(const Rows& rows) {
 template <typename Record, std::size_t Size>
 struct Table {
     std::array<Record, Size> records{};
-    std::array<std::size_t, kPuzzleCount + 1> starts{};  // of each row; the last is the end of all
+    std::array<std::size_t, kPuzzleCount + 1> starts{};  // of each row; the last entry is the end of the table
 
     constexpr std::span<const Record> Row(std::int16_t puzzle) const {
         const auto row = static_cast<std::size_t>(puzzle) - 1;

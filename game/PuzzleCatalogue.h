@@ -8,9 +8,9 @@
 
 namespace prismfall {
 
-// A beam of a puzzle as it is laid out, in design units.
+// A beam of a puzzle's layout, in design units.
 struct LayoutBeam {
-    std::int16_t PuzzleLineNr = 0;  // the name of the beam for solutions; several may share one
+    std::int16_t PuzzleLineNr = 0;  // how solutions refer to the beam; several beams may share a number
     std::int16_t X = 0;             // of the tail
     std::int16_t YStart = 0;
     std::int16_t YEnd = 0;
@@ -19,13 +19,14 @@ struct LayoutBeam {
     BeamColor Color = BeamColor::Blue;
 };
 
-// A step of a solution. It fires on a growing beam of the number TriggerLineNr whose head is exactly at TriggerYEnd.
+// A step of a solution. It is triggered by a growing beam with the number TriggerLineNr whose head is exactly at
+// TriggerYEnd.
 struct SolutionStep {
     std::int16_t TriggerLineNr = 0;
     std::int16_t TriggerYEnd = 0;  // pixels of the surface
-    bool SpeedUp = false;          // run the beams that it acts on forward
-    std::int16_t OtherLineNr = 0;  // the number of those beams; 0 for the one that triggered it
-    bool BendFirst = false;        // bend them before
+    bool SpeedUp = false;          // run the affected beams forward
+    std::int16_t OtherLineNr = 0;  // the number of the affected beams; 0 for the triggering beam
+    bool BendFirst = false;        // bend them first
 };
 
 // Of puzzle 1 to kPuzzleCount.

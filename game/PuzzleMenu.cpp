@@ -12,7 +12,7 @@ namespace prismfall {
 
 namespace {
 
-// Game pixels. The grid divides the playfield; its cells are as much smaller as the gap between them.
+// Game pixels. The grid divides the playfield; its cells are smaller by the gap between them.
 constexpr double kGridWidth = kRightWall - kLeftWall;
 constexpr double kGridHeight = kFloor - kPlayfieldTop;
 constexpr double kGap = 20;
@@ -21,7 +21,7 @@ constexpr int kPenWidth = 2;
 constexpr Colour kCellColour = 0xFF0000;
 constexpr double kMarkPlace = 0.7;  // of the cell's width and height
 
-// Design units that a cell has room for, and how much of the cell they fill.
+// The design units that fit in a cell, and how much of the cell they fill.
 constexpr double kDesignWidth = 798;
 constexpr double kDesignHeight = 595;
 constexpr double kFillAcross = 0.97;

@@ -7,7 +7,7 @@ namespace prismfall {
 
 namespace {
 
-// What a button leads to, after which the dialog goes.
+// A button that makes a move and then hides the dialog.
 template <typename Move>
 DialogClick MakeClick(VMain& main, std::string_view button, Move move) {
     return {button, [&main, move] {

@@ -5,8 +5,9 @@
 
 namespace prismfall {
 
-// Shows VPuzzleResult. A solved puzzle offers the next one (a disabled button after the last) and the menu, a lost one
-// its solution, the menu and another try. Returns when the dialog has closed and the chosen move has been made.
+// Shows VPuzzleResult. A solved puzzle offers the next one (the button is disabled after the last) and the menu, a lost
+// one its solution, the menu and another try. Returns when the dialog has closed and the player's choice was carried
+// out.
 void ShowPuzzleResult(VMain& main, bool Solved);
 
 }  // namespace prismfall

@@ -14,7 +14,7 @@ namespace prismfall {
 namespace {
 
 constexpr std::int16_t kTutorialPuzzle = 1;
-constexpr int kHeadOnHeadGap = 3;  // pixels that each of two heads is drawn back
+constexpr int kHeadOnHeadGap = 3;  // pixels by which each of two heads is drawn back
 constexpr int kHeadOnBeamGap = 4;
 
 // Design units to pixels: four fifths, rounded down.

@@ -1,5 +1,5 @@
 // The rows of the puzzle catalogue, as text that can be read and compared row by row. PuzzleCatalogue.cpp turns them
-// into numbers while the program is compiled; nothing else includes this file.
+// into numbers at compile time; nothing else includes this file.
 #pragma once
 
 #include <array>
@@ -9,8 +9,8 @@ namespace prismfall {
 
 // clang-format off
 
-// A beam is X,YStart,YEnd,DRC: D the direction, R the run mode, C the color. Its number is its place in the row, unless
-// that is given in front, with a colon.
+// A beam is X,YStart,YEnd,DRC: D the direction, R the run mode, C the color. Its number is its position in the row,
+// unless given in front, with a colon.
 constexpr auto kLayoutRows = std::to_array<std::string_view>({
     /*  1 */ "0,0,200,213 200,0,200,212 300,200,400,112 500,200,380,113 400,0,20,210 750,0,85,120 0,200,230,213",
     /*  2 */ "0,0,250,201 250,250,375,202 375,375,400,220 125,0,125,201 250,125,250,200 375,250,375,203 "

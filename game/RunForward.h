@@ -1,15 +1,15 @@
-// Running a beam forward in a game, whoever does it: the player, the tutorial or a solution.
+// Running a beam forward in a game, on behalf of the player, the tutorial or a solution.
 #pragma once
 
 #include "game/VMain.h"
 
 namespace prismfall {
 
-// Runs the beam to its end, and does what follows if that was at another beam: its sound, which is not waited for, and
-// in a scored game its points and the blue line, painted again.
+// Runs the beam to its end. If that was at another beam, plays the sound without waiting for it, and in a scored game
+// adds the points and repaints the blue line.
 Outcome RunForward(VMain& main, CLine& beam);
 
-// Whether a puzzle is in play and all of its beams are dying.
+// Whether a puzzle is being played and all of its beams are dying.
 bool IsPuzzleCleared(const VMain& main);
 
 }  // namespace prismfall

@@ -11,9 +11,9 @@ namespace prismfall {
 namespace {
 
 constexpr int kPointsOfOne = 10;
-constexpr int kMostDoublings = 15;  // far past what a score can hold
+constexpr int kMostDoublings = 15;  // far more than a score can hold
 
-constexpr float kPopUpAside = -15;  // of a beam that runs to the right, game pixels
+constexpr float kPopUpAside = -15;  // offset for a beam that runs to the right, game pixels
 constexpr float kPopUpAbove = -10;
 constexpr std::int16_t kPopUpDarkens = 6;  // MultiTicks
 constexpr std::int16_t kPopUpEnds = 8;

@@ -40,7 +40,7 @@ void ActOnOther(VMain& main, const SolutionStep& step, CLine& other) {
     if (step.SpeedUp) RunForward(main, moving);
 }
 
-// The beams that these steps append are not acted on.
+// Beams appended by these steps are not affected.
 void ActOnOthers(VMain& main, const SolutionStep& step) {
     const std::vector<CLine*>& beams = main.field.Lines;
     const std::size_t count = beams.size();
@@ -61,7 +61,7 @@ void Act(VMain& main, const SolutionStep& step, CLine& beam) {
 void PlaySolutionStep(VMain& main, std::span<const SolutionStep> script) {
     const std::vector<CLine*>& beams = main.field.Lines;
     const std::size_t count = beams.size();
-    // A step can yield, and then beams may go.
+    // A step can yield, and then beams may disappear.
     for (std::size_t i = 0; i < count && i < beams.size(); ++i) {
         CLine& beam = *beams[i];
         if (beam.RunMode != Motion::Growing) continue;

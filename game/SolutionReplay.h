@@ -8,8 +8,8 @@
 
 namespace prismfall {
 
-// Fires, for each growing beam, the first step of the script that names the beam's number and the exact height of its
-// head. Which steps have fired is not kept: a growing head is at each height for one tick only.
+// Carries out, for each growing beam, the first step of the script with the beam's number and the exact height of its
+// head. It need not remember which steps are done: a growing head is at each height for only one tick.
 void PlaySolutionStep(VMain& main, std::span<const SolutionStep> script);
 
 }  // namespace prismfall

@@ -34,7 +34,7 @@ constexpr std::array<Moment, kTutorialPictureCount> kMoments = {{
     {520, 84, 484},
 }};
 
-// Where a picture can be clicked, in its own pixels; all bounds lie outside the spot.
+// Where a picture can be clicked, in its own pixels; all bounds are exclusive.
 struct Spot {
     std::size_t picture;
     std::string_view accessibleName;
@@ -62,7 +62,7 @@ bool Contains(const Spot& spot, float x, float y) {
     return x > spot.xAbove && x < spot.xBelow && y > spot.yAbove && y < spot.yBelow;
 }
 
-// The part of a spot that can be seen: one of them reaches below its picture.
+// The visible part of a spot: one of them extends below its picture.
 PressSpot SeenPart(const Spot& spot, const Element& picture) {
     const float bottom = std::min(spot.yBelow, static_cast<float>(picture.height));
     return {spot.accessibleName,       spot.xAbove,          spot.yAbove,
@@ -74,7 +74,7 @@ CLine* FindBeam(const Field& field, std::int16_t number) {
     return beam == field.Lines.end() ? nullptr : *beam;
 }
 
-// After its bend two segments have the beam's number, and only one of them grows.
+// After a bend two segments have the beam's number, and only one of them grows.
 CLine* FindGrowingBeam(const Field& field, std::int16_t number) {
     const auto beam = std::ranges::find_if(field.Lines, [number](const CLine* line) {
         return line->PuzzleLineNr == number && line->RunMode == Motion::Growing;
@@ -100,8 +100,8 @@ void ActForPlayer(VMain& main) {
     if (main.TutorialStep == 7) SpeedUpForPlayer(main);
 }
 
-// The pause button is dead while a picture is shown, so the picture must do its work. The music has come back with the
-// window.
+// The pause button is dead while a picture is shown, so the picture must do its work. The music has already resumed
+// with the window.
 void EndPauseByMinimising(VMain& main) {
     main.GameRunning = true;
     main.platform.StartTimer(Timer::LineDeleter);

@@ -1,5 +1,5 @@
-// The state of the game. There is one for a run of the program; every topic of this folder is a pair of files with free
-// functions on it. What lies below has a state of its own, and takes only that.
+// The state of the game. There is one per run of the program; every topic of this folder is a pair of files with free
+// functions on it. The layers below have their own states and take only those.
 #pragma once
 
 #include <cstdint>
@@ -30,8 +30,8 @@ struct VMain : MainElements {
     Audio audio;
     DialogHost dialogs;
 
-    // --- What is played.
-    Mode GameMode = Mode::MainMenu;  // changed by EnterMode alone
+    // --- The game in progress.
+    Mode GameMode = Mode::MainMenu;  // changed only by EnterMode
     bool GameRunning = false;
     bool PuzzleWaiting = false;  // a puzzle is laid out and waits for CmdStart
     bool TutorialActive = false;
@@ -51,11 +51,11 @@ struct VMain : MainElements {
     // --- The pop-up of a collision of several beams.
     BeamColor MultiColor = BeamColor::Blue;  // of the last collision in a growth tick, of several beams or not
     Heading MultiDirection = Heading::Leftwards;
-    std::int16_t MultiTicks = 0;  // since it came up
+    std::int16_t MultiTicks = 0;  // since it appeared
 
     std::int16_t SweepY = 0;  // lower edge of the grey band at a game's end
 
-    // --- The dialogs, each made at its first use.
+    // --- The dialogs, each built on first use.
     std::unique_ptr<Window> VHighScore2;
     std::unique_ptr<Window> VPuzzleResult;
     std::unique_ptr<Window> VAbout;

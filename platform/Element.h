@@ -1,5 +1,5 @@
-// What a window holds: pictures, labels, buttons and the like, as plain data. The game changes the data, and a backend
-// draws what has changed.
+// The contents of a window: pictures, labels, buttons and so on, as plain data. The game changes the data, and a
+// backend draws what has changed.
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@ namespace prismfall {
 // 0xBBGGRR: blue in the high byte, red in the low byte.
 using Colour = std::uint32_t;
 
-// 0xFFRRGGBB, as pictures and surfaces have their pixels.
+// 0xFFRRGGBB, the pixel format of pictures and surfaces.
 constexpr std::uint32_t PixelOf(Colour colour) {
     return 0xFF000000U | (colour & 0x0000FFU) << 16 | (colour & 0x00FF00U) | (colour & 0xFF0000U) >> 16;
 }
@@ -23,13 +23,13 @@ constexpr Colour kRed = 0x0000FF;
 
 enum class ElementKind {
     Picture,       // shows `picture`
-    Button,        // shows `picture`; sounds at a press and has a click
-    PressPicture,  // shows `picture`; takes presses and needs to know where; has no click
-    Label,         // shows `text`; ignored by the mouse, which reaches what lies beneath
+    Button,        // shows `picture`; plays a sound when pressed and has a click
+    PressPicture,  // shows `picture`; gets presses with their place; has no click
+    Label,         // shows `text`; ignored by the mouse, which reaches what is beneath it
     RadioButton,   // a round mark when `checked`, then `text`; has a click, takes fast presses
     CheckBox,      // a square mark when `checked`, then `text`; has a click, takes fast presses
     GroupFrame,    // a frame with `text` in its upper edge
-    Outline,       // a rectangle of one pixel, without a fill
+    Outline,       // a rectangle one pixel thick, not filled
 };
 
 struct Font {
@@ -48,7 +48,7 @@ struct PressSpot {
     float top = 0;
     float width = 0;  // 0 for no spot
     float height = 0;
-    bool rightButton = false;  // the right mouse button does it, the left one does not
+    bool rightButton = false;  // takes the right mouse button, not the left one
 
     bool operator==(const PressSpot&) const = default;
 };
@@ -77,23 +77,23 @@ struct Element {
     std::string_view accessibleName = {};  // for screen readers, read before the text; empty for decoration
     std::string text = {};                 // starts at the left and top edge; what does not fit is cut off
     ButtonFaces faces = {};                // of a Button: what `picture` changes between
-    std::string_view tag = {};             // which of its meanings a button has, if there are several
+    std::string_view tag = {};             // which of several meanings a button currently has
     Colour colour = kBlack;                // of text, marks and outlines
     std::optional<Colour> ground = {};     // the background of a label; without one, what is below shows through
     Font font = {};
     bool wraps = false;           // break the text into lines at the box's right edge
     int fitHeight = 0;            // above 0, the text is set smaller than its font if it would not fit this height
     bool checked = false;         // radio buttons and check boxes
-    std::string_view group = {};  // radio buttons of one name: one of them is checked
+    std::string_view group = {};  // of all radio buttons with the same group, one is checked
     std::array<PressSpot, 2> spots = {};  // of a PressPicture
-    const Element* panel = nullptr;       // the element that this one lies in and is hidden with
+    const Element* panel = nullptr;       // the element that contains this one and hides it when hidden
 
     bool operator==(const Element&) const = default;
 };
 
 inline void ShowNumber(Element& label, int number) { label.text = std::to_string(number); }
 
-// Where the element's box begins in its window.
+// The top left corner of the element's box in its window.
 inline float LeftInWindow(const Element& element) {
     return element.left + (element.panel != nullptr ? element.panel->left : 0);
 }

@@ -1,5 +1,5 @@
-// Game time: the machine's clock less all stalls. A stall is a time in which the game could not or should not go on.
-// With stalls left out the game as a whole takes longer, but nothing in it is lost and nothing speeds up to catch up.
+// Game time: the machine's clock minus all stalls. A stall is a period in which the game could not or should not go on.
+// Leaving out stalls makes the game as a whole take longer, but nothing is lost and nothing speeds up to catch up.
 #pragma once
 
 #include <chrono>
@@ -12,16 +12,15 @@ using Nanoseconds = std::chrono::nanoseconds;
 
 class GameTime {
   public:
-    // `machineClock` tells the time since some fixed moment and never runs backwards.
+    // `machineClock` returns the time since some fixed moment and never runs backwards.
     explicit GameTime(std::function<Nanoseconds()> machineClock) : clock(std::move(machineClock)) {}
 
     Nanoseconds Now() const { return (standstills > 0 ? stoppedAt : clock()) - stalls; }
-    // Leaves out a time that has just passed. `length` is 0 or more.
+    // Leaves out a period that has just passed. `length` is 0 or more.
     void Stall(Nanoseconds length) { stalls += length; }
 
     bool StandsStill() const { return standstills > 0; }
-    // Game time stands still while one of these exists: during a sound that is waited for, or while an error box is
-    // open.
+    // Game time stops while one of these exists: while the game waits for a sound, or while an error box is open.
     class Standstill {
       public:
         explicit Standstill(GameTime& gameTime) : time(gameTime) {

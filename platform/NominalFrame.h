@@ -1,4 +1,4 @@
-// The window frame that the game's sizes include. Whatever frame a desktop really draws, the area inside it is the same
+// The window frame that the game's sizes include. Whatever frame a desktop really draws, the inner area has the same
 // size everywhere.
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace prismfall {
 
-// Widths of a frame's four sides.
+// The widths of a frame's four sides.
 struct FrameBorders {
     int left = 0;
     int top = 0;

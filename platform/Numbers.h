@@ -1,5 +1,5 @@
-// The game's arithmetic: a truth value of 16 bits, sums that stop at the ends of the 16-bit range instead of wrapping,
-// and the one way of rounding.
+// The game's arithmetic: a 16-bit boolean, sums that saturate at the ends of the 16-bit range instead of wrapping, and
+// the one way of rounding.
 #pragma once
 
 #include <algorithm>
@@ -20,13 +20,13 @@ class Boolean {
     std::int16_t bits = 0;
 };
 
-// The nearest value that fits 16 bits.
+// The nearest 16-bit value.
 constexpr std::int16_t Saturated(std::int64_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
-// To the nearest whole number, a tie going to the even one; what is out of range stops at its end. `value` is a number.
+// Rounds to the nearest integer, ties to even, and saturates. `value` must not be NaN.
 inline std::int16_t Rounded(double value) {
     return Saturated(static_cast<std::int64_t>(std::nearbyint(std::clamp(value, -1e6, 1e6))));
 }

@@ -16,12 +16,12 @@ struct PixelBox {
     bool operator==(const PixelBox&) const = default;
 };
 
-// What both boxes cover; empty if they do not overlap.
+// The area that both boxes cover; empty if they do not overlap.
 inline PixelBox Overlap(const PixelBox& a, const PixelBox& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
 }
 
-// The smallest box that holds both. An empty one adds nothing.
+// The smallest box that contains both. An empty one adds nothing.
 inline PixelBox BoundingBox(const PixelBox& a, const PixelBox& b) {
     if (a.IsEmpty()) return b;
     if (b.IsEmpty()) return a;

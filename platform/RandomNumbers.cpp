@@ -4,7 +4,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr std::uint64_t kStep = 0x9E3779B97F4A7C15U;  // odd, so that the states come round only after 2^64 steps
+constexpr std::uint64_t kStep = 0x9E3779B97F4A7C15U;  // odd, so that states repeat only after 2^64 steps
 
 // Spreads every bit of a state over the whole result.
 std::uint64_t Mixed(std::uint64_t bits) {

@@ -1,6 +1,6 @@
-// The random numbers of every machine with a clock, the same on all of them. One number stands for all the chance of a
+// The random numbers of every platform with a clock, the same on all of them. One number determines all randomness of a
 // game: a recorder calls Begin with it when a game begins, and again when the game is played back. Both times the same
-// calls of Seed and Next, at the same moments since Begin, give the same results, whenever and wherever that is.
+// calls of Seed and Next, at the same moments since Begin, give the same results, at any time and on any machine.
 #pragma once
 
 #include <cstdint>
@@ -9,15 +9,15 @@ namespace prismfall {
 
 class RandomNumbers {
   public:
-    // A program draws `number` when it starts, so that no two runs are alike. Moments of seeds count from 0.
+    // A program picks `number` when it starts, so that no two runs are alike. Moments of seeds count from 0.
     explicit RandomNumbers(std::uint64_t number) : state(number) {}
 
-    // Begins anew with `number`; whatever was drawn before is forgotten. `moment` is game time in milliseconds, and the
-    // moments of later seeds count from it.
+    // Restarts with `number`, independent of everything before. `moment` is game time in milliseconds, and the moments
+    // of later seeds count from it.
     void Begin(std::uint64_t number, std::int64_t moment);
 
-    // Makes what follows depend on `moment` too, game time in milliseconds. It adds to what the sequence has come to,
-    // so two seeds at one moment are followed by different numbers.
+    // Makes the following numbers depend on `moment` too, game time in milliseconds. It is mixed into the current
+    // state, so two seeds at one moment are followed by different numbers.
     void Seed(std::int64_t moment);
 
     // Uniform from 0 up to but not including 1, a multiple of 2^-53.

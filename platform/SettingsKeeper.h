@@ -1,4 +1,4 @@
-// Keeps texts by application, section and key, for this user, that outlast the run.
+// Stores texts by application, section and key, for this user, beyond the end of the run.
 #pragma once
 
 #include <functional>
@@ -17,7 +17,7 @@ struct SettingValue {
     std::string text;
 };
 
-// The text that a store holds, or nothing.
+// The stored text, or nothing.
 using SettingsReader = std::function<std::optional<std::string>(std::string_view section, std::string_view key)>;
 using SettingsChange = std::function<std::vector<SettingValue>(const SettingsReader& stored)>;
 
@@ -25,10 +25,10 @@ class SettingsKeeper : public Facet {
   public:
     virtual std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                                     std::string_view fallback) = 0;
-    // Changes the store in one step that no other run of the program can come between: `change` is handed a way to read
-    // what the store holds now, whoever wrote it, and returns the values to write; it may be called again if the store
-    // has changed meanwhile. All of them are stored or none: whatever happens, the old store or the new one is found
-    // afterwards. False if nothing could be stored; the backend tells the player.
+    // Changes the store atomically, even if other copies of the program write to it: `change` gets a way to read what
+    // the store contains now, whoever wrote it, and returns the values to write; it may be called again if the store
+    // has changed in the meantime. Either all values are stored or none: whatever happens, the store is afterwards the
+    // old or the new one. Returns false if nothing could be stored; the backend tells the player.
     virtual bool ChangeSettings(std::string_view application, const SettingsChange& change) = 0;
 };
 

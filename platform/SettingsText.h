@@ -1,5 +1,5 @@
-// The text format of the settings: sections in brackets, lines of a key, an equals sign and a value. Any value can be
-// stored, whatever bytes it holds; a damaged line is skipped. Storage is the backend's job.
+// The text format of the settings: sections in brackets, then lines of a key, an equals sign and a value. Any value can
+// be stored, whatever bytes it contains; a damaged line is skipped. Storage is the backend's job.
 #pragma once
 
 #include <map>
@@ -19,16 +19,16 @@ using SettingsValues = std::map<std::pair<std::string, std::string>, std::string
 // The text stored under a section and key, or nothing.
 std::optional<std::string> FindSetting(const SettingsValues& values, std::string_view section, std::string_view key);
 
-// What a settings text becomes by a change of its values. A change that has nothing to write leaves every byte of it.
+// The settings text after a change of its values. A change that writes nothing leaves every byte as it was.
 std::string ChangedSettings(std::string text, const SettingsChange& change);
 
 class SettingsText {
   public:
     explicit SettingsText(std::string_view text);
 
-    // All values. Of several lines with the same key the last one counts.
+    // All values. If several lines have the same key, the last one counts.
     SettingsValues Values() const;
-    // Puts a value in its place, at the end of its section, or in a new section.
+    // Replaces a value, or inserts it at the end of its section or in a new section.
     void Set(const std::string& section, const std::string& key, const std::string& value);
     std::string Text() const;
 

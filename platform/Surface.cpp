@@ -1,4 +1,4 @@
-// The painting itself, in whole numbers, so that every machine covers the same pixels.
+// The painting itself, in integer arithmetic, so that every machine covers the same pixels.
 #include "platform/Surface.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace {
 
 using Wide = std::int64_t;
 
-// Whole numbers from `first` to `last`; empty if `last` is below `first`.
+// The integers from `first` to `last`; empty if `last` is below `first`.
 struct Span {
     Wide first;
     Wide last;
@@ -43,7 +43,7 @@ Span Solve(Wide factor, Wide low, Wide high) {
     return {-FloorDivide(-low, factor), FloorDivide(high, factor)};
 }
 
-// The largest whole number whose square is no more than `value`.
+// The largest integer whose square is at most `value`.
 Wide RootBelow(Wide value) {
     auto root = static_cast<Wide>(std::sqrt(static_cast<double>(value)));
     while (root * root > value) --root;
@@ -51,7 +51,7 @@ Wide RootBelow(Wide value) {
     return root;
 }
 
-// A segment with a pen: a band along it and a disc at each end. Every row of it is one span.
+// A segment drawn with a round pen: a band along it and a disc at each end. Each row is one span.
 class Stroke {
   public:
     Stroke(int x1, int y1, int x2, int y2, int penWidth)
@@ -89,7 +89,7 @@ class Stroke {
 
 constexpr PixelBox kWholeSurface{0, 0, Surface::kWidth, Surface::kHeight};
 
-constexpr std::size_t kMaxDamageBoxes = 512;  // beyond that, one box around all of them is cheaper to show
+constexpr std::size_t kMaxDamageBoxes = 512;  // beyond that, one box around everything is cheaper to show
 constexpr int kDamagePiece = 16;              // pixels of a long diagonal that share a box
 
 }  // namespace
@@ -160,7 +160,7 @@ void Surface::AddLineDamage(int x1, int y1, int x2, int y2, int reach) {
     const int pieces = std::max(std::abs(x2 - x1), std::abs(y2 - y1)) / kDamagePiece + 1;
     const bool isStraight = x1 == x2 || y1 == y2;
     const int count = isStraight ? 1 : pieces;
-    if (count > 1) ++reach;  // the pieces meet at whole pixels, so up to one away from the segment
+    if (count > 1) ++reach;  // the pieces meet at whole pixels, up to one pixel away from the segment
     for (int i = 0; i < count; ++i) {
         const auto at = [&](int from, int to, int step) {
             return from + static_cast<int>(static_cast<Wide>(to - from) * step / count);

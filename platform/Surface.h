@@ -1,5 +1,5 @@
-// The painted layer of the main window: a block of pixels that lies over the background picture and keeps what was
-// painted. All backends share it, so that the picture is the same everywhere and a test can look at its pixels.
+// The painted layer of the main window: a block of pixels over the background picture that keeps what was painted. All
+// backends share it, so that the picture is the same everywhere and tests can inspect its pixels.
 #pragma once
 
 #include <cstdint>
@@ -18,19 +18,19 @@ class Surface {
 
     Surface();
 
-    // The operations of SurfacePainter.h. Any coordinates will do: what lies outside is cut off. A width of 0 or less
+    // The operations of SurfacePainter.h. Any coordinates are allowed: what is outside is cut off. A width of 0 or less
     // paints nothing. While nothing is painted, the pixels take no memory.
     void Line(int x1, int y1, int x2, int y2, Colour colour, int width);
     void Box(int x1, int y1, int x2, int y2, Colour colour, int width);
     void Restore(int x1, int y1, int x2, int y2);
     void Clear();
 
-    // 0xFFRRGGBB, or kUnpainted. kWidth pixels a row, without gaps; x and y must lie on the surface.
+    // 0xFFRRGGBB, or kUnpainted. kWidth pixels per row, without gaps; x and y must be on the surface.
     std::uint32_t PixelAt(int x, int y) const { return Row(y)[x]; }
     const std::uint32_t* Row(int y) const;
 
-    // What has changed since the last call, as boxes on the surface that may overlap; long diagonals come in pieces.
-    // Replaces the contents of `boxes`, which the caller keeps so that no frame has to allocate it anew.
+    // What has changed since the last call, as boxes on the surface that may overlap; long diagonals are split.
+    // Replaces the contents of `boxes`, which the caller keeps so that it is not allocated for each frame.
     void TakeDamage(std::vector<PixelBox>& boxes);
 
   private:

@@ -68,14 +68,14 @@ void TimerWheel::StallFrom(Nanoseconds moment) {
 
 bool TimerWheel::TickDue() { return TickWithin(std::nullopt); }
 
-// Without a limit, all that is due by game time.
+// Without a limit, everything due by game time.
 bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
     for (int ticks = 0;; ++ticks) {
         ReadClock();
         const std::optional<Nanoseconds> due = NextDue();
         if (!due || *due > limit.value_or(lastReading)) return ticks > 0;
         if (ticks == kTicksPerTurn) {
-            StallFrom(*due - Nanoseconds(1));  // the next turn begins with it
+            StallFrom(*due - Nanoseconds(1));  // the next turn starts with it
             return true;
         }
         Tick(*First(), *due);

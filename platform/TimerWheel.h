@@ -1,8 +1,7 @@
-// The six timers on game time, and the moments of all handlers. A handler has one moment: that of a tick is the time at
-// which it was due, that of everything else is game time as it begins, rounded down to a whole millisecond. What a
-// handler starts or re-times counts from its moment, so timers that are started together fall due together, however
-// long the handler takes and however late it is. All due times are whole milliseconds too, so a recording can name any
-// moment.
+// The six timers on game time, and the moments of all handlers. A handler has one moment: for a tick the time at which
+// it was due, for everything else the game time at which it begins, rounded down to a whole millisecond. Timers that a
+// handler starts or re-times count from its moment, so timers started together fall due together, however long the
+// handler takes and however late it is. All due times are whole milliseconds too, so a recording can name any moment.
 #pragma once
 
 #include <algorithm>
@@ -29,24 +28,24 @@ class TimerWheel {
     void SetInterval(Timer timer, int milliseconds);
     void StopAll();
 
-    // Game time, in milliseconds, of the handler that is running.
+    // The moment of the running handler, in milliseconds of game time.
     std::int64_t MomentInMilliseconds() const;
 
     bool IsOn(Timer timer) const { return states[static_cast<std::size_t>(timer)].isOn; }
     int Interval(Timer timer) const;  // milliseconds
     // The earliest game time at which a timer is due that may tick: one that is on, has an interval above 0, and whose
-    // handler is not running. Nothing if there is none, and while game time stands still.
+    // handler is not running. Nothing if there is none, or while game time is stopped.
     std::optional<Nanoseconds> NextDue() const;
 
-    // --- For a machine whose clock runs by itself.
+    // --- For a platform whose clock runs by itself.
 
-    // Lets all that is due tick, in the order of due times, at the same time in the order of Timer. Before each tick
-    // the clock is read once; if a timer that may tick is late by its interval or more, the lateness of the one that is
-    // due first becomes a stall. Where ticks take longer than their timers' intervals a turn ends after some of them.
-    // While game time stands still nothing ticks. Returns whether anything did.
+    // Ticks everything that is due, in the order of due times; at the same time, in the order of Timer. Before each
+    // tick the clock is read once; if a timer that may tick is late by its interval or more, the lateness of the one
+    // due first becomes a stall. If ticks take longer than their timers' intervals, a turn ends after a number of
+    // ticks. While game time is stopped nothing ticks. Returns whether anything did.
     bool TickDue();
 
-    // Runs the handler of an input, an activation or the like, after all that was due by then has ticked.
+    // Runs the handler of an input, an activation or the like, after everything due by then has ticked.
     template <typename Call>
     void Handle(Call handler) {
         TickDue();
@@ -54,10 +53,10 @@ class TimerWheel {
         handler();
     }
 
-    // For a handler that lets events run. The first time only what is due within 1 ms of its moment ticks, and
-    // `takeInput` is not called; later all that is due ticks, then `takeInput` is called, which may Handle pending
+    // For a handler that lets events run. The first time, only what is due within 1 ms of its moment ticks, and
+    // `takeInput` is not called; after that, everything due ticks, then `takeInput` is called, which may Handle pending
     // input and returns whether there was any. Afterwards the handler's moment is game time. Returns whether anything
-    // was done.
+    // happened.
     template <typename TakeInput>
     bool LetEventsRun(TakeInput takeInput) {
         const bool isFirst = running && !running->hasLetEventsRun;
@@ -67,12 +66,12 @@ class TimerWheel {
         return worked;
     }
 
-    // The running handler's moment is game time from now on: a dialog that it had opened has closed.
+    // Sets the running handler's moment to game time: a dialog that it opened has closed.
     void RenewMoment();
 
-    // --- For a clock that is moved by hand and never late.
+    // --- For a clock that is set by hand and never late.
 
-    // Lets the timer that is due first tick; there must be one. The tick's moment is game time.
+    // Ticks the timer that is due first; there must be one. The tick's moment is game time.
     void TickFirst();
     // Calls a timer's handler at game time, whether or not it is due; it counts as running, and its due time stays.
     void Fire(Timer timer) { CallHandler(timer, time.Now()); }
@@ -94,7 +93,7 @@ class TimerWheel {
         bool hasLetEventsRun = false;
     };
 
-    // Makes a handler the running one. They nest where one lets events run or opens a dialog.
+    // Makes a handler the running one. Handlers nest when one lets events run or opens a dialog.
     class Running {
       public:
         Running(TimerWheel& owner, Nanoseconds moment) : wheel(owner), outer(owner.running) {
@@ -110,7 +109,7 @@ class TimerWheel {
     };
 
     State& Of(Timer timer) { return states[static_cast<std::size_t>(timer)]; }
-    // The moment of a handler that is not a tick. A tick can come up to a millisecond early; what follows it does not
+    // The moment of a handler that is not a tick. A tick can be up to a millisecond early; the next handler does not
     // begin before it.
     Nanoseconds MomentAt(Nanoseconds gameTime) const {
         return std::max<Nanoseconds>(std::chrono::floor<std::chrono::milliseconds>(gameTime), lastTick);
@@ -119,7 +118,7 @@ class TimerWheel {
     std::optional<Timer> First() const;
     // Reads the clock into lastReading, and leaves out a stall.
     void ReadClock();
-    // Makes the time from `moment` to the last reading a stall.
+    // Turns the time from `moment` to the last reading into a stall.
     void StallFrom(Nanoseconds moment);
     bool TickWithin(std::optional<Nanoseconds> limit);
     void Tick(Timer timer, Nanoseconds moment);

@@ -27,7 +27,7 @@ struct WindowHandlers {
     std::function<void()> doubleClick;  // the second press of a double click, in place of mouseDown
     std::function<void(std::int16_t code)> keyDown;
     std::function<void(bool minimised)> resize;
-    std::function<void()> queryUnload;  // the window may be about to close; can come more than once, as where a hidden
+    std::function<void()> queryUnload;  // the window may be about to close; can come more than once, e.g. when a hidden
                                         // page may never be seen again
     std::function<void()> unload;       // the window closes
     std::function<void(Element&)> elementMove;
@@ -40,8 +40,8 @@ struct Window {
     std::string_view title;
     int innerWidth = 0;  // game pixels
     int innerHeight = 0;
-    std::string_view background;  // a picture laid at the top left and cut off at the edges
-    bool isDialog = false;        // a small frame without minimise and maximise boxes
+    std::string_view background;  // a picture placed at the top left and cut off at the edges
+    bool isDialog = false;        // has a small frame without minimise and maximise buttons
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works
@@ -75,7 +75,7 @@ struct Window {
         std::abort();
     }
 
-    // The topmost element at a place that takes the mouse, or null for the surface.
+    // The topmost element at a place that takes the mouse, or null if that is the surface.
     Element* ElementAt(float x, float y) {
         const auto covers = [x, y](const Element* element) { return Covers(*element, x, y); };
         const auto topmost = std::find_if(elements.rbegin(), elements.rend(), covers);

@@ -1,5 +1,5 @@
-// Shows windows. Their elements are plain data: a backend draws what has changed, the game never asks for it. The main
-// window is opened by whatever runs the backend; then its `activate` handler runs.
+// Shows windows. Their elements are plain data: a backend draws what has changed without being asked. Whatever runs the
+// backend opens the main window; then its `activate` handler runs.
 #pragma once
 
 #include "platform/Facet.h"
@@ -19,12 +19,12 @@ struct Place {
 
 class WindowHost : public Facet {
   public:
-    // Shows a dialog, which then is the only window that gets input, runs its `activate`, and returns when a handler
-    // has hidden it or its close box was used; timers go on meanwhile. True if it was hidden, false if it was closed.
-    // Returns true at once if the dialog is already open.
+    // Shows a dialog, which is then the only window that gets input, runs its `activate`, and returns when a handler
+    // has hidden it (true) or its close box was used (false); timers keep running. Returns true at once if the dialog
+    // is already open.
     virtual bool ShowModally(Window& dialog) = 0;
-    // The size with the desktop's frame, the size within it, and the place of the frame's corner on the desktop. For a
-    // dialog that is not open yet, the frame is the one it is expected to get.
+    // The size including the desktop's frame, the size inside it, and the position of the frame's top left corner on
+    // the desktop. For a dialog that is not open yet, the expected frame is used.
     virtual Extent OuterSize(const Window& window) = 0;
     virtual Extent InnerSize(const Window& window) = 0;
     virtual Place Position(const Window& window) = 0;

@@ -1,6 +1,6 @@
-// The one way from the pointer and the keyboard to the handlers of windows: which window gets input, what a press
-// reaches, what makes a click, and what the second press of a double click does. It knows nothing of where events come
-// from; what it does not let through has no effect at all.
+// Routes pointer and keyboard input to the handlers of windows: which window gets input, what a press hits, what makes
+// a click, and what the second press of a double click does. It does not know where events come from; input that it
+// does not pass on has no effect at all.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ struct PressPlace {
     float y = 0;
     std::uint32_t time = 0;  // milliseconds, may wrap
     // Where the window's inner area begins on the desktop, so that presses in two windows can be compared; nothing if
-    // the desktop does not say, and then any two presses in different windows are near each other.
+    // the desktop does not say: then any two presses in different windows count as near each other.
     std::optional<Place> origin = {};
 };
 
@@ -26,32 +26,32 @@ class WindowInput {
     explicit WindowInput(int doubleClickMilliseconds = 500)
         : doubleClickTime(static_cast<std::uint32_t>(doubleClickMilliseconds)) {}
 
-    // --- The open windows, the latest in front. Only that one gets input, as long as it is visible and takes it.
+    // --- The open windows, the latest in front. Only the front window gets input, as long as it is visible and takes
+    // it.
 
     void Open(Window& window);
     void Close(const Window& window);
     // The window in front, or null.
     Window* Front() const { return windows.empty() ? nullptr : windows.back(); }
 
-    // --- What the player does, for a backend that knows places and times. Every button but the left one acts as the
-    // right one; a backend translates it so.
+    // --- The player's input, for a backend that knows places and times. Every button except the left one acts as the
+    // right one; the backend translates it.
 
     void Move(Window& window, float x, float y) const;
-    // The second press of a double click reaches nothing if it is on something else than the first, or on the same
-    // element again, unless that takes fast presses. On the same surface it is a double click. A third is a press
-    // again.
+    // The second press of a double click is dropped if it hits something other than the first, or the same element,
+    // unless that takes fast presses. On the same surface it is a double click. A third press is a press again.
     void Press(Window& window, MouseButton button, const PressPlace& place);
     // A left press and its release on the same element are a click.
     void Release(Window& window, MouseButton button, float x, float y);
     void Key(const Window& window, std::int32_t code) const;
 
-    // --- The same, where it is already known what a press reaches and that it is no second press.
+    // --- The same, for a backend that already knows what a press hits and that it is not a second press.
 
     void PressSurface(const Window& window, MouseButton button, float x, float y) const;
     void DoubleClickSurface(const Window& window) const;
-    // `x` and `y` are places in the element. Nothing happens at one that ignores the mouse.
+    // `x` and `y` are relative to the element. Does nothing if the element ignores the mouse.
     void PressOn(const Window& window, Element& element, MouseButton button, float x, float y) const;
-    // Left button, press and release. Nothing happens, not even a press, at an element that has no click.
+    // Left button, press and release. Does nothing, not even a press, if the element has no click.
     void PressAndClick(const Window& window, Element& element) const;
 
   private:
@@ -59,7 +59,7 @@ class WindowInput {
         const Window* window = nullptr;
         const Element* element = nullptr;  // null for the surface
         PressPlace place;
-        bool isFirst = false;  // of a possible double click
+        bool isFirst = false;  // the first press of a possible double click
     };
 
     bool HasInput(const Window& window) const;
@@ -68,8 +68,8 @@ class WindowInput {
 
     std::uint32_t doubleClickTime;
     std::vector<Window*> windows;
-    Element* pressed = nullptr;  // by the left button, in the window in front
-    Reached last;                // left press
+    Element* pressed = nullptr;  // by the left button, in the front window
+    Reached last;                // the last left press
 };
 
 }  // namespace prismfall

@@ -1,5 +1,5 @@
-// How dialogs are made, placed over the main window and shown, and what all buttons of all windows have in common: a
-// button shows the brighter of its two pictures while the pointer is over it, and sounds when it is pressed, before its
+// How dialogs are built, placed over the main window and shown, and how all buttons of all windows behave: a button
+// shows the brighter of its two pictures while the pointer is over it, and plays a sound when pressed, before its
 // click.
 #pragma once
 
@@ -20,16 +20,16 @@ constexpr Colour kCream = 0xC0FFFF;
 
 // --- Buttons.
 
-// Puts the Up pictures back on all buttons of a window.
+// Gives all buttons of a window their Up pictures back.
 void ResetFaces(Window& window);
 // The pointer is over an element: a button shows its Down picture, others do nothing.
 void ShowDownFace(Element& element);
-// The press sound of a button, at any mouse button; the click comes when it has ended. Others do nothing.
+// The press sound of a button, for any mouse button; the click follows when it has ended. Other elements do nothing.
 void PressElement(const Audio& audio, const Element& element);
 
 // --- Dialogs.
 
-// What a dialog is shown with.
+// What is needed to show a dialog.
 struct DialogHost {
     WindowHost& desktop;
     const Window& mainWindow;
@@ -43,13 +43,13 @@ struct DialogClick {
 };
 
 // A dialog with the shared background and the given elements. Its buttons have their faces and sounds; a click on an
-// element that `clicks` does not name does nothing. `audio` must outlive it.
+// element that is not in `clicks` does nothing. `audio` must outlive it.
 std::unique_ptr<Window> MakeDialog(const Audio& audio, std::string_view name, std::string_view title, Extent inner,
                                    std::vector<Element> elements, std::vector<DialogClick> clicks);
 
-// Centres the dialog across the main window, just below its title bar, and shows it until its own buttons have hidden
-// it or its close box was used; timers go on meanwhile. A closed one is null afterwards and has to be made anew, a
-// hidden one keeps what its elements hold.
+// Centres the dialog horizontally over the main window, just below its title bar, and shows it until its own buttons
+// hide it or its close box is used; timers keep running. A closed dialog is null afterwards and must be rebuilt, a
+// hidden one keeps the state of its elements.
 void ShowDialog(const DialogHost& host, std::unique_ptr<Window>& dialog);
 
 }  // namespace prismfall

@@ -50,7 +50,7 @@ MainElements::MainElements() {
         PictTut[i].accessibleName = picture.accessibleName;
         PictTut[i].visible = false;
     }
-    CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to leaf through the pages
+    CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to turn pages quickly
     ImagePrismfall.accessibleName = "Prismfall";
     LabelPuzzlePage.picture = {};
 }

@@ -1,4 +1,4 @@
-// The elements of the main window, each at its place. The game reads and changes them by name.
+// The elements of the main window, each in its place. The game reads and changes them by name.
 #pragma once
 
 #include <array>
@@ -31,7 +31,7 @@ inline Element MakeButton(std::string_view name, int left, int top, int width, i
     return button;
 }
 
-// What a button that changes its meaning shows and says at present.
+// What a button with several meanings shows and does at the moment.
 struct ButtonMeaning {
     ButtonFaces faces;
     std::string_view tag;
@@ -100,7 +100,7 @@ struct MainElements {
     MainElements(const MainElements&) = delete;
     MainElements& operator=(const MainElements&) = delete;
 
-    // All of them, those on top last.
+    // All elements, the topmost last.
     std::vector<Element*> InStackingOrder();
 };
 

@@ -64,7 +64,7 @@ std::vector<Element> MakeElements() {
     return table;
 }
 
-// Marks the present settings. A start level without a button is not marked.
+// Marks the current settings. A start level without a button is not marked.
 void Options_Load(Window& dialog, const Settings& settings) {
     for (std::size_t i = 0; i < kLevelOptions.size(); ++i)
         dialog[kLevelOptions[i]].checked = settings.StartLevel == static_cast<std::int16_t>(i + 1);

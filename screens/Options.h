@@ -11,15 +11,15 @@
 
 namespace prismfall {
 
-// Shows the dialog, which is made at its first use and kept in `VOptions`; returns when it has closed. `setMusic`
-// switches the music, which needs to know the track that fits what is being played.
+// Shows the dialog, which is built on first use and kept in `VOptions`; returns when it has closed. `setMusic` switches
+// the music: only the caller knows which track belongs to the current screen.
 void ShowOptions(const DialogHost& host, std::unique_ptr<Window>& VOptions, Settings& settings,
                  std::function<void(bool isOn)> setMusic);
 
 // The level of the next Arcade game. A game in progress does not change.
 void SetStartLevel(Settings& settings, std::int16_t start);
 
-// Switches the effects on or off. A sound that is playing plays on.
+// Switches the effects on or off. A sound that is playing continues.
 void SetSoundEffects(Settings& settings, bool value);
 
 }  // namespace prismfall

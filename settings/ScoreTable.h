@@ -1,4 +1,4 @@
-// The table of the ten best Arcade games, and the one rule by which a game enters it.
+// The table of the ten best Arcade games, and the rule for entering a game.
 #pragma once
 
 #include <array>
@@ -23,8 +23,8 @@ using ScoreTable = std::array<ScoreRow, kScoreRows>;
 
 constexpr ScoreRow kClearedRow = {0, 0, 0};
 
-// Puts a game above the first lower score, so below older equal ones, and drops the last row. False if no score is
-// lower; the table stays as it is then.
+// Inserts a game above the first lower score, so below older equal ones, and drops the last row. Returns false and
+// changes nothing if no score is lower.
 bool EnterScore(ScoreTable& table, const ScoreRow& game);
 
 }  // namespace prismfall

@@ -1,4 +1,4 @@
-// What outlasts a run of the program: options, the score table, which puzzles have been solved.
+// What is saved between runs: options, the score table, which puzzles have been solved.
 #pragma once
 
 #include <array>
@@ -13,10 +13,10 @@
 
 namespace prismfall {
 
-constexpr std::int16_t kPuzzleCount = 45;  // whose progress is kept; game/PuzzleTables.h must have as many
+constexpr std::int16_t kPuzzleCount = 45;  // must match game/PuzzleTables.h
 
-// What this run knows of the store. Other runs write to the same one, so a save must tell what this run has changed
-// from what it merely found (see SettingsStore.h).
+// What this run knows about the store. Other runs write to the same store, so a save must distinguish what this run has
+// changed from what it merely read (see SettingsStore.h).
 struct StoreMemory {
     std::map<std::pair<std::string, std::string>, std::string> texts;  // by section and key, as last read or saved
     // Since the score table was last read or saved:
@@ -34,8 +34,8 @@ struct Settings {
     StoreMemory Stored;
 };
 
-// Enters a finished game in the score table, below older equal ones, if its score is high enough. The last row drops
-// out. A score of 0 never enters.
+// Enters a finished game in the score table, below older equal ones, if its score is high enough. The last row is
+// dropped. A score of 0 never enters.
 void EnterGame(Settings& settings, const ScoreRow& game);
 
 // Empties the score table.

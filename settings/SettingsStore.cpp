@@ -21,12 +21,12 @@ constexpr std::string_view kSolvedPuzzles = "SolvedPuzzles";
 
 std::string KeyOf(std::string_view word, std::size_t number) { return std::string(word) + std::to_string(number); }
 
-// --- Values and their texts.
+// --- Values as text.
 
 std::string TextOf(std::int16_t number) { return std::to_string(number); }
 std::string TextOf(bool value) { return value ? "True" : "False"; }
 
-// An optional sign and digits, nothing else, within 16 bits.
+// A 16-bit integer: an optional sign and digits, nothing else.
 std::optional<std::int16_t> ParseNumber(std::string_view text) {
     if (text.starts_with('+')) {
         text.remove_prefix(1);
@@ -72,7 +72,7 @@ ScoreTable ReadScores(const TextReader& read) {
     return table;
 }
 
-// Reads from the store, and remembers what was read.
+// Reads from the store and remembers what was read.
 TextReader ReaderOf(SettingsKeeper& store, StoreMemory& memory) {
     return [&](std::string_view section, std::string_view key, const std::string& fallback) {
         std::string text = store.ReadSetting(kApplication, section, key, fallback);
@@ -119,7 +119,7 @@ bool IsTableAsKnown(const StoreMemory& memory, const SettingsReader& stored) {
     });
 }
 
-// The table that the store is to hold.
+// The table to be stored.
 ScoreTable MergedScores(const Settings& settings, const SettingsReader& stored) {
     if (IsTableAsKnown(settings.Stored, stored)) return settings.Scores;
     ScoreTable table;
@@ -134,7 +134,7 @@ ScoreTable MergedScores(const Settings& settings, const SettingsReader& stored) 
     return table;
 }
 
-// The score table has been merged with what the store holds, so that is what it is compared with.
+// The score table has been merged with the stored one, so it is compared with that.
 bool IsToBeWritten(const StoreMemory& memory, const SettingValue& value, const SettingsReader& stored) {
     const std::optional<std::string> text = stored(value.section, value.key);
     if (!text) return true;

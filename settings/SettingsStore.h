@@ -1,6 +1,6 @@
-// Reads the settings from the machine's store at start-up and writes them when the program ends; in between they live
-// in memory alone. Several runs may share a store: what one of them saves is never undone by another that has not
-// touched it.
+// Reads the settings from the platform's store at start-up and writes them when the program ends; in between they are
+// only in memory. Several runs may share a store: what one of them saves is never undone by another that has not
+// changed it.
 #pragma once
 
 #include "platform/SettingsKeeper.h"
@@ -8,13 +8,13 @@
 
 namespace prismfall {
 
-// Reads all settings. What is missing, or cannot be read as its type, takes its default.
+// Reads all settings. Whatever is missing or malformed gets its default.
 void ReadSettings(Settings& settings, SettingsKeeper& store);
 
-// Writes to the store what this run has changed, and what the store lacks, so that all 79 values are in it. If the
-// store's score table is not the one that this run knows, the games of this run enter that table (an empty one, if this
-// run has cleared it), and it becomes this run's too. If saving fails, the changes are kept for the next call. May be
-// called any number of times.
+// Writes to the store what this run has changed and what the store lacks, so that all 79 values are in it. If the
+// store's score table is not the one that this run knows, the games of this run are entered in the store's table (in an
+// empty one, if this run has cleared it), which then becomes this run's too. If saving fails, the changes are kept for
+// the next call. May be called any number of times.
 void SaveSettings(Settings& settings, SettingsKeeper& store);
 
 }  // namespace prismfall

@@ -20,7 +20,7 @@ void EnterPlayfield(const Field& field, BeamBody& beam, int y) {
     if (y == limit) BeginTrail(beam);
 }
 
-// Where the straight run of one segment ends, the beam being moved there.
+// Where the straight run of one segment ends; the beam has been moved there.
 struct RunEnd {
     Outcome outcome = Outcome::AtFloor;
     CLine* hit = nullptr;  // if it was a beam

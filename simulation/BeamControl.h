@@ -1,4 +1,4 @@
-// What a hand does to a beam, whether the player's, the tutorial's or a solution's: find it, bend it, run it forward.
+// What can be done to a beam, by the player, the tutorial or a solution: find it, bend it, run it forward.
 #pragma once
 
 #include <cstdint>
@@ -7,20 +7,20 @@
 
 namespace prismfall {
 
-// The growing or waiting beam whose head is nearest to (X, Y), the earliest in Lines of those equally near; null if it
-// is 50 pixels away or more.
+// The growing or waiting beam whose head is nearest to (X, Y), the earliest in Lines if several are equally near; null
+// if it is 50 pixels away or more.
 CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y);
 
-// Turns a beam in the entry zone round on the spot: what was drawn of it is erased, and it runs on the other way.
+// Turns a beam in the entry zone around on the spot: erases what was drawn of it and reverses its direction.
 void BendLine(Field& field, CLine& oLine);
 
-// Runs a beam forward to its end, painting as it goes and bouncing at walls as new segments of its chain. Where it runs
-// into a beam it is stopped or destroyed with it; otherwise it ends AtFloor, one step above the ground. GoesOn and
-// Bounced never come of it.
+// Runs a beam forward to its end, painting as it goes; each bounce off a wall starts a new segment of its chain. If it
+// runs into a beam it is stopped, or destroyed together with it; otherwise it ends AtFloor, one step above the ground.
+// Never returns GoesOn or Bounced.
 Outcome SpeedUpLine(Field& field, CLine& oLine);
 
-// Whether SpeedUpLine would end at a beam. No beam changes; but what is painted of `copy` above the entry limit is
-// erased, as the real run would.
+// Whether SpeedUpLine would end at a beam. No beam changes, but what is painted of `copy` above the entry limit is
+// erased, as in a real run.
 bool WouldEndAtBeam(const Field& field, BeamBody copy);
 
 }  // namespace prismfall

@@ -20,7 +20,7 @@ void ThinOne(Field& field, CLine& beam, std::int16_t thickness, bool byFastLine)
                               thickness);
 }
 
-// The next step of removal after the one at which the beam is.
+// The removal step after the beam's current one.
 std::int16_t NextThickness(const CLine& beam) { return Saturated(static_cast<std::int64_t>(beam.Thicknes) - 1); }
 
 // The next beam of the chain that has not taken this step yet, or null.
@@ -34,8 +34,8 @@ CLine* NextLinked(CLine& beam, std::int16_t thickness) {
 
 }  // namespace
 
-// Goes depth first from link to link. A player can bend a beam thousands of times, so the way back is kept in the beams
-// and not on the call stack.
+// Visits links depth first. A player can bend a beam thousands of times, so the way back is kept in the beams and not
+// on the call stack.
 void DeleteLine(Field& field, CLine& oLine, std::int16_t Thickness, bool ByFastLine) {
     ThinOne(field, oLine, Thickness, ByFastLine);
     oLine.removalWalk = {};
@@ -56,7 +56,7 @@ void StartRemoval(Field& field, CLine& oLine, bool ByFastLine) {
     field.DyingLines.push_back(&oLine);
 }
 
-// An entry that is removed moves the following ones up; each entry that was there at the start gets its turn.
+// Removing an entry moves the following ones up; each entry that was there at the start still gets its turn.
 bool ThinDyingLines(Field& field) {
     const bool wereAny = !field.DyingLines.empty();
     for (auto entry = field.DyingLines.begin(); entry != field.DyingLines.end();) {

@@ -7,30 +7,30 @@
 
 namespace prismfall {
 
-// One step of removal for a beam and, through the links, for all of its chain in the same color: each is dying from
-// now on and stops, is erased, and is painted again `Thickness` wide, without edges. Only `oLine` itself keeps
+// One step of removal for a beam and, through the links, for its whole chain in the same color: each beam becomes dying
+// and stops, is erased, and is painted again `Thickness` wide, without edges. Only `oLine` itself remembers
 // `ByFastLine`.
 void DeleteLine(Field& field, CLine& oLine, std::int16_t Thickness, bool ByFastLine);
 
-// Takes the first step for a beam that has been struck, and enters it in DyingLines for the next ones.
+// Does the first step for a beam that has been struck, and adds it to DyingLines for the following ones.
 void StartRemoval(Field& field, CLine& oLine, bool ByFastLine);
 
-// The next step for all of DyingLines; those that are gone leave that list. A beam that is in it twice loses two steps,
-// and is erased once more after it has gone. Whether there was any.
+// Does the next step for all of DyingLines and removes those that are gone from the list. A beam that is in it twice
+// loses two steps, and is erased once more after it is gone. Returns whether there was any.
 bool ThinDyingLines(Field& field);
 
-// Takes the beams out of Lines that have thinned to nothing, and lets those that waited behind them grow on. Whether
-// there was any.
+// Removes the beams from Lines that have thinned to nothing, and lets those that waited behind them grow on. Returns
+// whether there was any.
 bool RemoveGoneLines(Field& field);
 
-// Paints all beams again, since a removal has erased what lay under it. Those that begin above the blue line are left
-// to the growth tick.
+// Repaints all beams, since a removal has erased what was under it. Those that begin above the blue line are left to
+// the growth tick.
 void RedrawLines(const Field& field);
 
-// Ends all beams. Paints nothing.
+// Removes all beams. Paints nothing.
 void ClearLines(Field& field);
 
-// Whether every beam of Lines is dying; true for none.
+// Whether every beam in Lines is dying; true if there is none.
 bool AllLinesDeleted(const Field& field);
 
 }  // namespace prismfall

@@ -14,7 +14,7 @@ namespace {
 constexpr int kFirstColumn = 21;
 constexpr int kColumnStep = 20;
 constexpr int kColumnCount = 33;
-constexpr int kSpawnRange = 642;  // pixels that the random column is taken from; the last column has only two of them
+constexpr int kSpawnRange = 642;  // pixels that the random column is drawn from; the last column has only two of them
 constexpr int kMostTries = 1000;
 
 // Upper bounds of the random number for colors 0 to 2; the rest is color 3.
@@ -89,7 +89,7 @@ BeamBody NextSegment(const BeamBody& beam) {
 
 CLine& SplitLine(Field& field, CLine& oLine) {
     oLine.RunMode = Motion::Stopped;
-    field.chance.SeedRandomFromClock();  // at every beam that is made, random or not
+    field.chance.SeedRandomFromClock();  // for every new beam, random or not
     CLine& segment = Append(field, NextSegment(oLine));
     segment.LinkedLines.push_back(&oLine);
     oLine.LinkedLines.push_back(&segment);

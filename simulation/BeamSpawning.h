@@ -1,5 +1,5 @@
 // How beams come into play: at random columns of the spawn grid, and as the next segment of a chain at every bend and
-// wall. Nothing is painted: a new beam shows with its first step.
+// wall. Paints nothing: a new beam becomes visible with its first step.
 #pragma once
 
 #include <cstdint>
@@ -12,10 +12,11 @@ namespace prismfall {
 // Returns null if no column is free.
 CLine* CreateLine(Field& field, std::int16_t StartY);
 
-// The next segment of a beam's chain: it starts at the head and runs the other way.
+// The next segment of a beam's chain: it starts at the head and runs in the other direction.
 BeamBody NextSegment(const BeamBody& beam);
 
-// Stops a beam where it is and appends the next segment of its chain to Lines, the two linked both ways: a bend.
+// Bends a beam: stops it where it is and appends the next segment of its chain to Lines, the two linked in both
+// directions.
 CLine& SplitLine(Field& field, CLine& oLine);
 
 }  // namespace prismfall

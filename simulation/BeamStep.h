@@ -5,9 +5,9 @@
 
 namespace prismfall {
 
-// Moves a beam one pixel down and one sideways if it grows and if it is its turn (in the entry zone every second tick),
-// and paints that step. GoesOn also means that it was not its turn. A beam that has bounced has a new segment at the
-// end of Lines.
+// Moves a growing beam one pixel down and one sideways, if it is its turn (in the entry zone every second tick), and
+// paints that step. GoesOn also means that it was not its turn. A beam that bounces gets a new segment at the end of
+// Lines.
 Outcome GrowLine(Field& field, CLine& beam);
 
 }  // namespace prismfall

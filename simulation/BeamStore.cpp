@@ -12,7 +12,7 @@ constexpr std::size_t kRoomForLinked = 2;
 
 constexpr std::size_t kFewBeams = 64;
 
-// The beams still to be visited, strung together through nextToVisit.
+// The beams still to be visited, linked through nextToVisit.
 class ToVisit {
   public:
     void Add(CLine* beam) {

@@ -1,5 +1,5 @@
-// Owns all beams. Beams point at each other in circles, and one that has left the playfield is still walked through by
-// those it was joined with, so no beam can own another.
+// Owns all beams. Beams point at each other in cycles, and beams linked to one that has left the playfield still follow
+// its links, so no beam can own another.
 #pragma once
 
 #include <cstddef>
@@ -12,11 +12,11 @@ namespace prismfall {
 
 class BeamStore {
   public:
-    // A new beam with that body, tied to no other. It lives until Clear, or until KeepReachable finds no way to it.
+    // A new beam with that body, not linked to any other. It lives until Clear, or until KeepReachable cannot reach it.
     CLine& Make(const BeamBody& body = {});
     void Clear() { beams.clear(); }
-    // Frees the beams that no beam of the two lists leads to through LinkedLines and StoppingLines. Does nothing until
-    // it would free enough. Allocates nothing.
+    // Frees the beams that cannot be reached from the two lists through LinkedLines and StoppingLines. Does nothing
+    // until it would free enough. Allocates nothing.
     void KeepReachable(const std::vector<CLine*>& first, const std::vector<CLine*>& second);
     std::size_t Count() const { return beams.size(); }
 

@@ -5,9 +5,9 @@
 
 namespace prismfall {
 
-// `oLine` has run into `hit`: it stops there, and from now on waits in its StoppingLines. A live beam
-// that meets its own colour takes the first step of its removal, and `hit` as well; painted as DeleteLine says.
-// `ByFastLine` for a beam that ran forward: what it hits is out of play at once. Stopped or Destroyed.
+// `oLine` has run into `hit`: it stops there and waits in the StoppingLines of `hit`. If a live beam hits its own
+// colour, both take the first step of their removal, painted as DeleteLine says. `ByFastLine` means that the beam ran
+// forward: what it hits is out of play at once. Returns Stopped or Destroyed.
 Outcome StrikeLine(Field& field, CLine& oLine, CLine& hit, bool ByFastLine);
 
 }  // namespace prismfall

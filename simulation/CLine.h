@@ -1,5 +1,5 @@
 // One beam: a straight diagonal from its tail to its head. What the player sees as one zigzag beam is a chain of these,
-// joined through LinkedLines.
+// linked through LinkedLines.
 #pragma once
 
 #include <cstddef>
@@ -8,9 +8,9 @@
 
 namespace prismfall {
 
-// The numbers of these are what scripts of the headless driver say and print.
+// Scripts of the headless driver use and print the numbers of these.
 enum class Heading : std::int8_t { Leftwards = 1, Rightwards = 2 };
-enum class BeamColor : std::int8_t { Blue, Green, Red, Yellow, Grey };  // no beam is grey; a lost game paints them so
+enum class BeamColor : std::int8_t { Blue, Green, Red, Yellow, Grey };  // no beam is grey; a lost game paints them grey
 enum class Motion : std::int8_t {
     Stopped,
     Growing,
@@ -26,7 +26,7 @@ constexpr int Sideways(Heading heading) { return heading == Heading::Rightwards 
 
 constexpr float kLiveThicknes = 5.0F;
 
-// What a beam is by itself. It can be copied, for a look ahead.
+// A beam without its links. It can be copied, for a look-ahead.
 struct BeamBody {
     std::int16_t XStart = 0;  // the tail
     std::int16_t XEnd = 0;    // the head, the end that moves
@@ -36,20 +36,20 @@ struct BeamBody {
     BeamColor Color = BeamColor::Blue;
     Motion RunMode = Motion::Stopped;
     float Thicknes = 0;              // 5 for a live beam, less for a dying one
-    bool Deleted = false;            // it is being removed, and thins out in Lines meanwhile
+    bool Deleted = false;            // it is being removed; it stays in Lines while it thins out
     bool DeletedByFastLine = false;  // struck by a beam that ran forward: out of play at once
-    std::int16_t PuzzleLineNr = 0;   // the number by which a puzzle's solution names the beam and all of its chain
+    std::int16_t PuzzleLineNr = 0;   // how a puzzle's solution refers to the beam and its whole chain
 };
 
-// How far the removal of a chain has come at this beam (see DeleteLine).
+// How far the removal of a chain has got at this beam (see DeleteLine).
 struct RemovalWalk {
     struct CLine* cameFrom = nullptr;
     std::size_t nextLink = 0;
 };
 
-// A beam on the playfield, with what ties it to others.
+// A beam on the playfield, with its links to others.
 struct CLine : BeamBody {
-    std::vector<CLine*> LinkedLines;    // joined end to end with this beam, both ways; removed with it
+    std::vector<CLine*> LinkedLines;    // joined end to end with this beam, in both directions; removed with it
     std::vector<CLine*> StoppingLines;  // ran into this beam and wait until it is gone
 
     RemovalWalk removalWalk;

@@ -13,9 +13,9 @@ namespace {
 
 constexpr float kHitDistance = 1.0F;
 constexpr float kStruckThicknes = 4.0F;  // the first step of a removal
-constexpr int kHeadsMeet = 3;            // heads nearer than this in x and y meet
+constexpr int kHeadsMeet = 3;            // heads closer than this in x and y collide
 
-// Farther than this from a beam's box no rounding can bring the distance down to kHitDistance, so it is not computed.
+// Beyond this distance from a beam's box no rounding error can bring it down to kHitDistance, so it is not computed.
 constexpr int kSurelyApart = 3;
 static_assert(kHeadsMeet <= kSurelyApart, "a head that can be met lies no farther than that either");
 

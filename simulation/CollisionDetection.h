@@ -1,4 +1,4 @@
-// The one geometric question of the game: which beam lies just ahead of a head?
+// The one geometric question of the game: which beam is just ahead of a head?
 #pragma once
 
 #include <cstdint>
@@ -7,14 +7,14 @@
 
 namespace prismfall {
 
-// The first beam of Lines that is near enough to the test point (X, Y), or null. A beam is hit at a distance of 1 or
-// less, or by its head, if that runs the other way at about the height `PrevY` of the moving head before its step.
-// Nothing is hit at or above the blue line. `FastLine` is for a beam that runs forward: it passes through every
-// dying beam; a growing one still strikes those in the first step of their removal.
+// The first beam in Lines that is near enough to the test point (X, Y), or null. A beam is hit at a distance of 1 or
+// less, or at its head, if that runs in the other direction at about the height `PrevY` that the moving head had before
+// its step. Nothing is hit at or above the blue line. `FastLine` is for a beam that runs forward: it passes through all
+// dying beams; a growing one still strikes those in the first step of their removal.
 CLine* FindCollision(const Field& field, std::int16_t X, std::int16_t Y, std::int16_t PrevY, Heading Direction,
                      bool FastLine);
 
-// The point of the segment (X1, Y1) to (X2, Y2) that is nearest to (X, Y), and its distance.
+// The point on the segment from (X1, Y1) to (X2, Y2) that is nearest to (X, Y), and its distance.
 void PointToSegmentDistance(float X, float Y, float X1, float Y1, float X2, float Y2, float& NearestX, float& NearestY,
                             float& Distance);
 

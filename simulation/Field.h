@@ -1,5 +1,5 @@
-// The state of the playfield: its beams, and all that is needed to move, strike and paint them. A Field works by
-// itself; whatever plays on it sets the rules and acts on the outcomes.
+// The state of the playfield: its beams, and everything needed to move, strike and paint them. A Field works on its
+// own; its user sets the rules and acts on the outcomes.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace prismfall {
 
-// What differs from game to game in how beams behave.
+// How the behaviour of beams differs between kinds of game.
 struct FieldRules {
     bool hasEntryZone = false;  // beams enter as spots above a blue line, and leave a trail only below it
 };
@@ -24,17 +24,17 @@ struct Field {
     Chance& chance;
     FieldRules rules;
     std::vector<CLine*> Lines;        // every beam, live and dying; the order of growth and of collision tests
-    std::vector<CLine*> DyingLines;   // those struck directly; a beam can be in here twice
+    std::vector<CLine*> DyingLines;   // those struck directly; a beam can be in it twice
     BeamStore Beams;                  // owns them
-    std::int16_t CollisionLineY = 0;  // where the entry zone ends, less the fixed heights in Playfield.h
+    std::int16_t CollisionLineY = 0;  // where the entry zone ends, minus the fixed heights in Playfield.h
     std::int16_t GrowthToggle = 0;    // 0 or 1, flips at every growth tick; in the entry zone beams move at 0 only
 };
 
-// What has come of a beam's step or run.
+// The outcome of a beam's step or run.
 enum class Outcome {
-    GoesOn,     // it has moved, or it was not its turn
-    Bounced,    // at a wall: a new segment runs the other way
-    AtFloor,    // its next step would be onto the ground; it has not taken it
+    GoesOn,     // it moved, or it was not its turn
+    Bounced,    // off a wall: a new segment runs in the other direction
+    AtFloor,    // its next step would be onto the ground; it did not take it
     Stopped,    // by another beam, which it now waits behind
     Destroyed,  // together with a beam of its own colour: both are dying
 };

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kCannotOpen = 1;
 
-constexpr Nanoseconds kLatest = Nanoseconds::max() / 2;  // for the clock: more years than a script plays
+constexpr Nanoseconds kLatest = Nanoseconds::max() / 2;  // for the clock: more years than any script runs
 
 }  // namespace
 
@@ -21,7 +21,7 @@ void HeadlessPlatform::Run(std::int64_t milliseconds) {
     MoveClockTo(end);
 }
 
-// Handlers that let events run may have moved it further already.
+// Handlers that let events run may already have moved it further.
 void HeadlessPlatform::MoveClockTo(Nanoseconds moment) { clock = std::max(clock, moment); }
 
 void HeadlessPlatform::TickUntil(Nanoseconds moment) {
@@ -167,7 +167,7 @@ std::string HeadlessPlatform::ReadSetting(std::string_view, std::string_view sec
     return FindSetting(store, section, key).value_or(std::string(fallback));
 }
 
-// The change is shown an empty store, so each save writes all values to the script's store, whatever it held.
+// The change sees an empty store, so each save writes all values to the script's store, whatever was in it.
 bool HeadlessPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
     const auto empty = [](std::string_view, std::string_view) { return std::nullopt; };
     for (const SettingValue& value : change(empty)) PutSetting(value.section, value.key, value.text);

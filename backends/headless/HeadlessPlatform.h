@@ -1,5 +1,5 @@
-// A machine that exists only in memory: a virtual clock, a settings store that outlives the program, queued random
-// numbers and clicks, and a line of text for everything that the game does to the outside world. It runs the whole game
+// A platform that exists only in memory: a virtual clock, a settings store that outlives the program, queued random
+// numbers and clicks, and a line of text for everything the game does to the outside world. It runs the whole game
 // without a window, the same way everywhere.
 #pragma once
 
@@ -22,12 +22,12 @@ namespace prismfall {
 
 class HeadlessPlatform : public Platform {
   public:
-    // What happens is written to `events`, which must outlive the platform.
+    // Everything that happens is written to `events`, which must outlive the platform.
     explicit HeadlessPlatform(std::ostream& events) : out(events) {}
 
     // --- For the driver.
 
-    // Lets time pass until `milliseconds` from now; handlers that let events run may move the clock further.
+    // Advances the clock by `milliseconds`; handlers that let events run may move it further.
     void Run(std::int64_t milliseconds);
     // Calls a timer's handler now, as a running handler, and leaves its due time alone.
     void Fire(Timer timer) { timers.Fire(timer); }
@@ -36,8 +36,8 @@ class HeadlessPlatform : public Platform {
     void SetMusicPresent(bool isPresent) { isMusicPresent = isPresent; }
     void SetPainting(bool isPrinted) { isPaintPrinted = isPrinted; }
     void PutSetting(const std::string& section, const std::string& key, const std::string& text);
-    // Forgets what belongs to one run of the program: timers, windows and surface. Keeps the clock, the
-    // generator, the queues and the store.
+    // Resets what belongs to one run of the program: timers, windows and surface. Keeps the clock, the generator, the
+    // queues and the store.
     void BeginRun();
     // Opens a window in front of all others, without running its `activate`.
     void Open(Window& window);
@@ -104,7 +104,7 @@ class HeadlessPlatform : public Platform {
     std::deque<double> queuedRandoms;
     std::deque<std::string> queuedAnswers;
     std::uint32_t generator = 1;
-    std::optional<RandomNumbers> begunRandom;  // once a game has begun with a number, in place of the generator
+    std::optional<RandomNumbers> begunRandom;  // replaces the generator once a game has begun with a number
     SettingsValues store;
     std::map<const Window*, Place> places;
     bool isMusicPresent = true;

@@ -1,6 +1,6 @@
-// The smallest backend that keeps the contract: it shows, plays and stores nothing, and time passes only in Run. A port
-// to a new machine begins with a copy of this page. The contract of each function is in platform/, and so is all that
-// backends share.
+// The smallest backend that fulfils the interface: it shows, plays and stores nothing, and time passes only in Run.
+// Copy it to start a port to a new platform. What each function must do is documented in platform/, which also has
+// everything that backends share.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +20,7 @@ namespace prismfall {
 
 class NullPlatform : public Platform {
   public:
-    // Opens the main window: the first thing that a backend does with it.
+    // Opens the main window; call this first.
     void Open(Window& main) {
         main.visible = true;
         input.Open(main);
@@ -33,20 +33,20 @@ class NullPlatform : public Platform {
             timers.TickDue();
         }
     }
-    // Lets `act` do what a player does.
+    // Runs `act` as the player's input.
     void Do(const std::function<void(WindowInput& input)>& act) {
         timers.Handle([&] { act(input); });
     }
     bool HasEnded() const { return hasEnded; }
 
-    // --- The surface. A real backend paints with a Surface, and shows the boxes that it reports as damaged.
+    // --- The surface. A real backend paints with a Surface and shows the boxes that it reports as damaged.
 
     void SurfaceLine(int, int, int, int, Colour, int) override {}
     void SurfaceBox(int, int, int, int, Colour, int) override {}
     void SurfaceRestore(int, int, int, int) override {}
     void SurfaceClear() override {}
 
-    // --- Windows. A real one opens the dialog, and runs its event loop here until the dialog is hidden or closed.
+    // --- Windows. A real backend opens the dialog and runs its event loop here until the dialog is hidden or closed.
 
     bool ShowModally(Window& dialog) override {
         if (dialog.on.activate) dialog.on.activate();
@@ -72,7 +72,7 @@ class NullPlatform : public Platform {
     void SetTimerInterval(Timer timer, int milliseconds) override { timers.SetInterval(timer, milliseconds); }
     void LetEventsRun() override {
         clock += std::chrono::milliseconds(1);
-        timers.LetEventsRun([] { return false; });  // a real one handles its pending input here
+        timers.LetEventsRun([] { return false; });  // a real backend handles its pending input here
     }
     std::int64_t Clock() override { return clock / std::chrono::milliseconds(1); }
     double Random() override { return random.Next(); }
@@ -96,7 +96,7 @@ class NullPlatform : public Platform {
     std::string MusicFailureText(int) override { return {}; }
 
   private:
-    Nanoseconds clock{0};  // a real one reads the machine's
+    Nanoseconds clock{0};  // a real backend reads the machine's clock
     GameTime time{[this] { return clock; }};
     TimerWheel timers{time};
     WindowInput input;

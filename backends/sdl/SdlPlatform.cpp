@@ -1,4 +1,4 @@
-// Starting SDL, the life of windows, and the way of every other call to the class that knows how.
+// Starting SDL, opening and closing windows, and passing every other call to the class that handles it.
 #include "backends/sdl/SdlPlatform.h"
 
 #include <SDL.h>
@@ -25,9 +25,9 @@ constexpr std::array<Hint, 7> kHints = {{
     {SDL_HINT_APP_NAME, "Prismfall"},
     {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
     {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
-    // The click that brings the window to the front is a click of the game as well.
+    // The click that brings the window to the front also counts in the game.
     {SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1"},
-    // The desktop holds the pointer from a press to its release anyway; asking for it takes four more answers a click.
+    // The desktop grabs the pointer from press to release anyway; requesting it costs four more round trips per click.
     {SDL_HINT_MOUSE_AUTO_CAPTURE, "0"},
     {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
     {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
@@ -36,7 +36,7 @@ constexpr std::array<Hint, 7> kHints = {{
 // The largest pictures of the first screen, read while the display is being opened.
 constexpr std::array<std::string_view, 2> kEarlyPictures = {"Background", "ImagePrismfall"};
 
-// Another one at each start of the program.
+// A different number at each start of the program.
 std::uint64_t DrawStartNumber() {
     std::random_device source;
     return std::uint64_t{source()} << 32 | source();
@@ -71,7 +71,7 @@ SdlPlatform::SdlPlatform(PictureStore pictures)
 
 SdlPlatform::~SdlPlatform() { SDL_DelEventWatch(NoteEndBySystem, this); }
 
-// A player's ways out are no events of this kind: they are a key, a button and a window's close box.
+// Never caused by the player, who ends the program by a key, a button or a window's close box.
 int SdlPlatform::NoteEndBySystem(void* self, SDL_Event* event) {
     if (event->type == SDL_QUIT) static_cast<SdlPlatform*>(self)->isEndedBySystem = true;
     return 0;
@@ -96,8 +96,8 @@ void SdlPlatform::CloseProgram() {
     EndProgram();
 }
 
-// Handlers may be on the stack below this call, with data that the program's end must not touch: the process ends here,
-// without going back through them.
+// Handlers may be on the stack below this call, with data that must stay alive: the process ends here without returning
+// through them.
 void SdlPlatform::EndProgram() {
     desktop.HideAll();
     if (!audio.Finish()) std::_Exit(EXIT_SUCCESS);
@@ -140,7 +140,7 @@ bool SdlPlatform::CloseDialog(Window& dialog) {
     return wasHidden;
 }
 
-// No timer ticks behind an error box.
+// No timer ticks while an error box is open.
 void SdlPlatform::ShowMessageBox(std::string_view text) {
     Window box;
     MakeMessageBox(box, text, desktop.Screen(), [&] { box.Hide(); });
@@ -161,7 +161,7 @@ Extent SdlPlatform::InnerSize(const Window& window) { return {window.innerWidth,
 
 Place SdlPlatform::Position(const Window& window) { return desktop.Position(window); }
 
-// The size is meant with the nominal frame: whatever frame the desktop draws, what is inside comes out the same.
+// The size includes the nominal frame: whatever frame the desktop draws, the inner area stays the same.
 void SdlPlatform::SetOuterSize(Window& window, Extent size) { desktop.SetInnerSize(window, WithoutNominalFrame(size)); }
 
 void SdlPlatform::SetPosition(Window& window, Place place) { desktop.SetPosition(window, place); }
@@ -188,7 +188,7 @@ void SdlPlatform::BeginRandom(std::uint64_t number) { random.Begin(number, loop.
 
 void SdlPlatform::SeedRandomFromClock() { random.Seed(loop.Timers().MomentInMilliseconds()); }
 
-// The application's name has no place in the file: the file is this one application's.
+// The application's name is not stored: the file belongs to this application alone.
 std::string SdlPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
                                      std::string_view fallback) {
     return settings.Read(section, key).value_or(std::string(fallback));
@@ -200,7 +200,8 @@ bool SdlPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
     return failure.empty();
 }
 
-// Once: a failure that stays is no news. The box may have to wait for a player, a system that ends does not.
+// Shown once: a lasting failure need not be repeated. A box may wait for the player, but not when the system ends the
+// program.
 void SdlPlatform::TellOfUnsavedSettings(const std::string& failure) {
     if (std::exchange(isFailedSaveTold, true)) return;
     if (isEndedBySystem) {
@@ -219,8 +220,8 @@ void SdlPlatform::MusicClose() {
     audio.DoWithMusic([](SdlMusic& music) { music.Close(); });
 }
 
-// Tracks lie in the folder `music` of the current one. A current folder that has gone leaves a path that cannot be
-// opened, and that is what the player is told.
+// Tracks are in `music` in the current directory. If that no longer exists, the path cannot be opened, and the player
+// is told so.
 int SdlPlatform::MusicOpen(std::string_view name) {
     std::error_code ignored;
     return audio.MusicOpen((std::filesystem::current_path(ignored) / "music" / name).string());

@@ -1,5 +1,5 @@
-// The real machine behind the game: windows, input, timers, sound and music on a desktop by SDL2. This class
-// hands every call to the class beside it that knows how.
+// The desktop platform: windows, input, timers, sound and music with SDL2. This class passes every call to the class
+// that handles it.
 #pragma once
 
 #include <SDL.h>
@@ -20,8 +20,8 @@ namespace prismfall {
 
 class SdlPlatform final : public Platform {
   public:
-    // Nothing if the desktop cannot be reached; `failure` is then one sentence that says why. `pictures` is the folder
-    // of the picture files.
+    // Null if the desktop cannot be reached; `failure` then says why in one sentence. `pictures` is the folder of the
+    // picture files.
     static std::unique_ptr<SdlPlatform> Create(const std::filesystem::path& pictures, std::string& failure);
     ~SdlPlatform() override;
 
@@ -71,13 +71,13 @@ class SdlPlatform final : public Platform {
   private:
     explicit SdlPlatform(PictureStore pictures);
 
-    // Notes that a signal or the desktop wants the program to end.
+    // Records that a signal or the desktop wants the program to end.
     static int SDLCALL NoteEndBySystem(void* self, SDL_Event* event);
     void CloseProgram();
     void TellOfUnsavedSettings(const std::string& failure);
     bool OpenDialog(Window& dialog);
     bool IsStanding(const Window& dialog) const { return dialog.visible && !desktop.CloseBoxUsed(dialog); }
-    // Whether the dialog had been hidden already.
+    // Whether the dialog was already hidden.
     bool CloseDialog(Window& dialog);
 
     SdlDesktop desktop;
@@ -86,7 +86,7 @@ class SdlPlatform final : public Platform {
     SettingsFile settings;
     RandomNumbers random;
     Window* main = nullptr;
-    std::atomic<bool> isEndedBySystem = false;  // events are noted on the thread that they come from
+    std::atomic<bool> isEndedBySystem = false;  // set on whichever thread the event comes from
     bool isFailedSaveTold = false;
 };
 

@@ -1,5 +1,5 @@
-// Where desktops differ, beyond what SDL evens out: how a desktop is opened, what it wants to be told of a window, what
-// it knows of its user's wishes, how its session ends. One source file for each kind of desktop.
+// Differences between desktops that SDL does not hide: how a desktop is opened, what it needs to know about a window,
+// the user's preferences, how its session ends. There is one source file per kind of desktop.
 #pragma once
 
 #include <functional>
@@ -10,28 +10,27 @@ struct SDL_Window;
 namespace prismfall {
 
 struct DesktopFacts {
-    float scale = 1;  // how many pixels the user wants for a pixel of a plain display, 1 or more
+    float scale = 1;  // how many pixels the user wants per pixel of a standard display, 1 or more
     int doubleClickMilliseconds = 500;
 };
 
-// Makes the system's wish that the program end an SDL_QUIT event, where SDL alone does not. To be called before any
+// Turns the system's request to end the program into an SDL_QUIT event, where SDL alone does not. Call it before any
 // other thread is started.
 void PrepareDesktop();
 
-// Starts SDL's video. False if there is no display; `failure` is then one sentence that says why.
+// Starts SDL's video. Returns false if there is no display; `failure` then says why in one sentence.
 bool OpenDisplay(std::string& failure);
 
-// To be asked once, on an open desktop, before the first window. Where the desktop does not tell, the usual values come
-// back.
+// Call it once, on an open desktop, before the first window. Returns the usual values where the desktop does not say.
 DesktopFacts AskDesktop();
 
-// The desktop's session can end without leaving the program the time for an SDL_QUIT event, or the display can go by a
-// fault. `end` is then called on the thread that calls this now, within whatever that was doing; it must not touch any
-// window nor come back. To be called once.
+// The desktop's session can end without leaving the program time for an SDL_QUIT event, or the display can be lost.
+// Then `end` is called on the thread that called this, in the middle of whatever that was doing; it must not touch any
+// window and must not return. Call it once.
 void WhenSessionEnds(std::function<void()> end);
 
 // For a window that is not shown yet. A main window can be closed, moved and minimised; a dialog, which belongs to
-// `owner` and keeps the input from it, cannot be minimised.
+// `owner` and blocks its input, cannot be minimised.
 void SetMainFrame(SDL_Window* window);
 void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner);
 

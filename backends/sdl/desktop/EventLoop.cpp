@@ -1,6 +1,5 @@
-// Waiting. SDL wakes up to a millisecond late. Where ticks follow each other closely the last stretch before one is
-// slept by the clock; elsewhere that much late is not seen, and waking once for a tick in place of twice spares the
-// machine.
+// Waiting. SDL wakes up to a millisecond late. Where ticks follow each other closely, the last stretch before one is
+// slept by the clock; elsewhere a millisecond is not noticeable, and one wake-up instead of two saves power.
 #include "backends/sdl/desktop/EventLoop.h"
 
 #include <SDL.h>
@@ -15,11 +14,11 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr Nanoseconds kSleptByClock = 1ms;  // at least; the last stretch before a timer
-constexpr Nanoseconds kNearby = 20ms;       // a timer that is due within this time is met exactly
+constexpr Nanoseconds kNearby = 20ms;       // timers due within this time tick exactly on time
 constexpr Nanoseconds kLongestWait = 24h;
 constexpr Nanoseconds kYieldRest = 1ms;
-constexpr Nanoseconds kPaintPause = 15ms;  // between two looks for exposed windows while nothing else may happen
-constexpr int kEventsAtOnce = 64;          // then timers and painting have their turn
+constexpr Nanoseconds kPaintPause = 15ms;  // between two checks for exposed windows while nothing else may happen
+constexpr int kEventsAtOnce = 64;          // then timers and painting get their turn
 
 void SleepUntil(Nanoseconds moment) {
     std::this_thread::sleep_until(
@@ -40,7 +39,7 @@ bool EventLoop::HandleEvent() {
     return wasThere;
 }
 
-// One event after the other: each may close the window that the next one was meant for, or end what we wait for.
+// One event at a time: each may close the window that the next one was meant for, or end what we are waiting for.
 bool EventLoop::HandleEvents(const std::function<bool()>& goesOn) {
     SDL_PumpEvents();
     int handled = 0;

@@ -11,7 +11,7 @@ namespace prismfall {
 
 class EventLoop {
   public:
-    // `whenEndAsked` is called when the player or the system wants the program to end while nothing else may happen.
+    // `whenEndAsked` is called when the player or the system wants to end the program while nothing else may happen.
     EventLoop(SdlDesktop& shownWindows, std::function<void()> whenEndAsked)
         : desktop(shownWindows), endAsked(std::move(whenEndAsked)) {}
 
@@ -19,20 +19,19 @@ class EventLoop {
 
     TimerWheel& Timers() { return timers; }
 
-    // Runs for good: the outermost level, which alone tells the main window that it was minimised or restored.
+    // Runs forever: the outermost level, the only one that tells the main window that it was minimised or restored.
     [[noreturn]] void Run();
     // Runs inside a handler as long as `goesOn` holds.
     void RunWhile(const std::function<bool()>& goesOn);
-    // The same, but game time stands still and no timer ticks.
+    // The same, but game time is stopped and no timer ticks.
     void StandStillWhile(const std::function<bool()>& goesOn);
-    // Handles what is pending. If nothing is, rests for a moment, so that a caller may wait by calling it again.
+    // Handles what is pending. If nothing is, sleeps for a moment, so that a caller may wait by calling it in a loop.
     void LetEventsRun();
-    // Waits for a length of time in which game time stands still and nothing happens but painting and the program's
-    // end.
+    // Waits for a time during which game time is stopped and nothing happens except painting and the program's end.
     void PaintFor(Nanoseconds length);
 
   private:
-    // These tell whether there was anything to do.
+    // These return whether there was anything to do.
     bool Work(const std::function<bool()>& goesOn);
     bool HandleEvents(const std::function<bool()>& goesOn);
     bool HandleEvent();

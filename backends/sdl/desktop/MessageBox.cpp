@@ -1,4 +1,5 @@
-// What the error box looks like: as tall as its text needs, all drawn, so that it works without any picture file.
+// What the error box looks like: as tall as its text needs, and drawn in code, so that it works without any picture
+// file.
 #include "backends/sdl/desktop/MessageBox.h"
 
 #include <algorithm>

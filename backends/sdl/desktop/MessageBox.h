@@ -1,5 +1,4 @@
-// The error box: a small dialog of our own with a stop mark, a text and an OK button, made as an ordinary window's
-// data.
+// The error box: a small dialog of our own with a stop sign, a text and an OK button, built as an ordinary window.
 #pragma once
 
 #include <functional>

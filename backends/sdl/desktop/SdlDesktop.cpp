@@ -1,4 +1,4 @@
-// Windows and events. A dialog's place is fixed before it is shown: moving a window afterwards is slow and, on many
+// Windows and events. A dialog's place is set before it is shown: moving a window afterwards is slow and, on many
 // desktops, off by the frame.
 #include "backends/sdl/desktop/SdlDesktop.h"
 
@@ -25,7 +25,7 @@ SdlDesktop::SdlDesktop(PictureStore pictures, std::function<void()> whenEndAsked
 
 SdlDesktop::~SdlDesktop() { SDL_DelEventWatch(NoteExposure, this); }
 
-// Watching instead of handling lets a window be repainted while its input has to wait.
+// Watching events instead of handling them lets a window be repainted while its input has to wait.
 int SdlDesktop::NoteExposure(void* self, SDL_Event* event) {
     if (event->type != SDL_WINDOWEVENT || event->window.event != SDL_WINDOWEVENT_EXPOSED) return 0;
     if (Shown* shown = static_cast<SdlDesktop*>(self)->FindById(event->window.windowID); shown != nullptr)
@@ -33,8 +33,8 @@ int SdlDesktop::NoteExposure(void* self, SDL_Event* event) {
     return 0;
 }
 
-// The scale that the user wants, or less if the window would not fit on the display; whole quarters as long as it is
-// not smaller than the game's own size.
+// The scale that the user wants, or less if the window would not fit on the display; in steps of a quarter unless it is
+// below 1.
 void SdlDesktop::ChooseScale(const Window& window) {
     scaleChosen = true;
     float scale = facts.scale;
@@ -124,7 +124,7 @@ bool SdlDesktop::IsEndWaiting() {
     const auto look = [](void* found, SDL_Event* event) {
         auto& result = *static_cast<Search*>(found);
         if (result.desktop.AsksForEnd(*event)) result.found = true;
-        return 1;  // it stays in the queue
+        return 1;  // keep it in the queue
     };
     SDL_FilterEvents(look, &search);
     return search.found;
@@ -135,7 +135,7 @@ void SdlDesktop::Handle(const SDL_Event& event) {
     if (event.type == SDL_AUDIODEVICEREMOVED && event.adevice.iscapture == 0) return soundLost();
     if (windows.empty()) return;
     if (event.type == SDL_WINDOWEVENT) return HandleWindowEvent(event.window);
-    // Keys go to the topmost window even if the desktop gives the focus to none.
+    // Keys go to the topmost window even if the desktop focuses none.
     SdlWindow& front = *windows.back().real;
     if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return input.Key(front.Data(), event.key.keysym.sym);
     if (event.type == SDL_MOUSEMOTION && event.motion.windowID == front.Id()) {
@@ -169,7 +169,7 @@ void SdlDesktop::HandleWindowEvent(const SDL_WindowEvent& event) {
 
 void SdlDesktop::HandleFocus(Shown& shown) {
     if (std::exchange(shown.awaitsFirstFocus, false)) return;
-    // A window behind a dialog may get the focus from a careless desktop; the dialog is what is in front.
+    // A careless desktop may focus a window behind a dialog; the dialog is the one in front.
     if (&shown != &windows.back()) return;
     const Window& window = shown.real->Data();
     if (window.on.activate) window.on.activate();

@@ -1,5 +1,5 @@
-// The windows that are shown, the topmost last, and the way of every event to WindowInput, which knows the window that
-// may have it. When events are taken and when timers tick belongs to the loop.
+// The open windows, the topmost last. Routes every event to WindowInput, which decides which window may receive it. The
+// event loop decides when events are taken and when timers tick.
 #pragma once
 
 #include <SDL.h>
@@ -21,8 +21,8 @@ namespace prismfall {
 
 class SdlDesktop {
   public:
-    // `endAsked` is called when the player or the system wants the program to end, `soundLost` when the sound device
-    // has gone.
+    // `endAsked` is called when the player or the system wants to end the program, `soundLost` when the sound device
+    // has disappeared.
     SdlDesktop(PictureStore pictures, std::function<void()> endAsked, std::function<void()> soundLost);
     SdlDesktop(const SdlDesktop&) = delete;
     SdlDesktop& operator=(const SdlDesktop&) = delete;
@@ -31,19 +31,19 @@ class SdlDesktop {
     Surface& Layer() { return layer; }
     Display& Screen() { return display; }
 
-    // Makes a window real, on top of the others. False if the desktop refuses.
+    // Opens a real window on top of the others. Returns false if the desktop refuses.
     bool Open(Window& window);
     void Close(const Window& window);
     bool IsOpen(const Window& window) const { return Find(window) != nullptr; }
-    // Whether the window's close box has been used; only a dialog lives on after that.
+    // Whether the window's close box has been used; only a dialog survives that.
     bool CloseBoxUsed(const Window& window) const;
     void Refresh();
-    // Takes the windows off the display at once, dialogs first.
+    // Removes the windows from the display at once, dialogs first.
     void HideAll();
     void Handle(const SDL_Event& event);
-    // Whether an event is waiting by which the player or the system wants the program to end.
+    // Whether an event is pending by which the player or the system wants to end the program.
     bool IsEndWaiting();
-    // Tells the main window whether it is minimised, if that has changed since it was told last. Whether it has.
+    // Tells the main window whether it is minimised, if that has changed since the last time. Returns whether it has.
     bool DeliverMinimised();
 
     Extent OuterSize(const Window& window);
@@ -54,14 +54,14 @@ class SdlDesktop {
   private:
     struct Shown {
         std::unique_ptr<SdlWindow> real;
-        bool awaitsFirstFocus = true;  // its showing counts as an activation, the focus that follows does not
+        bool awaitsFirstFocus = true;  // showing it counts as an activation, the focus that follows does not
         bool closeBoxUsed = false;
     };
 
     static int SDLCALL NoteExposure(void* self, SDL_Event* event);
 
     void ChooseScale(const Window& window);
-    // Gives the desktop a moment, once, to tell of the frame it has drawn around the main window.
+    // Gives the desktop a moment, once, to report the frame it has drawn around the main window.
     void AwaitFrame();
     const Shown* Find(const Window& window) const;
     Shown* FindById(std::uint32_t id);
@@ -70,9 +70,9 @@ class SdlDesktop {
     void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
     bool AsksForEnd(const SDL_Event& event) const;
-    // The nominal frame, where the desktop does not tell of a real one.
+    // The real frame, or the nominal one where the desktop does not report it.
     FrameBorders BordersOf(const Window& window) const;
-    // All windows have the scale that the desktop has given the main window.
+    // All windows have the scale that the desktop gave the main window.
     float PointsPerGamePixel() const;
     int Points(int gamePixels) const;
     int GamePixels(int points) const;
@@ -83,7 +83,7 @@ class SdlDesktop {
     WindowInput input;
     Display display;
     Surface layer;
-    float scaleToAskFor = 1;  // points a game pixel, for the first window
+    float scaleToAskFor = 1;  // points per game pixel, for the first window
     bool scaleChosen = false;
     bool frameAwaited = false;
     bool minimisedAsTold = false;

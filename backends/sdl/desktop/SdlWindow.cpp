@@ -1,4 +1,5 @@
-// Making, showing and presenting a window with SDL. The picture is composed in the very pixels that go to the desktop.
+// Creating, showing and presenting a window with SDL. The picture is composed directly in the pixels that go to the
+// desktop.
 #include "backends/sdl/desktop/SdlWindow.h"
 
 #include <array>
@@ -43,7 +44,7 @@ void SdlWindow::Create() {
 void SdlWindow::SetIcon() {
     const Image* image = display.pictures.Find("Icon");
     if (image == nullptr) return;
-    // The desktop wants colours that are not multiplied by their opacity.
+    // The desktop expects colours that are not premultiplied by alpha.
     Image plain = *image;
     for (std::uint32_t& pixel : plain.pixels) {
         const std::uint32_t alpha = pixel >> 24;
@@ -73,7 +74,7 @@ void SdlWindow::Expose() {
     marginsLost = true;
 }
 
-// A desktop may tell only now what size it gives the window, and how many pixels a point has.
+// Only now may a desktop say what size it gives the window, and how many pixels a point has.
 void SdlWindow::FitTo(const SDL_Surface& shown) {
     if (shown.w == shownSize.width && shown.h == shownSize.height) return;
     shownSize = {shown.w, shown.h};
@@ -147,7 +148,7 @@ std::optional<Place> SdlWindow::Origin() const {
     int left = 0;
     int top = 0;
     SDL_GetWindowPosition(Real(), &left, &top);
-    const GamePlace corner = ToGame(-left, -top);  // of the desktop, seen from the picture
+    const GamePlace corner = ToGame(-left, -top);  // of the desktop, relative to the picture
     return Place{static_cast<int>(std::lround(-corner.x)), static_cast<int>(std::lround(-corner.y))};
 }
 

@@ -1,5 +1,5 @@
-// One real window of the desktop, as long as it is shown: makes it from a Window's data and presents what has changed.
-// Whatever size the desktop gives it, the whole picture is shown. What it does with input is WindowInput's business.
+// One real window of the desktop, while it is shown: creates it from a Window's data and presents what has changed.
+// Whatever size the desktop gives it, the whole picture is shown. WindowInput handles the input.
 #pragma once
 
 #include <SDL.h>
@@ -25,11 +25,11 @@ class SdlWindow {
     struct Options {
         Surface* layer = nullptr;          // of the main window
         SDL_Window* owner = nullptr;       // of a dialog
-        std::optional<Place> frameCorner;  // in points of the desktop; without it the desktop chooses
-        float pointsPerGamePixel = 1;      // the scale to ask for; points are the desktop's unit of places and sizes
+        std::optional<Place> frameCorner;  // in points of the desktop; if unset, the desktop chooses
+        float pointsPerGamePixel = 1;      // the scale to request; points are the desktop's unit for places and sizes
     };
 
-    // Makes the window and shows it. If the desktop refuses, IsReal is false and the error is SDL_GetError's.
+    // Creates the window and shows it. If the desktop refuses, IsReal is false and SDL_GetError says why.
     SdlWindow(Window& data, Display& target, const Options& wanted);
 
     bool IsReal() const { return real != nullptr; }
@@ -40,21 +40,21 @@ class SdlWindow {
 
     // Presents what has changed since the last call.
     void Refresh();
-    // Presents everything at the next call: the desktop has lost what it had.
+    // Presents everything at the next call: the desktop has lost the window's contents.
     void Expose();
     void HideNow() { SDL_HideWindow(real.get()); }
     void Raise() { SDL_RaiseWindow(real.get()); }
     bool IsMinimised() const { return (SDL_GetWindowFlags(real.get()) & SDL_WINDOW_MINIMIZED) != 0; }
-    // The frame that the desktop tells of, in its points, or nothing if it tells of none.
+    // The frame in the desktop's points, or nothing if the desktop does not report one.
     std::optional<FrameBorders> Borders() const;
     // The scale that the desktop has given.
     float PointsPerGamePixel() const { return fit.scale / pixelsPerPoint; }
     // Where the picture begins inside the window, in points.
     Place PictureCorner() const;
-    // A place inside the window, in points, as a place on its picture, or beyond that on the black beside it.
+    // Converts a place in the window, in points, to a place on its picture, or outside it on the black border.
     GamePlace ToGame(int x, int y) const;
     bool IsOnPicture(const GamePlace& place) const;
-    // Where the picture begins on the desktop, in game pixels; nothing on desktops that do not tell.
+    // Where the picture begins on the desktop, in game pixels; nothing if the desktop does not say.
     std::optional<Place> Origin() const;
 
   private:

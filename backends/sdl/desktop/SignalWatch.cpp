@@ -1,4 +1,4 @@
-// A thread that sleeps until a signal comes. A signal handler could not do it: pushing an event takes a lock, and a
+// A thread that sleeps until a signal arrives. A signal handler could not do this: pushing an event takes a lock, and a
 // flag alone would not wake the loop.
 #include "backends/sdl/desktop/SignalWatch.h"
 
@@ -15,7 +15,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr timespec kPatience{3, 0};  // for an end in good order
+constexpr timespec kPatience{3, 0};  // for an orderly end
 
 std::atomic<bool> takesEvents = false;
 std::atomic<bool> signalCame = false;
@@ -31,7 +31,7 @@ void PushQuit() {
     SDL_PushEvent(&event);
 }
 
-// By the signal's own effect, so that whoever started the program can see what ended it.
+// Dies by the signal's default action, so that the parent process can see what ended the program.
 [[noreturn]] void EndBy(int signal) {
     std::signal(signal, SIG_DFL);
     sigset_t one;
@@ -50,7 +50,7 @@ void PushQuit() {
     for (;;) {
         const int second = sigtimedwait(&signals, nullptr, &kPatience);
         if (second > 0) EndBy(second);
-        if (errno != EINTR) EndBy(first);  // otherwise the program was stopped, and goes on now
+        if (errno != EINTR) EndBy(first);  // otherwise the program was stopped and has been continued
     }
 }
 

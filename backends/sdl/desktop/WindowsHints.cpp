@@ -1,4 +1,4 @@
-// The desktop of Windows: owners of dialogs, and the end of a session, which SDL passes over.
+// The Windows desktop: owners of dialogs, and the end of a session, which SDL ignores.
 #include "backends/sdl/desktop/DesktopHints.h"
 
 #include <SDL.h>
@@ -29,7 +29,7 @@ LRESULT PassOn(HWND window, UINT message, WPARAM word, LPARAM value) {
     return CallWindowProcW(former, window, message, word, value);
 }
 
-// Puts a procedure before SDL's, which it calls by PassOn.
+// Installs a procedure in front of SDL's, which it calls through PassOn.
 void SeeMessagesFirst(HWND window, WNDPROC procedure) {
     SetPropW(window, kFormerProcedure, reinterpret_cast<HANDLE>(GetWindowLongPtrW(window, GWLP_WNDPROC)));
     SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
@@ -41,8 +41,8 @@ LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM word, LPARAM va
     return PassOn(window, message, word, value);
 }
 
-// A modal dialog's owner takes no input. It has to take it again before the dialog goes, or else the focus goes to
-// another program.
+// A modal dialog's owner takes no input. It must be enabled again before the dialog is closed, or else the focus goes
+// to another program.
 LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM word, LPARAM value) {
     if (message == WM_SHOWWINDOW && value == 0) EnableWindow(GetWindow(window, GW_OWNER), word == 0);
     return PassOn(window, message, word, value);
@@ -50,7 +50,8 @@ LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM word, LPARAM 
 
 }  // namespace
 
-// SDL makes SDL_QUIT of nothing that Windows sends a program with windows; WhenSessionEnds serves for all of it.
+// SDL turns none of the messages that Windows sends a program with windows into SDL_QUIT; WhenSessionEnds handles them
+// all.
 void PrepareDesktop() {}
 
 bool OpenDisplay(std::string& failure) {
@@ -81,7 +82,7 @@ void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner) {
     if (owner == nullptr) return;
     SetWindowLongPtrW(handle, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(HandleOf(owner)));
     SeeMessagesFirst(handle, DialogProcedure);
-    // Here SDL has taken the place that was meant for the frame for that of what is inside.
+    // Here SDL has applied the position meant for the frame to the inner area.
     int left = 0;
     int top = 0;
     int frameLeft = 0;

@@ -1,5 +1,5 @@
-// The desktops of X11, by Xlib: window properties, and the settings that a desktop publishes as resources and as
-// XSETTINGS. On Wayland SDL does what can be done.
+// X11 desktops, with Xlib: window properties, and the settings that a desktop publishes as resources and as XSETTINGS.
+// On Wayland SDL does what can be done.
 #include "backends/sdl/desktop/DesktopHints.h"
 
 #include <SDL.h>
@@ -31,7 +31,7 @@ namespace {
 constexpr float kPlainDotsPerInch = 96;
 constexpr float kLargestScale = 4;
 
-// The Motif hints that window managers still go by.
+// The Motif hints that window managers still follow.
 constexpr unsigned long kMotifHasFunctions = 1;
 constexpr unsigned long kMotifHasDecorations = 2;
 constexpr unsigned long kMotifMove = 4;
@@ -71,7 +71,7 @@ void SetAtoms(const X11Window& x, const char* property, const char* value, int m
                     reinterpret_cast<const unsigned char*>(&atom), 1);
 }
 
-// The whole numbers among a desktop's XSETTINGS, by name.
+// The integers among a desktop's XSETTINGS, by name.
 class DesktopSettings {
   public:
     explicit DesktopSettings(std::string_view block) : bytes(block) {
@@ -128,8 +128,8 @@ int IgnoreError(Display*, XErrorEvent*) { return 0; }
 
 XErrorHandler otherErrors = nullptr;
 
-// SDL wakes its own waiting by an event that it sends to one of the windows on a second connection. The server may read
-// it after a dialog that was that window has gone, and answers with an error that would end the program.
+// SDL wakes its own wait by sending an event to one of the windows on a second connection. The server may read it after
+// that window, a dialog, has been closed, and then answers with an error that would end the program.
 int IgnoreLateWakeUp(Display* display, XErrorEvent* error) {
     constexpr unsigned char kSendEvent = 25;  // the request's number in the X protocol
     if (error->error_code == BadWindow && error->request_code == kSendEvent) return 0;
@@ -141,15 +141,15 @@ void IgnoreLateWakeUpErrors() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp)
 std::function<void()> endWithoutDisplay;
 std::thread::id endingThread;
 
-// SDL wakes its loop from other threads by a connection of their own. One that finds it broken waits for the end.
+// SDL wakes its loop from other threads over a separate connection. A thread that finds it broken waits for the end.
 int MeetDisplayLoss(Display*) {
     while (std::this_thread::get_id() != endingThread) std::this_thread::sleep_for(std::chrono::hours(1));
     endWithoutDisplay();
     return 0;
 }
 
-// The block that the desktop's settings daemon publishes, if there is one. The daemon may go at any moment, so errors
-// of the window server are ignored here.
+// The block that the desktop's settings daemon publishes, if there is one. The daemon may exit at any moment, so errors
+// from the X server are ignored here.
 std::string ReadSettingsBlock(Display* display) {
     const std::string selection = "_XSETTINGS_S" + std::to_string(DefaultScreen(display));
     const ::Window owner = XGetSelectionOwner(display, XInternAtom(display, selection.c_str(), False));
@@ -175,8 +175,8 @@ std::optional<float> ResourceDotsPerInch(Display* display) {
     return std::strtof(text, nullptr);
 }
 
-// The kinds of desktop to try, and none of the stand-ins that nobody would see. The user's environment takes
-// precedence. Where there can be no Wayland the library is not asked, since it complains on standard error.
+// The kinds of desktop to try, without the dummy ones that nobody would see. The user's environment takes precedence.
+// Where there can be no Wayland its library is not asked, since it complains on standard error.
 const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
 
 bool OnX11() {
@@ -186,8 +186,8 @@ bool OnX11() {
 
 void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
 
-// ALSA tells a machine without a sound device about it on standard error, at length. The library is loaded with SDL;
-// taking its function from there spares the game a dependency of its own.
+// On a machine without a sound device ALSA complains at length on standard error. SDL has loaded the library; taking
+// the function from there saves the game a dependency.
 void SilenceAlsa() {
     using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
     using SetHandler = int (*)(Handler);
@@ -198,7 +198,7 @@ void SilenceAlsa() {
     dlclose(library);
 }
 
-// Quarters: desktops offer no finer steps, and dots per inch are seldom exact.
+// In quarters: desktops offer no finer steps, and dots per inch are seldom exact.
 float ScaleOf(float dotsPerInch) {
     if (!(dotsPerInch > 0)) return 1;
     return std::clamp(std::round(dotsPerInch / kPlainDotsPerInch * 4) / 4, 1.0F, kLargestScale);
@@ -210,17 +210,16 @@ void PrepareDesktop() { WatchEndSignals(); }
 
 bool OpenDisplay(std::string& failure) {
     SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
-    // The game takes no text: without this the table of all composed letters is read, which takes a quarter of the time
-    // until the first picture is shown. Wayland's keyboards would complain of the empty table.
+    // The game takes no text input: without this the table of all composed characters is read, which takes a quarter of
+    // the time until the first picture is shown. Wayland's keyboards would complain about the empty table.
     if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
-    // Before SDL sets a handler of its own: that one asks this one, and gives way to it when the connections are
-    // closed.
+    // Before SDL sets its own handler: that one calls this one, and restores it when the connections are closed.
     IgnoreLateWakeUpErrors();
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
         failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
         return false;
     }
-    // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
+    // On X11 the window's own pixels are by far the cheapest way; elsewhere this may not exist.
     if (OnX11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     DeliverEarlySignal();
     SilenceAlsa();

@@ -1,4 +1,4 @@
-// Drawing on a block of pixels: fills, pictures, and the few smooth shapes that marks are made of.
+// Drawing on a block of pixels: fills, pictures, and the few smooth shapes that marks consist of.
 #include "backends/sdl/drawing/Canvas.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace prismfall {
 
 namespace {
 
-// The four parts of a pixel by shares of 256.
+// Blends the four channels of a pixel in 256ths.
 std::uint32_t Mix(std::uint32_t a, std::uint32_t b, std::uint32_t shareOfB) {
     const std::uint32_t shareOfA = 256 - shareOfB;
     const std::uint32_t odd = ((a >> 8) & 0xFF00FF) * shareOfA + ((b >> 8) & 0xFF00FF) * shareOfB;

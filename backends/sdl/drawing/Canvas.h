@@ -1,5 +1,5 @@
-// A block of pixels to compose on, and pictures to lay on it. Everything is 32-bit ARGB with the colours already
-// multiplied by their opacity, so that pictures can be scaled and laid over one another without dark seams.
+// A block of pixels to compose on, and pictures to draw on it. Everything is 32-bit ARGB with premultiplied alpha, so
+// that pictures can be scaled and blended without dark seams.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace prismfall {
 
-// A pixel made more transparent: `opacity` is from 0, which leaves nothing, to 255, which changes nothing.
+// A pixel made more transparent: `opacity` is from 0 (nothing left) to 255 (unchanged).
 std::uint32_t WithOpacity(std::uint32_t pixel, std::uint32_t opacity);
 
 struct Image {
@@ -25,7 +25,7 @@ struct Image {
 
     int width = 0;
     int height = 0;
-    bool opaque = false;  // no pixel lets anything through
+    bool opaque = false;  // no pixel is transparent
     std::vector<std::uint32_t> pixels;
 };
 
@@ -36,7 +36,7 @@ struct Neighbours {
     std::uint32_t share = 0;  // of the second one, out of 256
 };
 Neighbours NeighboursAt(int place, float scale, int size);
-// A pixel smoothed from the four around it.
+// A pixel interpolated from the four around it.
 std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Neighbours& column,
                       std::uint32_t shareOfLower);
 
@@ -48,14 +48,14 @@ class Canvas {
     // `stride` is the distance between rows in pixels. The pixels must outlive the canvas.
     Canvas(std::uint32_t* pixels, int width, int height, int stride);
 
-    // Nothing outside `clip` is drawn from now on; at first everything may be.
+    // From now on nothing outside `clip` is drawn; initially nothing is clipped.
     void SetClip(const PixelBox& box);
     const PixelBox& Clip() const { return clip; }
     int Width() const { return bounds.right; }
 
     void Fill(const PixelBox& box, std::uint32_t pixel);
     void Draw(const Image& image, int left, int top);
-    // A straight stroke with round ends and smooth edges; without length it is a disc.
+    // A straight stroke with round ends and smooth edges; with length 0 it is a disc.
     void Stroke(float x1, float y1, float x2, float y2, float width, std::uint32_t pixel);
     std::uint32_t* Row(int y) { return pixels + static_cast<std::ptrdiff_t>(y) * stride; }
 
@@ -66,7 +66,7 @@ class Canvas {
     int stride;
 };
 
-// `over` laid over `below`.
+// `over` blended over `below`.
 inline std::uint32_t Blend(std::uint32_t over, std::uint32_t below) {
     const std::uint32_t through = 255 - (over >> 24);
     if (through == 0) return over;

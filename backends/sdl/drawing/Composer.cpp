@@ -1,5 +1,5 @@
-// Composing. The layer's pixels are laid over the background one by one where a game pixel is a whole number of the
-// display's, which is quick and sharp, and are smoothed otherwise.
+// Composing. Where a game pixel is a whole number of display pixels, the layer's pixels are drawn over the background
+// one by one, which is fast and sharp; otherwise they are smoothed.
 #include "backends/sdl/drawing/Composer.h"
 
 #include <algorithm>
@@ -62,7 +62,7 @@ void Composer::CompareElements() {
 
 void Composer::AddLayerChanges() {
     layer->TakeDamage(layerBoxes);
-    // A smoothed pixel reaches into its neighbours.
+    // A smoothed pixel extends into its neighbours.
     const int reach = IsWhole(display.scale) ? 0 : 1;
     for (const PixelBox& box : layerBoxes) {
         const auto down = [&](int place) {

@@ -1,5 +1,5 @@
-// Puts one window's picture together: background, painted layer, elements in their stacking order. It finds out by
-// itself which elements have changed since it last looked.
+// Composes one window's picture: background, painted layer, elements in their stacking order. It finds out itself which
+// elements have changed since the last time.
 #pragma once
 
 #include <vector>
@@ -16,9 +16,9 @@ class Composer {
     // `layer` is the painted layer, if the window has one. All of them must outlive the composer.
     Composer(const Window& composed, Surface* paintedLayer, Display& target);
 
-    // From now on everything counts as changed until it is composed again.
+    // Marks everything as changed until it is composed again.
     void ForgetAll() { everything = true; }
-    // The boxes on the display, of a picture of the given size, that have changed since the last call.
+    // The boxes on the display, for a picture of the given size, that have changed since the last call.
     const std::vector<PixelBox>& TakeChanges(int width, int height);
     // Draws the window's picture inside a box.
     void Compose(Canvas& canvas, const PixelBox& box);

@@ -1,11 +1,11 @@
-// Two boxes become one if the box that holds both is hardly larger than they are.
+// Two boxes become one if the box around both is hardly larger than they are.
 #include "backends/sdl/drawing/Damage.h"
 
 namespace prismfall {
 
 namespace {
 
-// Pixels that may be drawn for nothing to save a box: about what sending one costs.
+// Pixels that may be drawn needlessly to save a box: about what sending one costs.
 constexpr long kSlack = 64;
 
 }  // namespace
@@ -18,7 +18,7 @@ void Damage::Add(PixelBox box) {
             ++i;
             continue;
         }
-        // The joined box may now lie close to one that was passed over before.
+        // The joined box may now be close to one that was skipped before.
         box = joined;
         boxes[i] = boxes.back();
         boxes.pop_back();

@@ -1,5 +1,5 @@
-// The boxes of a picture that have to be drawn anew. Boxes that lie close together are joined, so that one place is not
-// drawn several times and the desktop is not sent a swarm of tiny boxes.
+// The boxes of a picture that must be redrawn. Boxes close together are joined, so that no place is drawn several times
+// and the desktop is not sent a swarm of tiny boxes.
 #pragma once
 
 #include <vector>
@@ -12,7 +12,7 @@ class Damage {
   public:
     void Add(PixelBox box);
     void Clear() { boxes.clear(); }
-    // Drops what lies outside `limits`.
+    // Drops what is outside `limits`.
     void CutTo(const PixelBox& limits);
     const std::vector<PixelBox>& Boxes() const { return boxes; }
 

@@ -40,7 +40,7 @@ void DrawPicture(Canvas& canvas, const Element& element, const PixelBox& box, Di
 void DrawLabel(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
     if (element.ground) canvas.Fill(box, PixelOf(*element.ground));
     TextLayout layout{.font = element.font};
-    // A box may reach beyond the window; lines that break do so where they can still be read.
+    // A box may extend beyond the window; wrapped lines break where they can still be read.
     if (element.wraps) layout.wrapWidth = std::max(1, std::min(box.right, canvas.Width()) - box.left);
     layout.fitHeight = display.Pixels(static_cast<float>(element.fitHeight));
     display.text.Draw(canvas, element.text, layout, element.colour, box.left, box.top);
@@ -79,7 +79,7 @@ void DrawMarkedText(Canvas& canvas, const Element& element, const PixelBox& box,
     const int markTop = (box.top + box.bottom - size) / 2;
     const int textHeight = display.text.LineHeight(element.font);
     const int textTop = (box.top + box.bottom - textHeight) / 2;
-    // Boxes may overlap: the ground reaches no higher and lower than the text on it.
+    // Boxes may overlap: the label's background is only as tall as its text.
     canvas.Fill({box.left, std::min(markTop, textTop), box.right, std::max(markTop + size, textTop + textHeight)},
                 PixelOf(element.ground.value_or(kBlack)));
     const auto draw = element.kind == ElementKind::RadioButton ? DrawRadioMark : DrawCheckMark;

@@ -8,13 +8,13 @@
 
 namespace prismfall {
 
-// What drawing for one display needs. `scale` is how many pixels of the display a game pixel has.
+// What is needed to draw for one display. `scale` is how many display pixels a game pixel has.
 struct Display {
     explicit Display(PictureStore store) : pictures(std::move(store)) {}
 
-    // Set anew before each window's picture, since windows may differ.
+    // Set again before each window's picture, since windows may differ.
     void SetScale(float newScale);
-    // A length or a place in game pixels as pixels of the display, rounded half to even.
+    // Converts a length or a coordinate from game pixels to display pixels, rounding half to even.
     int Pixels(float gamePixels) const;
 
     float scale = 1;
@@ -22,11 +22,11 @@ struct Display {
     TextPainter text;
 };
 
-// The element's box on the display, and the part of it that its panel lets be seen.
+// The element's box on the display, and the part of it that is visible within its panel.
 PixelBox WholeBox(const Element& element, const Display& display);
 PixelBox VisibleBox(const Element& element, const Display& display);
 
-// Draws the element as far as it lies in `area`.
+// Draws the part of the element that is in `area`.
 void DrawElement(Canvas& canvas, const Element& element, const PixelBox& area, Display& display);
 
 }  // namespace prismfall

@@ -1,4 +1,4 @@
-// Finds the system's font for a family's name. One source file for each way of asking a system.
+// Finds the system's font for a family name. There is one source file per font system.
 #pragma once
 
 #include <memory>
@@ -10,8 +10,8 @@ struct SDL_RWops;
 namespace prismfall {
 
 struct FontFile {
-    SDL_RWops* stream = nullptr;  // belongs to the caller, not to outlive the finder; nullptr: there is no font at all
-    long face = 0;                // which one in a file of several
+    SDL_RWops* stream = nullptr;  // owned by the caller, must not outlive the finder; null if there is no font at all
+    long face = 0;                // index in a file with several faces
     bool bold = false;
     bool italic = false;
 };
@@ -23,7 +23,7 @@ class FontFinder {
     FontFinder& operator=(const FontFinder&) = delete;
     ~FontFinder();
 
-    // The font that comes closest; bold and italic tell what it is, not what was asked for.
+    // The closest font; bold and italic say what it is, not what was requested.
     FontFile Find(const Font& font);
 
   private:

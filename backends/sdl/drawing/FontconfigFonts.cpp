@@ -1,5 +1,5 @@
-// Fonts by fontconfig. Its own stand-ins for two families that are not found on this system are poor, so those two are
-// named here.
+// Fonts from fontconfig. Its own substitutes for two families that are missing here are poor, so better ones are named
+// here.
 #include "backends/sdl/drawing/FontFinder.h"
 
 #include <SDL_rwops.h>
@@ -32,7 +32,7 @@ std::string FamilyFor(std::string_view family) {
 }  // namespace
 
 struct FontFinder::System {
-    FcConfig* config = nullptr;  // read when the first font is wanted: it takes its time
+    FcConfig* config = nullptr;  // read when the first font is needed, since that is slow
 };
 
 FontFinder::FontFinder() : system(std::make_unique<System>()) {}
@@ -63,7 +63,7 @@ FontFile FontFinder::Find(const Font& font) {
         FcPatternGetInteger(found, FC_INDEX, 0, &index);
         FcPatternGetInteger(found, FC_WEIGHT, 0, &weight);
         FcPatternGetInteger(found, FC_SLANT, 0, &slant);
-        // The upper 16 bits choose among the instances of a variable font, which SDL_ttf does not know.
+        // The upper 16 bits select an instance of a variable font, which SDL_ttf does not support.
         file.face = index & 0xFFFF;
         file.bold = weight > FC_WEIGHT_MEDIUM;
         file.italic = slant != FC_SLANT_ROMAN;

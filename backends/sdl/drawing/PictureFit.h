@@ -1,5 +1,5 @@
-// How a window's picture lies in the window that the desktop has given, which need not have the size that was asked
-// for: whole, in one scale, as large as fits, and centred.
+// How a window's picture fits into the window that the desktop provides, which need not have the requested size:
+// complete, in one scale, as large as possible, and centred.
 #pragma once
 
 #include "platform/PixelBox.h"
@@ -8,14 +8,14 @@
 namespace prismfall {
 
 struct PictureFit {
-    float scale = 1;  // how many pixels of the display a game pixel has
-    PixelBox box;     // where the picture lies, in pixels of the display; what is outside it stays black
+    float scale = 1;  // display pixels per game pixel
+    PixelBox box;     // the picture's place, in display pixels; everything outside it stays black
 
     bool operator==(const PictureFit&) const = default;
 };
 
-// `inner` is the picture's size in game pixels, `given` the window's in pixels of the display, both at least 1. The
-// wanted scale is kept if the window differs from its size by no more than a rounded pixel.
+// `inner` is the picture's size in game pixels, `given` the window's in display pixels, both at least 1. The wanted
+// scale is kept if the window differs from that size by at most a rounded pixel.
 PictureFit FitPicture(Extent inner, Extent given, float wantedScale);
 
 }  // namespace prismfall

@@ -1,4 +1,4 @@
-// Reading pictures with libpng. On a larger display the double-size file serves if there is one.
+// Reading pictures with libpng. On a larger display the double-size file is used if there is one.
 #include "backends/sdl/drawing/PictureStore.h"
 
 #include <png.h>
@@ -18,7 +18,7 @@ namespace {
 // The bytes of a pixel 0xAARRGGBB in memory.
 constexpr png_uint_32 kPixelFormat = std::endian::native == std::endian::little ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
 
-// Multiplies the colours by their opacity. Whether every pixel turns out opaque.
+// Premultiplies the colours by alpha. Returns whether every pixel is opaque.
 bool Premultiply(std::vector<std::uint32_t>& pixels) {
     bool opaque = true;
     for (std::uint32_t& pixel : pixels) {
@@ -34,10 +34,10 @@ constexpr png_uint_32 kLargestSide = 4096;  // far beyond any picture of the gam
 
 struct Reading {
     std::optional<Image> image = {};
-    std::string fault = {};  // what is wrong with the file, if there is no picture
+    std::string fault = {};  // what is wrong with the file, if it gives no picture
 };
 
-// Whatever kind of PNG the file is: libpng brings it to our kind of pixels.
+// Whatever kind of PNG the file is, libpng converts it to our pixel format.
 Reading ReadFile(const std::filesystem::path& path) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::fopen(path.string().c_str(), "rb"), std::fclose);
     if (!stream) return {.fault = errno == ENOENT ? "is missing" : "cannot be opened"};

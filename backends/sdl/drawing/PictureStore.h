@@ -1,5 +1,5 @@
-// The game's pictures by name, each read from its file when it is first shown and kept in the size in which the display
-// shows it. The first one that cannot be had is reported with the reason.
+// The game's pictures by name, each read from its file when it is first shown and kept in its size on the display. The
+// first that cannot be loaded is reported with the reason.
 #pragma once
 
 #include <array>
@@ -18,18 +18,17 @@ namespace prismfall {
 
 class PictureStore {
   public:
-    // `folder` holds 1x/NAME.png, a file pixel to a game pixel, and 2x/NAME.png, twice as large.
+    // `folder` contains 1x/NAME.png, one file pixel per game pixel, and 2x/NAME.png, twice as large.
     explicit PictureStore(std::filesystem::path folder);
 
-    // Begins to read pictures in the background, in the size of a plain display. What is asked for meanwhile waits; on
-    // a display of another scale they are read anew.
+    // Starts reading pictures in the background, in the size for a standard display. Requests wait until that is done;
+    // on a display with another scale they are read again.
     void ReadAhead(std::span<const std::string_view> names);
-    // How many pixels of the display a game pixel has. Pictures of this and of the scale before are kept: windows may
-    // differ.
+    // Display pixels per game pixel. Pictures for this and for the previous scale are kept: windows may differ.
     void SetScale(float displayScale);
-    // The picture, or nothing. The pointer holds until the scale changes.
+    // The picture, or null. The pointer is valid until the scale changes.
     const Image* Find(std::string_view name);
-    // Takes a picture that is not read from a file: `draw` gives it in its size on the display for a scale.
+    // Adds a picture that is not read from a file: `draw` returns it in its size on the display for a scale.
     void Add(std::string_view name, std::function<Image(float scale)> draw);
 
   private:
@@ -44,7 +43,7 @@ class PictureStore {
 
     std::filesystem::path folder;
     std::map<std::string, std::function<Image(float scale)>> drawn;
-    std::array<Sized, 2> sizes;  // of the scale in use, and of the one before
+    std::array<Sized, 2> sizes;  // for the current and the previous scale
     std::future<Images> readAhead;
     bool reported = false;
 };

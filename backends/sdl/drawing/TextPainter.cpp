@@ -1,5 +1,5 @@
-// Each face is opened once and set to another size where that is wanted, so that sizes tried out for a text that has to
-// fit leave nothing open.
+// Each face is opened once and resized as needed, so that trying out sizes for a text that has to fit leaves nothing
+// open.
 #include "backends/sdl/drawing/TextPainter.h"
 
 #include <SDL.h>
@@ -34,7 +34,7 @@ TextPainter::~TextPainter() {
     if (TTF_WasInit() != 0) TTF_Quit();
 }
 
-// Between whole scales the smaller size, which fits its box as the text does at scale 1.
+// Between whole scales, the smaller size, which fits its box as the text does at scale 1.
 int TextPainter::Pixels(const Font& font) const {
     constexpr float kInexactness = 0.01F;
     return std::max(1, static_cast<int>(font.points * kPixelsPerPoint * scale + kInexactness));
@@ -45,7 +45,7 @@ TTF_Font* TextPainter::Open(const Font& font, int pixels) {
     auto found = faces.find(face);
     if (found == faces.end()) found = faces.emplace(face, Opened{Load(font), Pixels(font)}).first;
     Opened& opened = found->second;
-    // Another size costs the letters that SDL_ttf has kept.
+    // A different size discards the glyphs that SDL_ttf has cached.
     if (opened.font != nullptr && std::exchange(opened.pixels, pixels) != pixels) TTF_SetFontSize(opened.font, pixels);
     return opened.font;
 }
@@ -62,7 +62,7 @@ TTF_Font* TextPainter::Load(const Font& font) {
         Report("no font is installed");
         return nullptr;
     }
-    // The letters' true widths: with whole-pixel ones lines grow by several letters and no longer fit their boxes.
+    // The glyphs' exact widths: with whole-pixel ones lines get several letters longer and no longer fit their boxes.
     TTF_SetFontHinting(opened, TTF_HINTING_LIGHT_SUBPIXEL);
     const bool thicken = font.bold && !file.bold;
     const bool slope = font.italic && !file.italic;

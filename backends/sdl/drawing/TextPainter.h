@@ -14,11 +14,12 @@
 
 namespace prismfall {
 
-// How a text is set, in pixels of the display but for the font. It breaks at line feeds in any case.
+// How a text is laid out, in display pixels except for the font. It always breaks at line feeds.
 struct TextLayout {
     Font font;
-    int wrapWidth = 0;  // above 0 lines break before this width: between words, or within one that is too long for any
-    int fitHeight = 0;  // above 0 letters are made smaller, pixel by pixel, until the text ends within this height
+    int wrapWidth =
+        0;  // if above 0, lines break before this width: between words, or within a word that is too long for a line
+    int fitHeight = 0;  // if above 0, the text is made smaller, pixel by pixel, until it fits this height
 };
 
 class TextPainter {
@@ -28,10 +29,10 @@ class TextPainter {
     TextPainter& operator=(const TextPainter&) = delete;
     ~TextPainter();
 
-    // How many pixels of the display a game pixel has.
+    // Display pixels per game pixel.
     void SetScale(float displayScale) { scale = displayScale; }
 
-    // All sizes and places from here on are pixels of the display. Without any font there is no text and no height.
+    // All sizes and places from here on are display pixels. Without any font there is no text, and its height is 0.
     int LineHeight(const Font& font);
     int Width(std::string_view line, const Font& font);
     int Height(std::string_view text, const TextLayout& layout);
@@ -41,14 +42,14 @@ class TextPainter {
     using Face = std::tuple<std::string_view, bool, bool>;
     struct Opened {
         TTF_Font* font = nullptr;
-        int pixels = 0;  // the size that it is set to
+        int pixels = 0;  // the current size
     };
 
     int Pixels(const Font& font) const;
-    // The font, set to a size. Nothing if there is none.
+    // The font, set to a size. Null if there is none.
     TTF_Font* Open(const Font& font, int pixels);
     TTF_Font* Load(const Font& font);
-    // The letters as their opacity, or nothing where there are none.
+    // The text as an alpha mask, or null if it has no visible pixels.
     std::optional<Image> Render(std::string_view text, const TextLayout& layout);
     void Report(const char* what);
 

@@ -1,4 +1,4 @@
-// Fonts by GDI, which gives the bytes of the font that it would draw with.
+// Fonts from GDI, which returns the file of the font that it would draw with.
 #include "backends/sdl/drawing/FontFinder.h"
 
 #include <SDL_rwops.h>
@@ -18,7 +18,7 @@ namespace {
 struct Family {
     std::string_view name;
     const wchar_t* used;  // the outline family that replaces a bitmap one, or the family itself
-    DWORD kind;           // what to look for where there is no such family
+    DWORD kind;           // what to look for if there is no such family
 };
 
 constexpr std::array<Family, 4> kFamilies = {{

@@ -1,5 +1,5 @@
-// What a file takes from the system to which several runs of a program write. There is one source file for each kind
-// of system.
+// The system calls behind a settings file that several running copies share. There is one source file per kind of
+// system.
 #pragma once
 
 #include <filesystem>
@@ -8,17 +8,17 @@
 
 namespace prismfall {
 
-// Where the game keeps the user's settings, by the system's customs; empty if the user has no folder for such things.
+// Where the game keeps the user's settings, by the system's conventions; empty if the user has no folder for them.
 std::filesystem::path UsersSettingsFolder();
 
 // The text of a file, empty if there is none or it cannot be read.
 std::string ReadWholeFile(const std::filesystem::path& file);
 
-// Puts in the place of a file's text what `change` makes of it, in one step: whatever happens meanwhile, the old text
-// or the new one is found afterwards, and other runs that call this wait until it is done. Folders that are missing are
-// made, readable by the user alone. A link stays, and what it points to is replaced. A text that `change` leaves as it
-// is is not written. Empty if it went well, else the reason why the file is the old one, in the system's words;
-// `change` may or may not have been called then.
+// Replaces a file's text with what `change` returns for it, atomically: whatever happens, the file afterwards has the
+// old or the new text, and other runs that call this wait until it is done. Missing folders are created, readable only
+// by the user. A link is followed: its target is replaced. A text that `change` does not alter is not written. Returns
+// an empty string, or on failure the reason why the file is unchanged, in the system's words; then `change` may or may
+// not have been called.
 std::string ChangeFile(const std::filesystem::path& file, const std::function<std::string(std::string)>& change);
 
 }  // namespace prismfall

@@ -1,5 +1,5 @@
-// The new text is written beside the old one under a name that nobody else uses, brought to the disk, and then takes
-// the old one's name. The lock is on the folder, so it leaves no file behind.
+// The new text is written next to the old file under a unique name, flushed to disk, and then renamed over the old
+// file. The lock is on the folder, so it leaves no file behind.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <fcntl.h>
@@ -48,7 +48,7 @@ class Descriptor {
 struct Content {
     std::string text;
     mode_t mode = kNewFileMode;
-    int error = 0;  // why a file that is there could not be read
+    int error = 0;  // why an existing file could not be read
 };
 
 Content ReadAll(const fs::path& path) {
@@ -83,7 +83,7 @@ fs::path BehindLinks(fs::path path) {
     return path;
 }
 
-// 0, or the reason why there is no such folder.
+// Returns 0, or why the folder could not be created.
 int MakeFolders(const fs::path& folder) {
     if (::mkdir(folder.c_str(), kNewFolderMode) == 0 || errno == EEXIST) return 0;
     if (errno != ENOENT || !folder.has_relative_path()) return errno;
@@ -91,8 +91,8 @@ int MakeFolders(const fs::path& folder) {
     return ::mkdir(folder.c_str(), kNewFolderMode) == 0 || errno == EEXIST ? 0 : errno;
 }
 
-// Waits for the other runs. A folder that cannot be locked, and one that is held for so long that its holder must have
-// been stopped, is used without: that loses nothing of the other's.
+// Waits for the other runs. If the folder cannot be locked, or is held for so long that its holder must have been
+// stopped, it is used without a lock: the other run loses nothing by that.
 void Lock(const Descriptor& folder) {
     const auto end = std::chrono::steady_clock::now() + kLongestWait;
     while (::flock(folder.Number(), LOCK_EX | LOCK_NB) != 0) {
@@ -111,7 +111,7 @@ bool WriteAll(int descriptor, std::string_view text) {
     return true;
 }
 
-// 0, or the reason why the file is still the old one.
+// Returns 0, or why the file is unchanged.
 int Replace(const fs::path& path, std::string_view text, mode_t mode, const Descriptor& folder) {
     std::string temporary = path.string() + ".XXXXXX";
     Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));

@@ -1,5 +1,5 @@
-// The new text is written beside the old one, brought to the disk, and then takes the old one's name. Runs of the game
-// wait for each other by a mutex, which Windows releases when its holder is ended.
+// The new text is written next to the old file, flushed to disk, and then renamed over it. Runs of the game wait for
+// each other with a mutex, which Windows releases when its holder ends.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <windows.h>
@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; what is larger is none of its own
 constexpr DWORD kLongestWait = 2000;           // milliseconds, for another run; a save takes a few
-constexpr int kTries = 50;                     // while a virus scanner, or a run that is being ended, holds a file
+constexpr int kTries = 50;                     // while a virus scanner, or a run that is being terminated, holds a file
 constexpr DWORD kNextTry = 20;                 // milliseconds
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
@@ -39,7 +39,7 @@ class Handle {
 
 class Lock {
   public:
-    // One that is held for so long that its holder must have been stopped is not waited for.
+    // If it is held for so long that its holder must have been stopped, it is no longer waited for.
     Lock() : mutex(CreateMutexW(nullptr, FALSE, L"Local\\Prismfall settings")) {
         const DWORD outcome = mutex.IsOpen() ? WaitForSingleObject(mutex.Get(), kLongestWait) : WAIT_FAILED;
         isHeld = outcome == WAIT_OBJECT_0 || outcome == WAIT_ABANDONED;
@@ -57,7 +57,7 @@ class Lock {
 
 struct Content {
     std::string text;
-    DWORD error = ERROR_SUCCESS;  // why a file that is there could not be read
+    DWORD error = ERROR_SUCCESS;  // why an existing file could not be read
 };
 
 Content ReadAll(const fs::path& path) {
@@ -101,7 +101,7 @@ bool TakeName(const fs::path& from, const fs::path& to) {
     return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
-// The reason why the file is still the old one, or ERROR_SUCCESS.
+// Why the file is unchanged, or ERROR_SUCCESS.
 DWORD Replace(const fs::path& path, const std::string& text) {
     fs::path temporary = path;
     temporary += ".new";

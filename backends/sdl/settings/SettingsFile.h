@@ -15,13 +15,14 @@ class SettingsFile {
   public:
     explicit SettingsFile(std::filesystem::path path) : file(std::move(path)) {}
 
-    // prismfall/settings.ini in the user's folder for settings; empty if the user has no such folder.
+    // prismfall/settings.ini in the user's settings folder; empty if the user has no such folder.
     static std::filesystem::path UsersFile();
 
-    // The stored text, or nothing. The file is read once; a change makes it be read again.
+    // The stored text, or nothing. The file is read once, and again after a change.
     std::optional<std::string> Read(std::string_view section, std::string_view key);
-    // Stores what `change` makes of the values that the file holds now, and leaves everything else in it as it is. No
-    // other copy of the game comes between. Empty if it went well, else one sentence that tells why nothing is stored.
+    // Stores the values that `change` returns for the file's current contents, and leaves everything else in it alone,
+    // atomically with respect to other copies of the game. Returns an empty string, or on failure one sentence that
+    // says why nothing was stored.
     std::string Change(const SettingsChange& change);
 
   private:

@@ -1,5 +1,5 @@
-// The sound device: opened when there is something to play, closed when nothing has played for a while, so that a
-// silent game is woken by nothing. Used on the audio thread alone.
+// The sound device: opened when there is something to play, closed when nothing has played for a while, so that nothing
+// wakes a silent game. Used only on the audio thread.
 #pragma once
 
 #include <SDL.h>
@@ -14,8 +14,7 @@ namespace prismfall {
 
 class AudioDevice {
   public:
-    // Adds what is to be heard next to silence, in the form of `Form`. Called on a thread of SDL's, with the device
-    // locked.
+    // Mixes the next samples into silence, in the format `Form`. Called on SDL's thread, with the device locked.
     using Fill = std::function<void(std::span<std::uint8_t> samples)>;
 
     explicit AudioDevice(Fill fillWith) : fill(std::move(fillWith)) {}
@@ -23,21 +22,21 @@ class AudioDevice {
     AudioDevice& operator=(const AudioDevice&) = delete;
     ~AudioDevice() { Close(); }
 
-    // How long it takes until a device that could not be opened is asked for again.
+    // How long to wait before trying again to open a device that could not be opened.
     static constexpr std::chrono::seconds kNextTry{2};
 
-    // Opens the device if it is closed. Without a usable one the answer is false.
+    // Opens the device if it is closed. Returns false if there is no usable one.
     bool Open();
     void Close();
     bool IsOpen() const { return id != 0; }
-    // It was open and has gone: unplugged, or its sound server has ended. Nothing is taken from `Fill` any more.
+    // It was open and has disappeared: it was unplugged, or its sound server has ended. `Fill` is no longer called.
     bool IsLost() const { return IsOpen() && SDL_GetAudioDeviceStatus(id) == SDL_AUDIO_STOPPED; }
 
-    // How samples have to come. Opening settles it.
+    // The sample format. Opening determines it.
     const SDL_AudioSpec& Form() const { return form; }
 
-    // Keeps `Fill` from being called; the device must be neither opened nor closed meanwhile. Named as std::lock_guard
-    // wants it.
+    // Keeps `Fill` from being called; the device must not be opened or closed meanwhile. Named as std::lock_guard
+    // requires.
     void lock() const {
         if (IsOpen()) SDL_LockAudioDevice(id);
     }

@@ -1,4 +1,4 @@
-// The queue and the loop of the audio thread. It sleeps without a limit of time as long as there is nothing to do.
+// The queue and the loop of the audio thread. It sleeps indefinitely while there is nothing to do.
 #include "backends/sdl/sound/AudioThread.h"
 
 #include <SDL.h>

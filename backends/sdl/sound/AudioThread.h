@@ -1,5 +1,5 @@
-// A thread on which everything that touches the sound device happens, one task after the other. Opening and closing a
-// device takes a sound server's time, up to seconds if it hangs; the game's timers must not wait for that.
+// The thread on which everything that touches the sound device happens, one task at a time. Opening and closing a
+// device waits for the sound server, up to seconds if that hangs; the game's timers must not wait for it.
 #pragma once
 
 #include <chrono>
@@ -21,15 +21,16 @@ class AudioThread {
     AudioThread& operator=(const AudioThread&) = delete;
     ~AudioThread();
 
-    // Runs a task as soon as those before it are done. The thread begins with the first one.
+    // Runs a task as soon as those before it are done. The first one starts the thread.
     void Post(Task task);
-    // Runs a task likewise and returns true when it is done, or false if it is not done within `limit`; it is done
-    // later then, so what it refers to must last.
+    // The same, but returns true when the task is done, or false if it is not done within `limit`; then it is done
+    // later, so what it refers to must stay alive.
     bool Call(Task task, std::chrono::milliseconds limit);
-    // Only within a task: runs another one after some time, in place of the one that was to run before. Nothing: none.
+    // Only within a task: schedules another task after some time, replacing the one scheduled before. Nothing means
+    // none.
     void RunLater(std::optional<std::chrono::milliseconds> delay, Task task);
-    // Does what has been posted and ends the thread. False if that is not done within `limit`; the thread is then left
-    // to itself and must not be destroyed.
+    // Finishes the posted tasks and ends the thread. Returns false if that takes longer than `limit`; then the thread
+    // is left running and must not be destroyed.
     bool Finish(std::chrono::milliseconds limit);
 
   private:

@@ -24,7 +24,7 @@ std::string MusicFile::Open(const std::string& path) {
         return told;
     }
     rate = static_cast<int>(samplesPerSecond);
-    // Whatever rate and channels come later are brought to those of the beginning.
+    // Later changes of rate and channels are converted to those at the beginning.
     mpg123_format_none(decoder.get());
     mpg123_format(decoder.get(), samplesPerSecond, channels, MPG123_ENC_SIGNED_16);
     return {};

@@ -12,19 +12,19 @@ namespace prismfall {
 
 class MusicFile {
   public:
-    // Nothing if the file can be played, else its path and the decoder's reason. A file that was open is closed.
+    // Returns nothing if the file can be played, else its path and the decoder's reason. Closes the previous file.
     std::string Open(const std::string& path);
     void Close() { decoder.reset(); }
     bool IsOpen() const { return decoder != nullptr; }
 
-    // The track's next samples, 16-bit, the channels side by side; they stay until the next call. Rate and channels are
-    // those of its beginning throughout. Nothing at its end, and from where the file cannot be read any more.
+    // The track's next samples, 16-bit, interleaved, valid until the next call. Rate and channels are always those at
+    // its beginning. Empty at its end, and from where the file can no longer be read.
     std::span<const std::byte> Read();
     void Rewind();
-    // Reads the last samples (of each channel) again, across the beginning if the track has come round.
+    // Rereads the last samples (of each channel), across the beginning if the track has looped.
     void StepBack(int samples);
 
-    int Rate() const { return rate; }  // samples a second
+    int Rate() const { return rate; }  // samples per second
     int Channels() const { return channels; }
 
   private:

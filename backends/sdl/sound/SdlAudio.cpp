@@ -37,7 +37,7 @@ int SdlAudio::MusicOpen(const std::string& path) {
         *answer = music.Open(path);
         PlanAhead();
     };
-    // With a sound server that hangs nothing will be heard, which is no failure of the file.
+    // If the sound server hangs, nothing will be heard, which is not the file's fault.
     failure = thread.Call(open, kLongestWait) ? *answer : std::string();
     return failure.empty() ? 0 : kFailureCode;
 }
@@ -63,8 +63,8 @@ void SdlAudio::DeviceLost() {
     });
 }
 
-// Settles when the audio thread wakes by itself: to look for a device while music waits for one, or to let go of a
-// device that nothing has used for a while.
+// Decides when the audio thread wakes by itself: to look for a device while music waits for one, or to close a device
+// that nothing has used for a while.
 void SdlAudio::PlanAhead() {
     if (music.AwaitsDevice()) {
         return thread.RunLater(AudioDevice::kNextTry, [this] {
@@ -72,7 +72,7 @@ void SdlAudio::PlanAhead() {
             PlanAhead();
         });
     }
-    // A looping track ends by a call alone, and that call comes by here.
+    // Only a call ends a looping track, and that call ends up here again.
     if (!device.IsOpen() || (music.IsSounding() && music.IsLooping())) return thread.RunLater(std::nullopt, {});
     thread.RunLater(kSilenceBeforeClosing, [this] {
         if (music.IsSounding() || sound.IsSounding()) return PlanAhead();

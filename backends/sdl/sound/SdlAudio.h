@@ -1,5 +1,5 @@
-// Sound and music as the platform offers them: every call becomes a task of the audio thread, and the device is let go
-// when nothing sounds.
+// Sound and music as the platform offers them: every call becomes a task of the audio thread, and the device is closed
+// when nothing plays.
 #pragma once
 
 #include <cstddef>
@@ -22,13 +22,14 @@ class SdlAudio {
     ~SdlAudio() { Finish(); }
 
     void PlayWave(std::span<const std::byte> wave);
-    // 0, or a code for MusicFailureText.
+    // Returns 0, or a code for MusicFailureText.
     int MusicOpen(const std::string& path);
     std::string MusicFailureText(int code) const;
     void DoWithMusic(std::function<void(SdlMusic&)> action);
-    // Some device has gone. If it was the one in use, music plays on as soon as there is another one.
+    // A device has disappeared. If it was the one in use, music resumes as soon as there is another one.
     void DeviceLost();
-    // Silence, and the end of the audio thread. False if the sound server hangs; only the process's end helps then.
+    // Stops all sound and ends the audio thread. Returns false if the sound server hangs; then only ending the process
+    // helps.
     bool Finish();
 
   private:

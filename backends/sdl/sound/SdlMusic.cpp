@@ -1,4 +1,4 @@
-// Music: SDL's thread asks for the next samples and gets them decoded on the spot, half a second at a time.
+// Music: SDL's thread asks for the next samples, which are decoded on the spot, half a second at a time.
 #include "backends/sdl/sound/SdlMusic.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace prismfall {
 namespace {
 
 constexpr int kFullVolume = 1000;
-constexpr int kDecodedAhead = 12;  // times what is asked for; many frames at once cost half of what single ones do
+constexpr int kDecodedAhead = 12;  // times the requested amount; many frames at once cost half as much as single ones
 
 }  // namespace
 
@@ -40,7 +40,8 @@ void SdlMusic::Play(State newState) {
     if (hasDevice) FitStream();
 }
 
-// A stream that fits is kept, for it may hold samples that have not been heard yet. Those of another are decoded again.
+// A stream that fits is kept, since it may contain samples that have not been played yet. Otherwise they are decoded
+// again.
 void SdlMusic::FitStream() {
     const SDL_AudioSpec& form = device.Form();
     if (stream && streamForm.format == form.format && streamForm.channels == form.channels &&
@@ -112,7 +113,7 @@ void SdlMusic::MixInto(std::span<std::uint8_t> samples) {
     if (got < wanted) state = State::Over;
 }
 
-// Beyond the track's end only as far as is wanted: by then it may have been told to play no second time.
+// Beyond the track's end only as much as is requested: by then it may have been told not to repeat.
 void SdlMusic::DecodeAhead(int wanted) {
     bool rewound = false;
     while (SDL_AudioStreamAvailable(stream.get()) < wanted * kDecodedAhead) {

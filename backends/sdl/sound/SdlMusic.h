@@ -1,5 +1,5 @@
-// The music player: one file at a time, looping or to its end once. Everything but `MixInto` is used on the audio
-// thread alone. It goes on from its place whatever becomes of the device meanwhile.
+// The music player: one file at a time, looping or once to its end. Everything except `MixInto` is used only on the
+// audio thread. It keeps its place whatever happens to the device.
 #pragma once
 
 #include <SDL.h>
@@ -19,7 +19,7 @@ class SdlMusic {
   public:
     explicit SdlMusic(AudioDevice& soundDevice) : device(soundDevice) {}
 
-    // Nothing if the file can be played, else its path and the decoder's reason.
+    // Returns nothing if the file can be played, else its path and the decoder's reason.
     std::string Open(const std::string& path);
     void Close();
     void SetVolume(int newVolume);
@@ -30,12 +30,12 @@ class SdlMusic {
 
     bool IsSounding();
     bool IsLooping();
-    // Is to be heard, and has no device.
+    // Whether it should be playing but has no device.
     bool AwaitsDevice();
-    // Plays on where it fell silent, if there is a device now.
+    // Resumes where it fell silent, if there is a device now.
     void TakeUp();
 
-    // Adds what is to be heard next, in the device's form. To be called with the device locked.
+    // Mixes in the next samples, in the device's format. Call it with the device locked.
     void MixInto(std::span<std::uint8_t> samples);
 
   private:
@@ -51,10 +51,11 @@ class SdlMusic {
     void DecodeAhead(int wanted);
 
     AudioDevice& device;
-    // Locked by the device, as SDL's thread uses them too:
+    // Protected by the device's lock, since SDL's thread uses them too:
     MusicFile file;
-    std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's form to the device's; none before its first
-    SDL_AudioSpec streamForm{};                           // the device's, as the stream knows it
+    std::unique_ptr<SDL_AudioStream, FreeStream>
+        stream;                  // from the file's format to the device's; null before the first
+    SDL_AudioSpec streamForm{};  // the device's format, as the stream knows it
     std::vector<std::uint8_t> next;
     State state = State::Stopped;
     int volume = SDL_MIX_MAXVOLUME;

@@ -1,4 +1,4 @@
-// Sounds, read and brought to the device's form anew each time: that takes less than a millisecond, and nothing has to
+// Sounds, read and converted to the device's format each time: that takes less than a millisecond, and nothing has to
 // be kept.
 #include "backends/sdl/sound/SdlSound.h"
 
@@ -19,7 +19,7 @@ struct Free {
 
 struct WaveSamples {
     SDL_AudioSpec form{};
-    std::unique_ptr<std::uint8_t, Free> samples;  // none if the file cannot be read
+    std::unique_ptr<std::uint8_t, Free> samples;  // null if the file cannot be read
     std::uint32_t bytes = 0;
 };
 
@@ -32,7 +32,7 @@ WaveSamples ReadWave(std::span<const std::byte> wave) {
     return found;
 }
 
-// In one piece: SDL's stream would keep the last of a sound to itself, 20 to 50 milliseconds.
+// In one piece: SDL's stream would hold back the last 20 to 50 milliseconds of a sound.
 std::vector<std::uint8_t> Converted(const WaveSamples& wave, const SDL_AudioSpec& form) {
     SDL_AudioCVT conversion;
     if (!wave.samples || SDL_BuildAudioCVT(&conversion, wave.form.format, wave.form.channels, wave.form.freq,

@@ -1,5 +1,5 @@
-// The sound effects' one voice: a new sound cuts off the old. Everything but `MixInto` is used on the audio thread
-// alone.
+// The single voice for sound effects: a new sound cuts off the old. Everything except `MixInto` is used only on the
+// audio thread.
 #pragma once
 
 #include <chrono>
@@ -16,21 +16,21 @@ class SdlSound {
   public:
     explicit SdlSound(AudioDevice& soundDevice) : device(soundDevice) {}
 
-    // Plays a complete WAVE file; bytes that are none are silence.
+    // Plays a complete WAVE file; invalid data is silent.
     void Play(std::span<const std::byte> wave);
     bool IsSounding();
     void Release();
 
-    // Adds what is to be heard next, in the device's form. To be called with the device locked.
+    // Mixes in the next samples, in the device's format. Call it with the device locked.
     void MixInto(std::span<std::uint8_t> samples);
 
   private:
     AudioDevice& device;
-    std::vector<std::uint8_t> sound;  // in the device's form; locked by the device, as `place` is
+    std::vector<std::uint8_t> sound;  // in the device's format; protected by the device's lock, like `place`
     std::size_t place = 0;
 };
 
-// How long a complete WAVE file sounds; nothing for bytes that are none.
+// The length of a complete WAVE file; nothing for invalid data.
 std::chrono::nanoseconds WaveLength(std::span<const std::byte> wave);
 
 }  // namespace prismfall
