@@ -17,8 +17,7 @@ namespace prismfall {
 // How a text is laid out, in display pixels except for the font. It always breaks at line feeds.
 struct TextLayout {
     Font font;
-    int wrapWidth =
-        0;  // if above 0, lines break before this width: between words, or within a word that is too long for a line
+    int wrapWidth = 0;  // if above 0, lines break before this width, between words or within one that is too long
     int fitHeight = 0;  // if above 0, the text is made smaller, pixel by pixel, until it fits this height
 };
 

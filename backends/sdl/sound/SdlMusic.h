@@ -53,9 +53,8 @@ class SdlMusic {
     AudioDevice& device;
     // Protected by the device's lock, since SDL's thread uses them too:
     MusicFile file;
-    std::unique_ptr<SDL_AudioStream, FreeStream>
-        stream;                  // from the file's format to the device's; null before the first
-    SDL_AudioSpec streamForm{};  // the device's format, as the stream knows it
+    std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's format to the device's; null at first
+    SDL_AudioSpec streamForm{};                           // the device's format, as the stream knows it
     std::vector<std::uint8_t> next;
     State state = State::Stopped;
     int volume = SDL_MIX_MAXVOLUME;
