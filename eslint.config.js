@@ -1,4 +1,4 @@
-// Every exception has its reason beside it.
+// Every exception has its reason next to it.
 import js from '@eslint/js';
 import tseslint from 'typescript-eslint';
 

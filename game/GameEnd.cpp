@@ -21,7 +21,7 @@ void WaitForBand(const VMain& main) {
     while (main.platform.Clock() - start < kSweepWait) main.platform.LetEventsRun();
 }
 
-// The part of a beam that lies in the band above SweepY.
+// Greys the part of a beam in the band above SweepY.
 void SweepBeam(const VMain& main, const BeamBody& beam) {
     if (main.SweepY > beam.YEnd + kSweepBand || main.SweepY < beam.YStart) return;
     const int sideways = Sideways(beam.Direction);

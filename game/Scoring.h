@@ -1,4 +1,4 @@
-// Points and levels of an Arcade game, and the number that floats up beside a collision of several beams.
+// Points and levels of an Arcade game, and the number that floats up next to a collision of several beams.
 #pragma once
 
 #include <cstdint>

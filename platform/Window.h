@@ -24,7 +24,7 @@ struct WindowHandlers {
     std::function<void()> activate;                                       // the window has come to the front
     std::function<void(float x, float y)> mouseMove;                      // over the surface, not over an element
     std::function<void(MouseButton button, float x, float y)> mouseDown;  // on the surface
-    std::function<void()> doubleClick;  // the second press of a double click, in place of mouseDown
+    std::function<void()> doubleClick;  // the second press of a double click, instead of mouseDown
     std::function<void(std::int16_t code)> keyDown;
     std::function<void(bool minimised)> resize;
     std::function<void()> queryUnload;  // the window may be about to close; can come more than once, e.g. when a hidden

@@ -17,7 +17,7 @@ constexpr int kHeadsMeet = 3;            // heads closer than this in x and y co
 
 // Beyond this distance from a beam's box no rounding error can bring it down to kHitDistance, so it is not computed.
 constexpr int kSurelyApart = 3;
-static_assert(kHeadsMeet <= kSurelyApart, "a head that can be met lies no farther than that either");
+static_assert(kHeadsMeet <= kSurelyApart, "a head that can be hit is no farther away than that either");
 
 bool IsOutOfPlay(const CLine& beam, bool FastLine) {
     if (!beam.Deleted) return false;

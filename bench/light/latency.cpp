@@ -82,7 +82,7 @@ int main(int count, char** arguments) {
     const volatile std::uint32_t* pixel = MapPixel(words[1], std::strtoul(words[2], nullptr, 10));
     Display* display = XOpenDisplay(nullptr);
     if (pixel == nullptr || display == nullptr) {
-        std::fprintf(stderr, "no display, or not its memory\n");
+        std::fprintf(stderr, "no display, or no access to its memory\n");
         return 1;
     }
     const auto number = [&](std::size_t at) { return std::atoi(words[at]); };

@@ -48,14 +48,14 @@ TEST(Form_MouseDown, DoesWhatTheTableSays) {
 TEST(Form_MouseDown, RoundsHalvesToTheEvenPixelAndADoubleClickRepeatsIt) {
     TestGame game(Mode::PuzzleGame, "100,100 150,150 blue waiting");
     for (const float y : {199.75F, 99.5F, 100.5F}) Form_MouseDown(game.Main(), MouseButton::Left, 150, y);
-    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue waiting") << "50 away, each of them";
+    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue waiting") << "each is 50 away";
     game.Main().GameRunning = false;
     Form_MouseDown(game.Main(), MouseButton::Right, 150, 101.5F);
     Form_DblClick(game.Main());
-    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue waiting") << "the game stands still";
+    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue waiting") << "the game is paused";
     game.Main().GameRunning = true;
     Form_DblClick(game.Main());
-    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue") << "a left press where the last one was";
+    EXPECT_EQ(InShort(game.Main().field), "100,100 150,150 blue") << "a left press at the place of the last one";
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ TEST(Tutorial, ItsSpeedAndItsPauses) {
     EXPECT_EQ(game.Machine().Timers().Interval(Timer::LineExtender), 75);
     game.Click("CmdStart");
     game.Click("cmdPause");
-    EXPECT_FALSE(main.GameRunning) << "between two pictures it is a pause as any other";
+    EXPECT_FALSE(main.GameRunning) << "between two pictures it is a normal pause";
     game.Click("cmdPause");
     game.Machine().Run(4000);
     ASSERT_EQ(main.TutorialStep, 1);

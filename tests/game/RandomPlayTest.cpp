@@ -107,10 +107,10 @@ TEST(RandomPlay, KeepsTheInvariants) {
     for (long tick = 0; tick < ticks; ++tick) {
         player.PlayATick();
         ASSERT_EQ(WrongWith(main), "") << "PRISMFALL_TEST_SEED=" << seed << ", tick " << tick;
-        ASSERT_LT(main.field.Beams.Count(), 1000U) << "beams that have gone are not kept";
+        ASSERT_LT(main.field.Beams.Count(), 1000U) << "removed beams are not kept";
     }
     EXPECT_GT(main.HighScore, 0) << "beams collide";
-    EXPECT_GT(player.games, ticks / 1000) << "games come to an end";
+    EXPECT_GT(player.games, ticks / 1000) << "games end";
 }
 
 }  // namespace

@@ -120,7 +120,7 @@ TEST(States, AGamesEndTakesNoInput) {
     EXPECT_EQ(game.TakePrinted(), "sound 5 sync\ndialog VHighScore2\n");
     game.Machine().onYield = nullptr;
     game.Click("CmdAbout");
-    EXPECT_EQ(game.TakePrinted(), "sound 7 sync\ndialog VAbout\n") << "and afterwards it takes it again";
+    EXPECT_EQ(game.TakePrinted(), "sound 7 sync\ndialog VAbout\n") << "and afterwards input works again";
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ TEST(LineDeleter, ThinsTheWholeChainAndTakesItOut) {
     game.Machine().SetPainting(true);
     for (int i = 0; i < 3; ++i) {
         LineDeleter_Timer(main);
-        EXPECT_EQ(game.TakePrinted().find("0x008000"), std::string::npos) << "nothing else is painted again";
+        EXPECT_EQ(game.TakePrinted().find("0x008000"), std::string::npos) << "nothing else is repainted";
     }
     LineDeleter_Timer(main);
     EXPECT_EQ(InShort(main.field), "300,100 350,150 green") << "what it had stopped grows on at once";
@@ -67,7 +67,7 @@ TEST(LineDeleter, ABeamThatIsDyingTwiceLosesTwoSteps) {
     EXPECT_EQ(Places(main.field, main.field.DyingLines), "2 3 2");
     EXPECT_EQ(twice.Thicknes + game.Beam(3).Thicknes, 2 + 3);
     LineDeleter_Timer(main);
-    EXPECT_EQ(Places(main.field, main.field.DyingLines), "0 2") << "gone, but kept while it is among the dying";
+    EXPECT_EQ(Places(main.field, main.field.DyingLines), "0 2") << "gone, but kept while it is in DyingLines";
     EXPECT_EQ(main.field.Beams.Count(), 3U);
     LineDeleter_Timer(main);
     EXPECT_EQ(Places(main.field, main.field.DyingLines), "2");

@@ -24,7 +24,7 @@ std::vector<double> Play(std::uint64_t number, std::int64_t start, std::int64_t 
 }
 
 TEST(RandomNumbers, FollowFromOneNumberAndTheSeedsAndAreUniform) {
-    EXPECT_EQ(Play(7, 0), Play(7, 123'456)) << "wherever the game begins";
+    EXPECT_EQ(Play(7, 0), Play(7, 123'456)) << "whenever the game begins";
     const std::vector<double> drawn = Play(7, 0);
     EXPECT_EQ(std::set(drawn.begin(), drawn.end()).size(), drawn.size()) << "two seeds at one moment differ";
     EXPECT_NE(Play(7, 0)[0], Play(8, 0)[0]);
@@ -37,7 +37,8 @@ TEST(RandomNumbers, FollowFromOneNumberAndTheSeedsAndAreUniform) {
         if (i % 2 == 0) random.Seed(i);
         ++buckets.at(static_cast<std::size_t>(random.Next() * 10));
     }
-    for (const int count : buckets) EXPECT_NEAR(count, 10'000, 500) << "uniform, also when seeded before every second";
+    for (const int count : buckets)
+        EXPECT_NEAR(count, 10'000, 500) << "uniform, even if seeded before every second number";
 }
 
 }  // namespace

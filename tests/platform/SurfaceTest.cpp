@@ -13,7 +13,7 @@ namespace {
 constexpr int kWidth = Surface::kWidth;
 constexpr int kHeight = Surface::kHeight;
 
-// Whether a pixel lies within half of `width` of a segment, by squares of numbers that are small enough to be squared.
+// Whether a pixel is within half of `width` of a segment, computed with squares, which do not overflow here.
 bool IsCovered(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, std::int64_t width, std::int64_t x,
                std::int64_t y) {
     const auto isNear = [width](std::int64_t offX, std::int64_t offY) {
@@ -61,7 +61,7 @@ class SurfaceTest : public testing::Test {
         surface.Clear();
         model.assign(model.size(), Surface::kUnpainted);
     }
-    // Also that the damage boxes lie on the surface and contain everything that has changed since the last call.
+    // Also checks that the damage boxes are on the surface and contain everything that has changed since the last call.
     void Check(const std::string& after) {
         std::vector<PixelBox> boxes;
         surface.TakeDamage(boxes);
@@ -78,7 +78,7 @@ class SurfaceTest : public testing::Test {
         }
         last = model;
         surface.TakeDamage(boxes);
-        EXPECT_TRUE(boxes.empty()) << "damage is told once";
+        EXPECT_TRUE(boxes.empty()) << "damage is reported once";
     }
 
     Surface surface;

@@ -32,7 +32,7 @@ struct Bench {
         return ticks;
     }
 
-    // What ticks when the running handler lets events run; "+" stands for input.
+    // What ticks when the running handler lets events run; "+" is input.
     void LetEventsRun() {
         wheel.LetEventsRun([this] {
             ticks += '+';
@@ -107,7 +107,7 @@ TEST(TimerWheel, TheFirstYieldTicksOnlyWhatIsClose) {
         bench.Start(Timer::TimerA, 5);
     };
     EXPECT_EQ(bench.At(14), "ED|C+");
-    EXPECT_EQ(bench.At(18), "") << "the second time its moment was 14";
+    EXPECT_EQ(bench.At(18), "") << "at the second yield its moment was 14";
     EXPECT_EQ(bench.At(19), "A");
 }
 
@@ -176,7 +176,7 @@ TEST(TimerWheel, OrderIntervalsAndHandlersThatRun) {
     bench.Start(Timer::LineCreator, 20);
     EXPECT_EQ(bench.At(15), "");
     bench.Start(Timer::LineCreator, 20);
-    EXPECT_EQ(bench.At(30), "C") << "neither start nor the same interval begins anew";
+    EXPECT_EQ(bench.At(30), "C") << "neither Start nor the same interval restarts it";
     bench.wheel.SetInterval(Timer::LineCreator, 8);
     EXPECT_EQ(bench.At(37) + bench.At(38), "C");
     bench.wheel.SetInterval(Timer::LineCreator, 0);

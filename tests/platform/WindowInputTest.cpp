@@ -92,7 +92,7 @@ TEST_F(WindowInputTest, AClickIsPressAndReleaseOnTheSameClickableElement) {
     input.Close(dialog);
     log.clear();
     input.Release(window, MouseButton::Left, 11, 21);
-    EXPECT_EQ(log, "") << "a dialog has come in between";
+    EXPECT_EQ(log, "") << "a dialog has opened in between";
 }
 
 TEST_F(WindowInputTest, SecondPressesAreDoubleClicksOnlyOnTheSameSurface) {

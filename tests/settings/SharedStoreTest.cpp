@@ -66,7 +66,7 @@ TEST(Settings, RunsThatSaveInTurnLoseNothingOfEachOthers) {
         }
         shared.isFull = false;
         for (GameRun* run : {&first, &second, &first}) run->Save();
-        EXPECT_EQ(shared.written, 0U) << "a save of what is saved";
+        EXPECT_EQ(shared.written, 0U) << "nothing new to save";
         all.Save();
         ASSERT_EQ(ofOne.Store().size(), 79U);
         ASSERT_EQ(shared.Store(), ofOne.Store());
@@ -90,7 +90,7 @@ TEST(Settings, AClearedTableTakesWhatItsRunEntersAndNothingElse) {
     EXPECT_EQ(enter(second, 50), "50 0 0 ");
     EXPECT_TRUE(enter(first, 60).starts_with("60 50 ")) << "what was entered before the clearing does not return";
     shared.isDeleted = true;
-    EXPECT_TRUE(enter(first, 40).starts_with("60 50 ")) << "what was deleted is saved anew";
+    EXPECT_TRUE(enter(first, 40).starts_with("60 50 ")) << "what was deleted is saved again";
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ TEST(FindNearestLine, TakesTheNearestHeadWithinReach) {
                           {32767, -32768, "0"}})
         EXPECT_EQ(Places(test.field, {FindNearestLine(test.field, c.x, c.y)}), c.found) << c.x << ',' << c.y;
     std::swap(test.field.Lines[0], test.field.Lines[1]);
-    EXPECT_EQ(FindNearestLine(test.field, 210, 190), &test.Beam(1)) << "of two as near the first in Lines";
+    EXPECT_EQ(FindNearestLine(test.field, 210, 190), &test.Beam(1)) << "of two equally near, the first in Lines";
 }
 
 // The playfield; the beams, of which the last runs forward; the beams afterwards; the outcome; the dying beams.

@@ -21,7 +21,7 @@ class Arcade(harness.WindowTest):
         pause = run.face("cmdPause")
         run.main.click(*layout.middle("cmdPause"), times=2, delay=100)  # the second is a double click's, for no button
         run.rest_mouse()
-        wait_for(run.stands_still, 3, "beams that stand still")
+        wait_for(run.stands_still, 3, "beams to stand still")
         resume = run.face("cmdPause")
         self.assertNotEqual(resume, pause)
         time.sleep(0.5)  # so that it is no double click

@@ -32,7 +32,7 @@ class Dialogs(harness.WindowTest):
             run.wait_for_close(title)
         run.desktop.mouse("windowmove", "--sync", run.main.number, 40, 60)
         wait_for(lambda: run.main.place()[0] < 60, 3, "the window to move")
-        holds_for(run.is_running, 0.2)  # the desktop tells the program where it is now
+        holds_for(run.is_running, 0.2)  # the desktop tells the program its new position
         dialog = run.open_dialog("CmdAbout", layout.ABOUT)
         self.check_window(run, dialog, layout.ABOUT)
         dialog.use_close_box()

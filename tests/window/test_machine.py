@@ -50,7 +50,7 @@ class PlainDisplay(harness.WindowTest):
             black = run.main.pixels(0, 0, *size).count(0) - before.count(0)
             self.assertEqual(black, size[0] * size[1] - 802 * 602, "on black")
         x, y = layout.middle("CmdAbout")
-        run.main.click(x - 30, y)  # beside the button, were the picture at the left
+        run.main.click(x - 30, y)  # next to the button, if the picture were at the left
         run.main.click(99 + x, y)
         dialog = run.desktop.window(layout.ABOUT)
         self.resize(dialog, 204, 300)

@@ -96,8 +96,8 @@ class Programs(WindowsTest):
 
     def test_nothing_is_needed_that_windows_10_lacks(self):
         for program in (*BUILT.glob("*.exe"), ROOT / "build/windows-folder/libmpg123.dll"):
-            told = subprocess.check_output(["x86_64-w64-mingw32-objdump", "-p", program], text=True)
-            needed = {name.lower().removesuffix(".dll") for name in re.findall(r"DLL Name: (\S+)", told)}
+            headers = subprocess.check_output(["x86_64-w64-mingw32-objdump", "-p", program], text=True)
+            needed = {name.lower().removesuffix(".dll") for name in re.findall(r"DLL Name: (\S+)", headers)}
             self.assertLessEqual(needed, set(LIBRARIES.split()), program.name)
 
     def test_a_kill_in_a_save_leaves_a_whole_file(self):

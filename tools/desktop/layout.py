@@ -40,5 +40,5 @@ def tutorial():
     for left, top, picture in re.findall(r"^moment \d+ at (\d+),(\d+) (\w+)", TEXT, re.M):
         spot = re.search(rf"^spot {picture} goes on (\d+),(\d+) (\d+)x(\d+)(.*)", TEXT, re.M)
         x, y, width, height = map(int, spot.groups()[:4])
-        seen = min(height, BOXES[MAIN, picture][3] - y)  # one spot goes on below its picture
+        seen = min(height, BOXES[MAIN, picture][3] - y)  # one spot extends below its picture
         yield (int(left) + x + width // 2, int(top) + y + seen // 2), 3 if "right" in spot[5] else 1

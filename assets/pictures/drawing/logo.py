@@ -7,7 +7,7 @@ from lettering import GLYPHS, placed
 from neon import WHITE, box, document, stroke
 
 WIDTH, HEIGHT = 586, 205
-# Where the flickering letter's picture lies in the logo, and its size.
+# Where the flickering letter's picture is in the logo, and its size.
 CUT_LEFT, CUT_TOP, CUT_WIDTH, CUT_HEIGHT = 498, 1, 84, 87
 
 # Letter, left edge, baseline before the skew, scale, colour. The letters shrink as they rise, and follow the rainbow.

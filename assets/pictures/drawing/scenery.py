@@ -1,7 +1,7 @@
 """The scenery of the game: the main window with its neon frame, the background of the dialogs, the two score panels.
 
 The playfield's edges are fixed by the game: it is black from x 14 to 669 and down to y 585. A beam that bounces leaves
-black in the columns 11 and 672 beside the frame's hairline, so these are black in the picture from the beginning.
+black in the columns 11 and 672 next to the frame's hairline, so these are black in the picture from the start.
 """
 
 from lettering import text_path

@@ -23,7 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; what is larger is none of its own
+constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; a larger file is not ours
 constexpr int kLongestLinkChain = 16;
 constexpr mode_t kNewFileMode = 0600;
 constexpr mode_t kNewFolderMode = 0700;

@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; what is larger is none of its own
+constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; a larger file is not ours
 constexpr DWORD kLongestWait = 2000;           // milliseconds, for another run; a save takes a few
 constexpr int kTries = 50;                     // while a virus scanner, or a run that is being terminated, holds a file
 constexpr DWORD kNextTry = 20;                 // milliseconds

@@ -20,7 +20,7 @@ TEST(NullPlatform, PlaysAnArcadeGameToItsEnd) {
         input.PressAndClick(main.window, main.CommandArcade);
     });
     machine.Run(5000);
-    EXPECT_EQ(main.field.Lines.size(), 5U) << "three to begin with, and two of the timer's";
+    EXPECT_EQ(main.field.Lines.size(), 5U) << "three to begin with, and two from the timer";
     machine.Run(120'000);
     EXPECT_EQ(main.GameMode, Mode::MainMenu) << "nobody kept the beams off the ground";
     machine.Do([&](WindowInput& input) { input.Key(main.window, kEscapeKey); });

@@ -37,8 +37,8 @@ TEST(PictureStoreTest, ReportsExactlyWhatIsWrongWithAPicture) {
         PictureStore store(folder);
         testing::internal::CaptureStderr();
         EXPECT_EQ(store.Find(name), nullptr);
-        const std::string told = testing::internal::GetCapturedStderr();
-        EXPECT_NE(told.find(name + " in " + folder.string() + " " + fault), std::string::npos) << told;
+        const std::string report = testing::internal::GetCapturedStderr();
+        EXPECT_NE(report.find(name + " in " + folder.string() + " " + fault), std::string::npos) << report;
     }
     fs::remove_all(folder);
 }

@@ -72,7 +72,7 @@ TEST_F(PlayingTest, MusicLoopsWithoutASeamAndPlaysOnFromWhereItPaused) {
     ASSERT_EQ(track.size(), size);
     EXPECT_TRUE(IsSilence(Take(music, kChunk))) << "it plays once";
     music.Resume();
-    EXPECT_FALSE(music.IsSounding()) << "it has been played";
+    EXPECT_FALSE(music.IsSounding()) << "it has finished";
 
     music.PlayLooping();
     Samples twice = track;
@@ -90,14 +90,14 @@ TEST_F(PlayingTest, MusicLoopsWithoutASeamAndPlaysOnFromWhereItPaused) {
     const Samples rest = Take(music, size);
     EXPECT_TRUE(std::equal(rest.begin(), rest.end() - static_cast<std::ptrdiff_t>(place),
                            track.begin() + static_cast<std::ptrdiff_t>(place)));
-    EXPECT_FALSE(music.IsSounding()) << "resumed music ends with the track";
+    EXPECT_FALSE(music.IsSounding()) << "resumed music stops at the end of the track";
 
     music.PlayLooping();
     Take(music, size - 100);
     music.Resume();
     const Samples end = Take(music, kChunk);
     EXPECT_TRUE(std::equal(end.begin(), end.begin() + 100, track.end() - 100));
-    EXPECT_TRUE(IsSilence({end.begin() + 100, end.end()})) << "the beginning must not come again";
+    EXPECT_TRUE(IsSilence({end.begin() + 100, end.end()})) << "it must not loop";
 
     music.PlayLooping();
     Take(music, kChunk);
@@ -212,7 +212,7 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndResumesInTheFormatOfTheNext) {
     audio.DoWithMusic([](SdlMusic& player) { player.PlayLooping(); });
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     setenv("SDL_AUDIODRIVER", "disk", 1);
-    ASSERT_TRUE(WaitFor([&] { return size(first) > 300'000; })) << "a device has come";
+    ASSERT_TRUE(WaitFor([&] { return size(first) > 300'000; })) << "a device has appeared";
     audio.DeviceLost();  // but that was a different one
     ASSERT_TRUE(WaitFor([] { return SDL_HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE; }));
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -239,7 +239,8 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndResumesInTheFormatOfTheNext) {
     for (std::size_t frame = place; frame < before.size() / 2 + 30'000; ++frame)
         if (difference(frame) < difference(place)) place = frame;
     EXPECT_NEAR(static_cast<double>(place), static_cast<double>(before.size() / 2), 3 * 2048);
-    EXPECT_LT(difference(place), difference(place + 20) / 4) << "it is that place of the track, at its pitch";
+    EXPECT_LT(difference(place), difference(place + 20) / 4)
+        << "it resumes at that place of the track, at the right pitch";
 }
 
 TEST_F(PlayingTest, ANewSoundCutsOffTheOld) {

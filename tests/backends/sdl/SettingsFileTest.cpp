@@ -99,7 +99,7 @@ TEST_F(SettingsFileTest, AFullDiskKeepsTheOldFileAndLeavesNothingElse) {
     }
     int status = 0;
     waitpid(writer, &status, 0);
-    EXPECT_EQ(WEXITSTATUS(status), 1) << "the failure has to be told";
+    EXPECT_EQ(WEXITSTATUS(status), 1) << "the failure must be reported";
     EXPECT_EQ(Get("General", "Music"), "True");
     EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), fs::directory_iterator()), 1);
 }
