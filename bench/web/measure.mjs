@@ -1,5 +1,5 @@
-// What the page costs, in Chromium: bytes and time to the first picture, from a press to its pixels, processor time and
-// memory in play, and how late it wakes up on a slow processor.
+// What the page costs, in Chromium: bytes and time to the first picture, latency from a press to its pixels, CPU time and
+// memory during play, and how late it wakes up on a slow CPU.
 //   script/build release && script/build-web && node bench/web/measure.mjs [MINUTES_OF_PLAY]
 import { spawnSync } from 'node:child_process';
 import { readdirSync, readFileSync } from 'node:fs';
@@ -34,7 +34,7 @@ async function openGame(startLevel, prepare = '') {
     return new Game(driven).open(site.address);
 }
 
-/** In milliseconds, of the browser and all that it started. */
+/** In milliseconds, of the browser and all processes that it started. */
 function processorTime() {
     const processes = readdirSync('/proc').filter((name) => /^\d+$/.test(name));
     const stats = processes.flatMap((pid) => {
@@ -54,7 +54,7 @@ function processorTime() {
 }
 
 async function bytes() {
-    // Before the sounds come, which are the first that can wait.
+    // Before the sounds, which are the first files that can wait.
     const note = `addEventListener('DOMContentLoaded', () => {
         const loading = document.getElementById('loading');
         new MutationObserver(() => {

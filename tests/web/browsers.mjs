@@ -1,4 +1,4 @@
-// Real browsers, driven alike: Chromium and Firefox by puppeteer, WebKit by its own driver. Places are the page's pixels.
+// Real browsers with one interface: Chromium and Firefox through puppeteer, WebKit through its own driver. Places are page pixels.
 import { spawn } from 'node:child_process';
 import { writeFileSync } from 'node:fs';
 import { createServer } from 'node:net';
@@ -17,7 +17,7 @@ const programs = {
 /** A browser with an empty profile. */
 export async function startBrowser(name) {
     if (name === 'webkit') return new WebKit().start();
-    // A worker that somebody looks into is never idle, and a new one cannot take over from it.
+    // A worker with a debugger attached is never idle, so a new one cannot take over from it.
     const targetFilter = (target) => target.type() !== 'service_worker';
     const browser = await puppeteer.launch({
         headless: true,

@@ -1,11 +1,11 @@
-// What a player sees and does: buttons by their words, places by game pixels, all with a real mouse.
+// What a player sees and does: buttons by their labels, places in game pixels, all with a real mouse.
 import assert from 'node:assert';
 import { createHash } from 'node:crypto';
 import { after } from 'node:test';
 import { serve } from '../../backends/web/page/serve.mjs';
 import { sleep, startBrowser } from './browsers.mjs';
 
-/** A browser, and the page served to it until the tests are over, but for the paths that are said to be missing. */
+/** A browser, and the page served to it until the tests are over, except for the paths given as missing. */
 export async function startTests(name, isMissing) {
     const [site, browser] = await Promise.all([serve('build/web', isMissing), startBrowser(name)]);
     after(async () => {
@@ -27,7 +27,7 @@ export class Game {
         return this;
     }
 
-    /** Waits until a question put to the page is answered by something true, and returns that. */
+    /** Waits until an expression evaluated in the page gives something true, and returns that. */
     async until(what, question, ...values) {
         for (const end = Date.now() + 60_000; Date.now() < end; await sleep(50)) {
             const answer = await this.page.evaluate(question, ...values);
@@ -36,7 +36,7 @@ export class Game {
         assert.fail(`waited in vain for ${what}`);
     }
 
-    /** The middle of a button or of a marked choice in the window in front. */
+    /** The middle of a button or of a check box or radio button in the front window. */
     placeOf(words) {
         const find = (text) => {
             const front = [...document.querySelectorAll('dialog[open]')].at(-1) ?? document;
@@ -51,7 +51,7 @@ export class Game {
 
     click = async (words) => this.page.click(...(await this.placeOf(words)));
 
-    /** A place of the main window on the page. */
+    /** Converts a place in the main window to a place on the page. */
     async at(x, y) {
         const find = () => {
             const { left, top, width } = document.getElementById('picture').getBoundingClientRect();

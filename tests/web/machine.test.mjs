@@ -1,5 +1,5 @@
-// What a browser does to a page: fingers, small screens, tabs, hidden pages, no network, new versions, files and storage
-// that cannot be had; and whether people who do not see or do not use a mouse can play. In Chromium.
+// What a browser can do to a page: touch, small screens, tabs, hidden pages, no network, new versions, missing files and
+// storage; and whether people who cannot see or do not use a mouse can play. In Chromium.
 import assert from 'node:assert';
 import { cpSync, readdirSync, readFileSync, renameSync, rmSync, writeFileSync } from 'node:fs';
 import { afterEach, beforeEach, test } from 'node:test';
@@ -18,7 +18,7 @@ afterEach(() => profile.close());
 
 const laterRun = "localStorage.setItem('prismfall', `[General]\\nPlayFirstTime=False\\n${SETTINGS}`)";
 
-/** A page of a later run, with these settings and after this preparation. */
+/** The page of a later run, with these settings and after this preparation. */
 async function openGame({
     settings = 'Music=False\n[Scores]\nScore1=340\n',
     prepare = '',
@@ -45,7 +45,7 @@ async function tabTo(game, words) {
     assert.fail(`no way to ${words} by the keyboard`);
 }
 
-test('all buttons can be reached and pressed by keys, and options outlast the page', async () => {
+test('all buttons can be reached and pressed with keys, and options outlast the page', async () => {
     const game = await openGame();
     await tabTo(game, 'Options');
     await game.page.key('Enter');
@@ -131,7 +131,7 @@ test('fingers on a phone press both buttons', async () => {
     assert.ok(await game.page.evaluate(fits));
 });
 
-test('a hidden page stands still, and two tabs lose nothing of each other', async () => {
+test('a hidden page pauses, and two tabs do not overwrite each other', async () => {
     const first = await openGame({ settings: 'Music=False\n[SolvedPuzzles]\nPuzzle9=True\n' });
     const second = await openGame({ settings: 'Music=False\n[SolvedPuzzles]\nPuzzle9=True\n' });
     await second.click('Options');
@@ -152,7 +152,7 @@ test('a hidden page stands still, and two tabs lose nothing of each other', asyn
     for (const [key, value] of Object.entries(kept)) assert.equal(await first.stored(key), value, key);
 });
 
-test('what cannot be had is told in a sentence, and the game goes on', async () => {
+test('missing files and storage are reported in a sentence, and the game goes on', async () => {
     missing = (path) => /mp3$|PuzzleUp|wav$/.test(path);
     const notice = (game, words) =>
         game.until(words, (text) => document.getElementById('notice').textContent.includes(text), words);
@@ -245,7 +245,7 @@ function makeNewVersion(folder) {
         writeFileSync(`${folder}/${file}`, readFileSync(`${folder}/${file}`, 'utf8').replaceAll(old, 'version-new'));
 }
 
-test('it starts without a network, and a new version comes as a whole at a start', async () => {
+test('it starts offline, and a new version is installed as a whole at a start', async () => {
     const game = await openGame();
     const { page } = game.page;
     const worker = async (is) => !!(await navigator.serviceWorker.getRegistration())?.[is];

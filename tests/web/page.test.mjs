@@ -10,7 +10,7 @@ const page = await browser.newPage();
 await page.size(900, 760);
 const game = await new Game(page).open(site.address);
 
-/** What the native game paints when a script is carried out, as a hash of the surface. */
+/** What the native game paints when it runs a script, as a hash of the surface. */
 function painted(script) {
     const lines = `setting General PlayFirstTime False\nload\npaint on\n${script}\n`;
     const { stdout } = spawnSync('build/release/prismfall-headless', { input: lines });
@@ -37,7 +37,7 @@ test('a first run shows the manual and leads through the tutorial', async () => 
     await page.key('Escape');
 });
 
-test('the canvas holds what the native game paints', async () => {
+test('the canvas shows what the native game paints', async () => {
     await shows('Beginner');
     assert.equal(await game.surface(), painted('click CommandPuzzle'));
     await game.press(345, 300);
@@ -47,7 +47,7 @@ test('the canvas holds what the native game paints', async () => {
     await page.key('Escape');
 });
 
-test('a lost puzzle is solved by the program to its end', async () => {
+test('the program solves a lost puzzle to its end', async () => {
     for (let i = 0; i < 3; ++i) await game.click('Next page');
     await game.press(560, 120);
     await game.until('puzzle 30', () => /Puzzle 30/.test(document.getElementById('picture').textContent));

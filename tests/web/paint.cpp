@@ -1,5 +1,5 @@
 // Paints what prismfall-headless prints with `paint on` and writes the surface's pixels, red, green, blue and opacity,
-// to standard output: what a page's canvas has to hold.
+// to standard output: what the page's canvas must contain.
 #include <array>
 #include <cstdio>
 #include <iostream>

@@ -1,5 +1,5 @@
-// The driver compiled to WebAssembly against the native one: every story, and every puzzle's solution for both values
-// that the growth toggle can start with, byte for byte.
+// The driver compiled to WebAssembly, compared with the native one byte for byte: every story, and every puzzle's solution
+// for both starting values of the growth toggle.
 import assert from 'node:assert';
 import { spawnSync } from 'node:child_process';
 import { readdirSync, readFileSync } from 'node:fs';

@@ -1,4 +1,4 @@
-// Runs the driver's WebAssembly by node's own WASI, with the standard streams as they are.
+// Runs the driver's WebAssembly with node's WASI, passing the standard streams through.
 import { readFileSync } from 'node:fs';
 import { WASI } from 'node:wasi';
 
