@@ -21,9 +21,10 @@ class AudioThread {
     AudioThread& operator=(const AudioThread&) = delete;
     ~AudioThread();
 
-    // Runs a task as soon as those before it are done. The thread begins with the first one.
-    void Post(Task task);
-    // Runs a task likewise and returns true when it is done, or false if it is not done within `limit`; it is done
+    // Runs a task as soon as those before it are done. The thread begins with the first one. False if the system gives
+    // none, or after `Finish`: the task is forgotten then.
+    bool Post(Task task);
+    // Runs a task likewise and returns true when it is done, or false if it is not done within `limit`; it may be done
     // later then, so what it refers to must last.
     bool Call(Task task, std::chrono::milliseconds limit);
     // Only within a task: runs another one after some time, in place of the one that was to run before. Nothing: none.
@@ -33,6 +34,7 @@ class AudioThread {
     bool Finish(std::chrono::milliseconds limit);
 
   private:
+    bool Start();
     void Run();
 
     std::mutex mutex;
