@@ -87,6 +87,7 @@ class SdlPlatform final : public Platform {
     RandomNumbers random;
     Window* main = nullptr;
     std::atomic<bool> isEndedBySystem = false;  // events are noted on the thread that they come from
+    std::atomic<bool> isSaving = false;         // the end may break in on that
     bool isFailedSaveTold = false;
 };
 

@@ -25,9 +25,10 @@ bool OpenDisplay(std::string& failure);
 // back.
 DesktopFacts AskDesktop();
 
-// The desktop's session can end without leaving the program the time for an SDL_QUIT event, or the display can go by a
-// fault. `end` is then called on the thread that calls this now, within whatever that was doing; it must not touch any
-// window nor come back. To be called once.
+// The desktop's session can end without leaving the program the time for an SDL_QUIT event, the display can go by a
+// fault, or it hangs when the program is to end. `end` is then called on the thread that calls this now, within
+// whatever that was doing. It must not touch any window, and ends the program; only in the middle of a save it comes
+// back, to be called again. To be called once.
 void WhenSessionEnds(std::function<void()> end);
 
 // For a window that is not shown yet. A main window can be closed, moved and minimised; a dialog, which belongs to
