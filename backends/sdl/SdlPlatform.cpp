@@ -63,6 +63,7 @@ SdlPlatform::SdlPlatform(PictureStore pictures)
     SDL_AddEventWatch(NoteEndBySystem, this);
     if (SDL_HasEvent(SDL_QUIT) == SDL_TRUE) isEndedBySystem = true;
     WhenSessionEnds([this] {
+        if (isSaving) return;
         isEndedBySystem = true;
         if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
         std::_Exit(EXIT_SUCCESS);
@@ -78,12 +79,12 @@ int SdlPlatform::NoteEndBySystem(void* self, SDL_Event* event) {
 }
 
 void SdlPlatform::Run(Window& mainWindow) {
+    main = &mainWindow;
     if (!desktop.Open(mainWindow)) {
         std::fprintf(stderr, "prismfall: no window can be opened: %s.\n", SDL_GetError());
         std::exit(EXIT_FAILURE);
     }
     mainWindow.visible = true;
-    main = &mainWindow;
     loop.Timers().Handle([&mainWindow] {
         if (mainWindow.on.activate) mainWindow.on.activate();
     });
@@ -195,7 +196,9 @@ std::string SdlPlatform::ReadSetting(std::string_view, std::string_view section,
 }
 
 bool SdlPlatform::ChangeSettings(std::string_view, const SettingsChange& change) {
+    isSaving = true;
     const std::string failure = settings.Change(change);
+    isSaving = false;
     if (!failure.empty()) TellOfUnsavedSettings(failure);
     return failure.empty();
 }

@@ -86,7 +86,8 @@ class SdlPlatform final : public Platform {
     SettingsFile settings;
     RandomNumbers random;
     Window* main = nullptr;
-    std::atomic<bool> isEndedBySystem = false;  // set on whichever thread the event comes from
+    std::atomic<bool> isEndedBySystem = false;  // events are noted on the thread that they come from
+    std::atomic<bool> isSaving = false;         // the end may break in on that
     bool isFailedSaveTold = false;
 };
 

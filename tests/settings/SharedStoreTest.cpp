@@ -89,6 +89,7 @@ TEST(Settings, AClearedTableTakesWhatItsRunEntersAndNothingElse) {
     ForgetScores(second);
     EXPECT_EQ(enter(second, 50), "50 0 0 ");
     EXPECT_TRUE(enter(first, 60).starts_with("60 50 ")) << "what was entered before the clearing does not return";
+    EXPECT_TRUE(enter(second, 55).starts_with("60 55 ")) << "a run clears once";
     shared.isDeleted = true;
     EXPECT_TRUE(enter(first, 40).starts_with("60 50 ")) << "what was deleted is saved again";
 }

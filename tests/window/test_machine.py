@@ -14,10 +14,12 @@ class Ends(harness.WindowTest):
         display = desktop.Desktop()
         self.addCleanup(display.stop)
         Ends.desktop, shared = display, self.desktop
+        tell = display.processes[0].send_signal
         ends = {
             "SIGTERM": lambda run: run.kill(signal.SIGTERM),
-            "SIGINT": lambda run: run.kill(signal.SIGINT),
+            "two signals": lambda run: run.process.send_signal(signal.SIGHUP) or run.kill(signal.SIGINT),
             "close box": lambda run: run.main.use_close_box() or run.wait_for_end(),
+            "display that hangs": lambda run: (tell(signal.SIGSTOP), run.kill(signal.SIGTERM), tell(signal.SIGCONT))[1],
             "end of the display": lambda run: display.processes[0].terminate() or run.wait_for_end(),
         }
         try:

@@ -24,9 +24,10 @@ bool OpenDisplay(std::string& failure);
 // Call it once, on an open desktop, before the first window. Returns the usual values where the desktop does not say.
 DesktopFacts AskDesktop();
 
-// The desktop's session can end without leaving the program time for an SDL_QUIT event, or the display can be lost.
-// Then `end` is called on the thread that called this, in the middle of whatever that was doing; it must not touch any
-// window and must not return. Call it once.
+// The desktop's session can end without leaving the program the time for an SDL_QUIT event, the display can go by a
+// fault, or it hangs when the program is to end. `end` is then called on the thread that calls this now, within
+// whatever that was doing. It must not touch any window, and ends the program; only in the middle of a save it comes
+// back, to be called again. To be called once.
 void WhenSessionEnds(std::function<void()> end);
 
 // For a window that is not shown yet. A main window can be closed, moved and minimised; a dialog, which belongs to

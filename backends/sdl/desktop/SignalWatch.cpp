@@ -1,24 +1,37 @@
-// A thread that sleeps until a signal arrives. A signal handler could not do this: pushing an event takes a lock, and a
-// flag alone would not wake the loop.
+// A thread that sleeps until a signal comes. A signal handler could not do it: pushing an event takes a lock, and a
+// flag alone would not wake the loop. Only a main thread that hangs is met by a handler. It is found waiting for the
+// display, where no lock is held that saving needs; if one is held all the same, the signal's own effect is left.
 #include "backends/sdl/desktop/SignalWatch.h"
 
 #include <SDL.h>
+#include <poll.h>
 #include <pthread.h>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 
+#include <system_error>
 #include <thread>
+#include <utility>
 
 namespace prismfall {
 
 namespace {
 
-constexpr timespec kPatience{3, 0};  // for an orderly end
+using namespace std::chrono_literals;
 
+constexpr auto kGracePeriod = 2s;     // for an end in good order
+constexpr auto kNextBreakIn = 100ms;  // on a main thread that hangs
+constexpr int kBreakIns = 8;
+constexpr int kBreakInSignal = SIGUSR1;
+
+pthread_t mainThread;
+bool isWatching = false;
 std::atomic<bool> takesEvents = false;
 std::atomic<bool> signalCame = false;
+std::atomic<const std::function<void()>*> endOfWhatHangs = nullptr;
 
 bool IsIgnored(int signal) {
     struct sigaction action {};
@@ -42,32 +55,73 @@ void PushQuit() {
     std::_Exit(EXIT_FAILURE);
 }
 
-[[noreturn]] void MeetSignals(sigset_t signals) {
+[[noreturn]] void AnswerSignals(sigset_t signals) {
     int first = 0;
     while (sigwait(&signals, &first) != 0) continue;
     signalCame = true;
     if (takesEvents) PushQuit();
-    for (;;) {
-        const int second = sigtimedwait(&signals, nullptr, &kPatience);
-        if (second > 0) EndBy(second);
-        if (errno != EINTR) EndBy(first);  // otherwise the program was stopped and has been continued
+    AwaitEnd(first);
+}
+
+// Until the other side of the connection has gone.
+[[noreturn]] void AwaitHangUp(int connection) {
+    pollfd wait{connection, 0, 0};
+    while (poll(&wait, 1, -1) < 0 && errno == EINTR) continue;
+    AwaitEnd(SIGHUP);
+}
+
+void BreakIn(int) { (*endOfWhatHangs.load())(); }
+
+// False if the system gives no thread.
+template <typename... Arguments>
+bool RunBeside(void (*task)(Arguments...), Arguments... arguments) {
+    try {
+        std::thread(task, arguments...).detach();
+    } catch (const std::system_error&) {
+        return false;
     }
+    return true;
 }
 
 }  // namespace
 
-void WatchEndSignals() {
+bool WatchEndSignals() {
+    mainThread = pthread_self();
+    for (const int signal : {SIGXFSZ, SIGPIPE}) std::signal(signal, SIG_IGN);
     sigset_t signals;
     sigemptyset(&signals);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         if (!IsIgnored(signal)) sigaddset(&signals, signal);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    std::thread(MeetSignals, signals).detach();
+    isWatching = RunBeside(AnswerSignals, signals);
+    if (!isWatching) pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+    return isWatching;
 }
 
+// SDL has handlers of its own for the other two.
 void DeliverEarlySignal() {
+    if (!isWatching && !IsIgnored(SIGHUP)) std::signal(SIGHUP, [](int) { std::raise(SIGTERM); });
     takesEvents = true;
     if (signalCame) PushQuit();
+}
+
+void EndWithConnection(int connection) { RunBeside(AwaitHangUp, connection); }
+
+void WhenItHangs(std::function<void()> end) {
+    struct sigaction action {};
+    action.sa_handler = BreakIn;
+    action.sa_flags = SA_RESTART;
+    sigaction(kBreakInSignal, &action, nullptr);
+    endOfWhatHangs = new std::function<void()>(std::move(end));  // for good: the program may hang in its very end
+}
+
+void AwaitEnd(int signal) {
+    std::this_thread::sleep_for(kGracePeriod);
+    for (int i = 0; i < kBreakIns && endOfWhatHangs.load() != nullptr; ++i) {
+        pthread_kill(mainThread, kBreakInSignal);
+        std::this_thread::sleep_for(kNextBreakIn);
+    }
+    EndBy(signal);
 }
 
 }  // namespace prismfall

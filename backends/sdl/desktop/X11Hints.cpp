@@ -10,8 +10,8 @@
 #include <array>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
+#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -23,6 +23,8 @@
 #include <utility>
 
 #include "backends/sdl/desktop/SignalWatch.h"
+
+struct wl_display;
 
 namespace prismfall {
 
@@ -143,7 +145,7 @@ std::thread::id endingThread;
 
 // SDL wakes its loop from other threads over a separate connection. A thread that finds it broken waits for the end.
 int MeetDisplayLoss(Display*) {
-    while (std::this_thread::get_id() != endingThread) std::this_thread::sleep_for(std::chrono::hours(1));
+    if (std::this_thread::get_id() != endingThread) AwaitEnd(SIGHUP);
     endWithoutDisplay();
     return 0;
 }
@@ -179,9 +181,9 @@ std::optional<float> ResourceDotsPerInch(Display* display) {
 // Where there can be no Wayland its library is not asked, since it complains on standard error.
 const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
 
-bool OnX11() {
+bool IsDesktop(const char* name) {
     const char* driver = SDL_GetCurrentVideoDriver();
-    return driver != nullptr && std::strcmp(driver, "x11") == 0;
+    return driver != nullptr && std::strcmp(driver, name) == 0;
 }
 
 void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
@@ -198,7 +200,21 @@ void SilenceAlsa() {
     dlclose(library);
 }
 
-// In quarters: desktops offer no finer steps, and dots per inch are seldom exact.
+// SDL waits for good for a compositor that goes while a window opens. Whether it is there is seen by a connection of
+// our own; SDL has loaded the library, and taking its functions from there spares the game a dependency of its own.
+void EndWithWayland() {
+    using Connect = wl_display* (*)(const char*);
+    using GetConnection = int (*)(wl_display*);
+    void* library = dlopen("libwayland-client.so.0", RTLD_LAZY | RTLD_NOLOAD);
+    if (library == nullptr) return;
+    const auto connect = reinterpret_cast<Connect>(dlsym(library, "wl_display_connect"));
+    const auto connectionOf = reinterpret_cast<GetConnection>(dlsym(library, "wl_display_get_fd"));
+    wl_display* const display = connect != nullptr && connectionOf != nullptr ? connect(nullptr) : nullptr;
+    if (display != nullptr) EndWithConnection(connectionOf(display));
+    dlclose(library);
+}
+
+// Quarters: desktops offer no finer steps, and dots per inch are seldom exact.
 float ScaleOf(float dotsPerInch) {
     if (!(dotsPerInch > 0)) return 1;
     return std::clamp(std::round(dotsPerInch / kPlainDotsPerInch * 4) / 4, 1.0F, kLargestScale);
@@ -206,7 +222,9 @@ float ScaleOf(float dotsPerInch) {
 
 }  // namespace
 
-void PrepareDesktop() { WatchEndSignals(); }
+void PrepareDesktop() {
+    if (!WatchEndSignals()) SDL_SetHintWithPriority(SDL_HINT_NO_SIGNAL_HANDLERS, "0", SDL_HINT_OVERRIDE);
+}
 
 bool OpenDisplay(std::string& failure) {
     SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
@@ -219,14 +237,16 @@ bool OpenDisplay(std::string& failure) {
         failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
         return false;
     }
-    // On X11 the window's own pixels are by far the cheapest way; elsewhere this may not exist.
-    if (OnX11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
+    if (IsDesktop("x11")) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    if (IsDesktop("wayland")) EndWithWayland();
     DeliverEarlySignal();
     SilenceAlsa();
     return true;
 }
 
 void WhenSessionEnds(std::function<void()> end) {
+    WhenItHangs(end);
     endWithoutDisplay = std::move(end);
     endingThread = std::this_thread::get_id();
     XSetIOErrorHandler(MeetDisplayLoss);
@@ -234,7 +254,7 @@ void WhenSessionEnds(std::function<void()> end) {
 
 DesktopFacts AskDesktop() {
     DesktopFacts facts;
-    if (!OnX11()) return facts;
+    if (!IsDesktop("x11")) return facts;
     Display* display = XOpenDisplay(nullptr);
     if (display == nullptr) return facts;
     const std::string block = ReadSettingsBlock(display);

@@ -75,7 +75,9 @@ Reading ReadScaled(const std::filesystem::path& folder, float scale, std::string
 PictureStore::PictureStore(std::filesystem::path picturesFolder) : folder(std::move(picturesFolder)) {}
 
 void PictureStore::ReadAhead(std::span<const std::string_view> names) {
-    readAhead = std::async(std::launch::async, [path = folder, list = std::vector(names.begin(), names.end())] {
+    // Where the system gives no thread for it, they are read when the first picture is asked for.
+    constexpr std::launch policy = std::launch::async | std::launch::deferred;
+    readAhead = std::async(policy, [path = folder, list = std::vector(names.begin(), names.end())] {
         Images read;
         for (const std::string_view name : list) {
             if (Reading reading = ReadScaled(path, 1, name); reading.image)

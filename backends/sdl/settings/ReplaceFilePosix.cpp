@@ -1,5 +1,6 @@
-// The new text is written next to the old file under a unique name, flushed to disk, and then renamed over the old
-// file. The lock is on the folder, so it leaves no file behind.
+// The new text is written beside the old one under a name that nobody else uses, brought to the disk, and then takes
+// the old one's name. The lock is on the folder, so it leaves no file behind. A save that was killed leaves what it had
+// written; the next save removes it.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <fcntl.h>
@@ -29,6 +30,9 @@ constexpr mode_t kNewFileMode = 0600;
 constexpr mode_t kNewFolderMode = 0700;
 constexpr auto kLongestWait = 2s;  // for another run; a save takes milliseconds
 constexpr auto kNextLook = 5ms;
+constexpr int kTries = 20;  // while other runs replace the file
+constexpr int kChangedMeanwhile = EAGAIN;
+constexpr std::string_view kNewText = ".new-";  // between the file's name and what tells the new texts apart
 
 class Descriptor {
   public:
@@ -91,13 +95,24 @@ int MakeFolders(const fs::path& folder) {
     return ::mkdir(folder.c_str(), kNewFolderMode) == 0 || errno == EEXIST ? 0 : errno;
 }
 
-// Waits for the other runs. If the folder cannot be locked, or is held for so long that its holder must have been
-// stopped, it is used without a lock: the other run loses nothing by that.
-void Lock(const Descriptor& folder) {
+// Waits for the other runs. False for a folder that cannot be locked, and for one that is held for so long that its
+// holder is stopped or has a very slow disk. It is used without a lock then: whoever comes second sees that the file is
+// another one and begins anew.
+bool Lock(const Descriptor& folder) {
     const auto end = std::chrono::steady_clock::now() + kLongestWait;
     while (::flock(folder.Number(), LOCK_EX | LOCK_NB) != 0) {
-        if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() >= end) return;
+        if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() >= end) return false;
         std::this_thread::sleep_for(kNextLook);
+    }
+    return true;
+}
+
+// Removes what saves that were killed have left. Only for the holder of the lock: nobody else is writing then.
+void RemoveLeftovers(const fs::path& path) {
+    const std::string beginning = path.filename().string().append(kNewText);
+    std::error_code error;
+    for (fs::directory_iterator file(path.parent_path(), error), end; !error && file != end; file.increment(error)) {
+        if (file->path().filename().string().starts_with(beginning)) ::unlink(file->path().c_str());
     }
 }
 
@@ -111,31 +126,48 @@ bool WriteAll(int descriptor, std::string_view text) {
     return true;
 }
 
-// Returns 0, or why the file is unchanged.
-int Replace(const fs::path& path, std::string_view text, mode_t mode, const Descriptor& folder) {
-    std::string temporary = path.string() + ".XXXXXX";
+// 0, or the reason why nothing was written. The file that mkostemp makes is the user's own; where a file system knows
+// no other rights, it stays so.
+int WriteNew(std::string& temporary, std::string_view text, mode_t mode) {
     Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.IsOpen()) return errno;
-    const bool isWritten = ::fchmod(file.Number(), mode) == 0 && WriteAll(file.Number(), text) &&
-                           ::fsync(file.Number()) == 0 && file.Close() &&
-                           ::rename(temporary.c_str(), path.c_str()) == 0;
-    if (!isWritten) {
-        const int reason = errno;
-        ::unlink(temporary.c_str());
-        return reason;
-    }
-    if (folder.IsOpen()) ::fsync(folder.Number());
-    return 0;
+    if (mode != kNewFileMode) ::fchmod(file.Number(), mode);
+    return WriteAll(file.Number(), text) && ::fsync(file.Number()) == 0 && file.Close() ? 0 : errno;
 }
 
-int Change(const fs::path& path, const std::function<std::string(std::string)>& change) {
+// 0, or the reason why the file is not replaced: `kChangedMeanwhile` if it no longer is what was read.
+int TakeName(const std::string& temporary, const fs::path& path, const Content& old) {
+    if (ReadAll(path).text != old.text) return kChangedMeanwhile;
+    if (::rename(temporary.c_str(), path.c_str()) == 0) return 0;
+    return errno == ENOENT ? kChangedMeanwhile : errno;  // another run took it for a leftover
+}
+
+int Replace(const fs::path& path, const Content& old, std::string_view text) {
+    std::string temporary = path.string().append(kNewText).append("XXXXXX");
+    int error = WriteNew(temporary, text, old.mode);
+    if (error == 0) error = TakeName(temporary, path, old);
+    if (error != 0) ::unlink(temporary.c_str());
+    return error;
+}
+
+int TryToChange(const fs::path& path, const std::function<std::string(std::string)>& change) {
     if (const int error = MakeFolders(path.parent_path()); error != 0) return error;
     const Descriptor folder(::open(path.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.IsOpen()) Lock(folder);
+    if (folder.IsOpen() && Lock(folder)) RemoveLeftovers(path);
     const Content old = ReadAll(path);
     if (old.error != 0) return old.error;
     const std::string text = change(old.text);
-    return text == old.text ? 0 : Replace(path, text, old.mode, folder);
+    if (text == old.text) return 0;
+    if (text.size() > kLargestFile) return EFBIG;
+    const int error = Replace(path, old, text);
+    if (error == 0 && folder.IsOpen()) ::fsync(folder.Number());
+    return error;
+}
+
+int Change(const fs::path& path, const std::function<std::string(std::string)>& change) {
+    int error = kChangedMeanwhile;
+    for (int tries = 0; tries < kTries && error == kChangedMeanwhile; ++tries) error = TryToChange(path, change);
+    return error;
 }
 
 }  // namespace

@@ -1,12 +1,13 @@
-// The new text is written next to the old file, flushed to disk, and then renamed over it. Runs of the game wait for
-// each other with a mutex, which Windows releases when its holder ends.
+// The new text is written beside the old one, brought to the disk, and then takes the old one's name. Runs of the game
+// wait for each other by a mutex, which Windows releases when its holder is ended. What a save that was ended has left
+// is removed by the next one.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <windows.h>
 
-#include <algorithm>
 #include <array>
 #include <cwchar>
+#include <string>
 #include <system_error>
 
 namespace prismfall {
@@ -19,6 +20,9 @@ constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes;
 constexpr DWORD kLongestWait = 2000;           // milliseconds, for another run; a save takes a few
 constexpr int kTries = 50;                     // while a virus scanner, or a run that is being terminated, holds a file
 constexpr DWORD kNextTry = 20;                 // milliseconds
+constexpr int kMerges = 20;                    // while other runs replace the file
+constexpr DWORD kChangedMeanwhile = ERROR_RETRY;
+constexpr const wchar_t* kNewText = L".new-";  // between the file's name and the number of the run that writes it
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 class Handle {
@@ -39,7 +43,8 @@ class Handle {
 
 class Lock {
   public:
-    // If it is held for so long that its holder must have been stopped, it is no longer waited for.
+    // One that is held for so long that its holder is stopped or has a very slow disk is not waited for: whoever comes
+    // second sees that the file is another one and begins anew.
     Lock() : mutex(CreateMutexW(nullptr, FALSE, L"Local\\Prismfall settings")) {
         const DWORD outcome = mutex.IsOpen() ? WaitForSingleObject(mutex.Get(), kLongestWait) : WAIT_FAILED;
         isHeld = outcome == WAIT_OBJECT_0 || outcome == WAIT_ABANDONED;
@@ -101,32 +106,56 @@ bool TakeName(const fs::path& from, const fs::path& to) {
     return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
-// Why the file is unchanged, or ERROR_SUCCESS.
-DWORD Replace(const fs::path& path, const std::string& text) {
+// Removes what saves that were ended have left. What another run is writing cannot be removed.
+void RemoveLeftovers(const fs::path& path) {
+    const std::wstring beginning = path.filename().wstring() + kNewText;
+    std::error_code error;
+    for (fs::directory_iterator file(path.parent_path(), error), end; !error && file != end; file.increment(error)) {
+        if (file->path().filename().wstring().starts_with(beginning)) DeleteFileW(file->path().c_str());
+    }
+}
+
+// The reason why the file is not replaced, or ERROR_SUCCESS; `kChangedMeanwhile` if it no longer is what was read.
+DWORD TryToReplace(const fs::path& path, const fs::path& temporary, const std::string& old, const std::string& text) {
+    if (!WriteAll(temporary, text)) return GetLastError();
+    if (ReadAll(path).text != old) return kChangedMeanwhile;
+    if (TakeName(temporary, path)) return ERROR_SUCCESS;
+    const DWORD error = GetLastError();
+    return error == ERROR_FILE_NOT_FOUND ? kChangedMeanwhile : error;  // another run took it for a leftover
+}
+
+DWORD Replace(const fs::path& path, const std::string& old, const std::string& text) {
     fs::path temporary = path;
-    temporary += ".new";
+    temporary += kNewText + std::to_wstring(GetCurrentProcessId());
     DWORD error = ERROR_SUCCESS;
     for (int i = 0; i < kTries; ++i) {
-        if (WriteAll(temporary, text) && TakeName(temporary, path)) return ERROR_SUCCESS;
-        error = GetLastError();
+        error = TryToReplace(path, temporary, old, text);
         if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) break;
         Sleep(kNextTry);
     }
-    DeleteFileW(temporary.c_str());
+    if (error != ERROR_SUCCESS) DeleteFileW(temporary.c_str());
     return error;
 }
 
 std::error_code SystemError(DWORD error) { return {static_cast<int>(error), std::system_category()}; }
 
-std::error_code Change(const fs::path& path, const std::function<std::string(std::string)>& change) {
+std::error_code TryToChange(const fs::path& path, const std::function<std::string(std::string)>& change) {
     std::error_code error;
     fs::create_directories(path.parent_path(), error);
     if (error) return error;
     const Lock lock;
+    RemoveLeftovers(path);
     const Content old = ReadAll(path);
     if (old.error != ERROR_SUCCESS) return SystemError(old.error);
     const std::string text = change(old.text);
-    return text == old.text ? std::error_code() : SystemError(Replace(path, text));
+    if (text == old.text) return {};
+    return SystemError(text.size() > kLargestFile ? ERROR_FILE_TOO_LARGE : Replace(path, old.text, text));
+}
+
+std::error_code Change(const fs::path& path, const std::function<std::string(std::string)>& change) {
+    std::error_code error = SystemError(kChangedMeanwhile);
+    for (int i = 0; i < kMerges && error == SystemError(kChangedMeanwhile); ++i) error = TryToChange(path, change);
+    return error;
 }
 
 }  // namespace

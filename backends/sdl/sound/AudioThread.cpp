@@ -5,33 +5,44 @@
 
 #include <future>
 #include <memory>
+#include <system_error>
 #include <utility>
 
 namespace prismfall {
 
 AudioThread::~AudioThread() { Finish(std::chrono::hours(1)); }
 
-void AudioThread::Post(Task task) {
+bool AudioThread::Post(Task task) {
+    if (ending || !Start()) return false;  // `ending` is this thread's to change
     {
         const std::lock_guard lock(mutex);
-        if (ending) return;
         tasks.push_back(std::move(task));
     }
     changed.notify_all();
-    if (thread.joinable()) return;
-    thread = std::thread([this] {
-        Run();
-        SDL_TLSCleanup();  // SDL keeps the last error of each thread, and does not see this one end
-    });
+    return true;
+}
+
+// The system refuses when a user has as many threads as are allowed, or memory is short.
+bool AudioThread::Start() {
+    if (thread.joinable()) return true;
+    try {
+        thread = std::thread([this] {
+            Run();
+            SDL_TLSCleanup();  // SDL keeps the last error of each thread, and does not see this one end
+        });
+    } catch (const std::system_error&) {
+        return false;
+    }
+    return true;
 }
 
 bool AudioThread::Call(Task task, std::chrono::milliseconds limit) {
     const auto done = std::make_shared<std::promise<void>>();
-    Post([done, task = std::move(task)] {
+    const bool isPosted = Post([done, task = std::move(task)] {
         task();
         done->set_value();
     });
-    return done->get_future().wait_for(limit) == std::future_status::ready;
+    return isPosted && done->get_future().wait_for(limit) == std::future_status::ready;
 }
 
 void AudioThread::RunLater(std::optional<std::chrono::milliseconds> delay, Task task) {

@@ -21,10 +21,11 @@ class AudioThread {
     AudioThread& operator=(const AudioThread&) = delete;
     ~AudioThread();
 
-    // Runs a task as soon as those before it are done. The first one starts the thread.
-    void Post(Task task);
-    // The same, but returns true when the task is done, or false if it is not done within `limit`; then it is done
-    // later, so what it refers to must stay alive.
+    // Runs a task as soon as those before it are done. The thread begins with the first one. False if the system gives
+    // none, or after `Finish`: the task is forgotten then.
+    bool Post(Task task);
+    // Runs a task likewise and returns true when it is done, or false if it is not done within `limit`; it may be done
+    // later then, so what it refers to must last.
     bool Call(Task task, std::chrono::milliseconds limit);
     // Only within a task: schedules another task after some time, replacing the one scheduled before. Nothing means
     // none.
@@ -34,6 +35,7 @@ class AudioThread {
     bool Finish(std::chrono::milliseconds limit);
 
   private:
+    bool Start();
     void Run();
 
     std::mutex mutex;

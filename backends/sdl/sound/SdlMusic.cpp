@@ -4,13 +4,15 @@
 #include <algorithm>
 #include <cmath>
 #include <mutex>
+#include <utility>
 
 namespace prismfall {
 
 namespace {
 
 constexpr int kFullVolume = 1000;
-constexpr int kDecodedAhead = 12;  // times the requested amount; many frames at once cost half as much as single ones
+constexpr int kTailsPerSecond = 10;  // as much silence has SDL's resampler give out all that it holds back
+constexpr int kDecodedAhead = 12;    // times what is asked for; many frames at once cost half of what single ones do
 
 }  // namespace
 
@@ -121,14 +123,25 @@ void SdlMusic::DecodeAhead(int wanted) {
         if (!block.empty()) {
             if (SDL_AudioStreamPut(stream.get(), block.data(), static_cast<int>(block.size())) != 0) return;
             rewound = false;
+            isRestGivenOut = false;
             continue;
         }
         const bool isOver = state == State::PlayingOnce || rewound;
-        if (isOver) SDL_AudioStreamFlush(stream.get());
+        if (isOver && !std::exchange(isRestGivenOut, true)) GiveOutRest();
         if (isOver || SDL_AudioStreamAvailable(stream.get()) >= wanted) return;
         file.Rewind();
         rewound = true;
     }
+}
+
+// Flushing alone leaves the last 20 milliseconds in the stream if the device has another rate.
+void SdlMusic::GiveOutRest() {
+    if (file.Rate() != streamForm.freq) {
+        const int samples = file.Rate() / kTailsPerSecond * file.Channels();
+        const std::vector<std::int16_t> silence(static_cast<std::size_t>(samples));
+        SDL_AudioStreamPut(stream.get(), silence.data(), samples * static_cast<int>(sizeof(std::int16_t)));
+    }
+    SDL_AudioStreamFlush(stream.get());
 }
 
 }  // namespace prismfall

@@ -49,6 +49,7 @@ class SdlMusic {
     void Play(State newState);
     void FitStream();
     void DecodeAhead(int wanted);
+    void GiveOutRest();
 
     AudioDevice& device;
     // Protected by the device's lock, since SDL's thread uses them too:
@@ -56,6 +57,7 @@ class SdlMusic {
     std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's format to the device's; null at first
     SDL_AudioSpec streamForm{};                           // the device's format, as the stream knows it
     std::vector<std::uint8_t> next;
+    bool isRestGivenOut = false;  // what the stream held back at the track's end
     State state = State::Stopped;
     int volume = SDL_MIX_MAXVOLUME;
 };

@@ -105,7 +105,13 @@ TEST_F(PlayingTest, MusicLoopsWithoutASeamAndPlaysOnFromWhereItPaused) {
     EXPECT_TRUE(IsSilence(Take(music, kChunk)));
 }
 
-TEST_F(PlayingTest, VolumeScalesTheTracksOwn) {
+TEST_F(PlayingTest, MusicPlaysToItsEndOnADeviceOfAnotherRate) {
+    setenv("SDL_AUDIO_FREQUENCY", "22050", 1);
+    EXPECT_NEAR(static_cast<double>(WholeTrack().size()), kTrackSize / 2, 50);
+    unsetenv("SDL_AUDIO_FREQUENCY");
+}
+
+TEST_F(PlayingTest, VolumeIsAShareOfTheTracksOwn) {
     ASSERT_EQ(music.Open(kTrack), "");
     const auto energy = [&](int volume) {
         music.SetVolume(volume);

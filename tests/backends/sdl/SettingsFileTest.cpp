@@ -26,6 +26,11 @@ std::uint32_t Seed() {
     return given != nullptr ? static_cast<std::uint32_t>(std::strtoul(given, nullptr, 10)) : std::random_device{}();
 }
 
+// The file itself included.
+std::ptrdiff_t FilesBeside(const fs::path& file) {
+    return std::distance(fs::directory_iterator(file.parent_path()), fs::directory_iterator());
+}
+
 std::string Write(const fs::path& file, const std::vector<SettingValue>& values) {
     return SettingsFile(file).Change([&](const SettingsReader&) { return values; });
 }
@@ -86,6 +91,28 @@ TEST_F(SettingsFileTest, CopiesKilledWhileSavingLoseNothingOfEachOther) {
             done[i] = count;
         }
     }
+    save("0");
+    EXPECT_EQ(FilesBeside(path), 1) << "what killed saves have left is cleared away";
+}
+
+// What the disk does while it is to keep a text.
+std::function<void()> whenSyncing;
+
+TEST_F(SettingsFileTest, ASlowSaveLosesNothingOfAnothersAndKeepsWhatItWrites) {
+    whenSyncing = [this] {
+        whenSyncing = {};
+        EXPECT_EQ(Write(path, {{"Copy", "2", "True"}}), "");
+        EXPECT_EQ(FilesBeside(path), 2);
+    };
+    ASSERT_EQ(Write(path, {{"Copy", "1", "True"}}), "");
+    EXPECT_EQ(Get("Copy", "1") + Get("Copy", "2"), "TrueTrue");
+}
+
+TEST_F(SettingsFileTest, NothingIsSavedThatCouldNotBeReadAgain) {
+    const std::string most((1 << 20) - 100, 'x');
+    ASSERT_EQ(Write(path, {{"General", "Music", most}}), "");
+    EXPECT_NE(Write(path, {{"General", "Sound", std::string(100, 'x')}}), "");
+    EXPECT_EQ(Get("General", "Music"), most);
 }
 
 TEST_F(SettingsFileTest, AFullDiskKeepsTheOldFileAndLeavesNothingElse) {
@@ -101,7 +128,7 @@ TEST_F(SettingsFileTest, AFullDiskKeepsTheOldFileAndLeavesNothingElse) {
     waitpid(writer, &status, 0);
     EXPECT_EQ(WEXITSTATUS(status), 1) << "the failure must be reported";
     EXPECT_EQ(Get("General", "Music"), "True");
-    EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), fs::directory_iterator()), 1);
+    EXPECT_EQ(FilesBeside(path), 1);
 }
 
 TEST_F(SettingsFileTest, NewFoldersArePrivateAndAPathThatIsNoFolderIsReported) {
@@ -127,3 +154,9 @@ TEST_F(SettingsFileTest, ALinkIsFollowed) {
 
 }  // namespace
 }  // namespace prismfall
+
+// In place of the system's. There is no disk below these tests.
+extern "C" int fsync(int) {
+    if (prismfall::whenSyncing) prismfall::whenSyncing();
+    return 0;
+}
