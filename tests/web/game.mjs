@@ -5,7 +5,9 @@ import { after } from 'node:test';
 import { serve } from '../../backends/web/page/serve.mjs';
 import { sleep, startBrowser } from './browsers.mjs';
 
-/** A browser, and the page served to it until the tests are over, except for the paths given as missing. */
+const PATIENCE = 180_000; // ms; a solution is played in a third of that on an idle machine
+
+/** A browser, and the page served to it until the tests are over, but for the paths that are said to be missing. */
 export async function startTests(name, isMissing) {
     const [site, browser] = await Promise.all([serve('build/web', isMissing), startBrowser(name)]);
     after(async () => {
@@ -29,7 +31,7 @@ export class Game {
 
     /** Waits until an expression evaluated in the page gives something true, and returns that. */
     async until(what, question, ...values) {
-        for (const end = Date.now() + 60_000; Date.now() < end; await sleep(50)) {
+        for (const end = Date.now() + PATIENCE; Date.now() < end; await sleep(50)) {
             const answer = await this.page.evaluate(question, ...values);
             if (answer) return answer;
         }
@@ -85,7 +87,8 @@ export class Game {
 
     async untilMoved() {
         const before = await this.surface();
-        for (let i = 0; i < 100; ++i, await sleep(50)) if ((await this.surface()) !== before) return;
+        for (const end = Date.now() + PATIENCE; Date.now() < end; await sleep(50))
+            if ((await this.surface()) !== before) return;
         assert.fail('nothing moves');
     }
 

@@ -217,7 +217,7 @@ test('going back is Esc, closes a dialog, and leaves from the main menu with the
     await game.placeOf('Arcade');
     await sleep(500);
     await back();
-    for (let i = 0; i < 100 && game.page.page.url() !== 'about:blank'; ++i) await sleep(100);
+    for (let i = 0; i < 600 && game.page.page.url() !== 'about:blank'; ++i) await sleep(100);
     assert.equal(game.page.page.url(), 'about:blank', 'the page is left');
 });
 

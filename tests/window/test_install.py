@@ -18,7 +18,7 @@ class Installed(harness.WindowTest):
     def test_any_prefix(self):
         prefix = self.folder() / "a $home & 100% mine"
         subprocess.run(["cmake", "--install", self.program.parent, "--prefix", prefix], check=True, stdout=subprocess.DEVNULL)
-        entry = (prefix / "share/applications/org.prismfall.Prismfall.desktop").read_text()
+        entry = (prefix / "share/applications/org.prismfall.prismfall.desktop").read_text()
         line = next(line for line in entry.splitlines() if line.startswith("Exec="))
         word = line.removeprefix("Exec=").replace("\\\\", "\\").replace("%%", "%")
         command = subprocess.check_output(["sh", "-c", f"printf %s {word}"], text=True)

@@ -94,11 +94,13 @@ class Programs(WindowsTest):
             errors = (folder / f"{name}.err").read_bytes().replace(b"\r", b"")
             self.assertEqual((folder / f"{name}.out").read_bytes() + errors, text, name)
 
-    def test_nothing_is_needed_that_windows_10_lacks(self):
+    def test_programs_are_guarded_and_need_nothing_that_windows_10_lacks(self):
         for program in (*BUILT.glob("*.exe"), ROOT / "build/windows-folder/libmpg123.dll"):
             headers = subprocess.check_output(["x86_64-w64-mingw32-objdump", "-p", program], text=True)
             needed = {name.lower().removesuffix(".dll") for name in re.findall(r"DLL Name: (\S+)", headers)}
             self.assertLessEqual(needed, set(LIBRARIES.split()), program.name)
+            for guard in ("HIGH_ENTROPY_VA", "DYNAMIC_BASE", "NX_COMPAT"):
+                self.assertIn(guard, told, program.name)
 
     def test_a_kill_in_a_save_leaves_a_whole_file(self):
         settings = WineSettings(self.user)

@@ -21,6 +21,7 @@ import png  # noqa: E402  which the assets are drawn with
 
 ENDING = []  # what to end, newest last
 PAUSE = 0.01  # between two looks at a condition
+PATIENCE = 8  # how many times as long as on an idle machine something may take on a busy one
 
 
 def end_all():
@@ -37,7 +38,8 @@ class Missing(Exception):
 
 
 def wait_for(condition, seconds=5, what="the condition"):
-    """Calls `condition` until it returns something true, and returns that."""
+    """Calls `condition` until it gives something true, and gives that back. `seconds` are those of an idle machine."""
+    seconds *= PATIENCE
     end = time.monotonic() + seconds
     while True:
         answer = condition()
@@ -152,7 +154,7 @@ class Desktop:
             ENDING.remove(self)
 
     def output(self, *command):
-        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=20).stdout
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=120).stdout
 
     def mouse(self, *words):
         self.output("xdotool", *[str(word) for word in words])
