@@ -19,6 +19,8 @@ struct SuspendedStack {
 std::array<std::uint8_t, 65536> room;
 SuspendedStack stack;
 
+prismfall::WebPlatform* machine = nullptr;  // while the program runs
+
 }  // namespace
 
 extern "C" {
@@ -37,6 +39,13 @@ __attribute__((export_name("run"))) void Run() {
     prismfall::WebPlatform platform;
     prismfall::VMain main(platform);
     prismfall::MakeMainWindow(main);
+    machine = &platform;
     platform.Run(main.window);
+    machine = nullptr;
+}
+
+// The page calls this once a frame while the program waits.
+__attribute__((export_name("present"))) void Present() {
+    if (machine != nullptr) machine->Present();
 }
 }

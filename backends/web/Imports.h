@@ -112,7 +112,9 @@ extern "C" {
 // Milliseconds from some fixed moment; never runs backwards.
 PAGE_IMPORT("now") double Now();
 // Returns when the clock has reached `until`, when the page was hidden or shown again, and, if `forInput` is not 0, as
-// soon as there is an event to take. Lets the page go on even if there is nothing to wait for.
+// soon as there is an event to take. Lets the page go on even if there is nothing to wait for. Before the page's next
+// frame, and at once if the page is hidden, the page calls the program's `present`, which sends what has changed in the
+// picture.
 PAGE_IMPORT("wait") void Wait(double until, std::int32_t forInput);
 // Takes the oldest pending event. 0 if there is none.
 PAGE_IMPORT("takeEvent") std::int32_t TakeEvent(Event* event);

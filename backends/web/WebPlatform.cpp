@@ -10,7 +10,8 @@ namespace prismfall {
 namespace {
 
 constexpr int kFullVolume = 1000;
-constexpr double kYieldRest = 1;  // milliseconds
+constexpr double kYieldRest = 1;      // milliseconds
+constexpr long kPixelsPerCall = 500;  // what it costs the page to take another box, in pixels
 constexpr double kLongestWait = 60'000;
 constexpr double kStartNumbers = 1LL << 53;  // as many as there are random numbers of the page
 constexpr std::size_t kRateAt = 28;          // in a wave file of plain samples: bytes a second
@@ -37,6 +38,23 @@ double WaveMilliseconds(std::span<const std::byte> head) {
     return 1000.0 * NumberAt(head, kLengthAt) / NumberAt(head, kRateAt);
 }
 
+// Puts boxes together that are cheaper to send as one.
+void Merge(std::vector<PixelBox>& boxes) {
+    const auto kept = boxes.begin();
+    auto end = kept;
+    for (const PixelBox box : boxes) {
+        const auto isNear = [&box](const PixelBox& other) {
+            return Area(BoundingBox(other, box)) <= Area(other) + Area(box) + kPixelsPerCall;
+        };
+        if (const auto near = std::find_if(kept, end, isNear); near != end) {
+            *near = BoundingBox(*near, box);
+        } else {
+            *end++ = box;
+        }
+    }
+    boxes.erase(end, boxes.end());
+}
+
 std::string StoredSettings() {
     std::string text(page::OpenSettings(), '\0');
     page::ReadSettings(text.data());
@@ -53,14 +71,13 @@ WebPlatform::WebPlatform()
 void WebPlatform::Run(Window& mainWindow) {
     main = &mainWindow;
     Open(mainWindow, {});
-    Refresh();
+    Present();
     timers.Handle([&mainWindow] {
         if (mainWindow.on.activate) mainWindow.on.activate();
     });
     while (!ended) {
         Work();
         timers.Handle([this] { DeliverMinimised(); });
-        Refresh();
         Rest();
     }
 }
@@ -69,7 +86,6 @@ void WebPlatform::Work() {
     NoteVisibility();
     timers.TickDue();
     HandleEvents();
-    Refresh();
 }
 
 // One event after the other: each may close the window that the next one was meant for.
@@ -115,13 +131,11 @@ void WebPlatform::LetEventsRun() {
     if (ended) return;
     NoteVisibility();
     const bool worked = timers.LetEventsRun([this] { return HandleEvents(); });
-    Refresh();
     if (!worked && !ended) page::Wait(page::Now() + kYieldRest, 1);
 }
 
-void WebPlatform::PaintFor(double length) {
+void WebPlatform::WaitFor(double length) {
     const GameTime::Standstill standstill(time);
-    Refresh();
     const double end = page::Now() + length;
     while (!ended && page::Now() < end) {
         page::Wait(end, 0);
@@ -145,7 +159,7 @@ void WebPlatform::DeliverMinimised() {
 
 // --- The picture.
 
-void WebPlatform::Refresh() {
+void WebPlatform::Present() {
     if (ended) return;
     SendSurface();
     for (const auto& window : shown) window->Refresh();
@@ -153,6 +167,7 @@ void WebPlatform::Refresh() {
 
 void WebPlatform::SendSurface() {
     layer.TakeDamage(damage);
+    Merge(damage);
     for (const PixelBox& box : damage) {
         const int width = box.right - box.left;
         pixels.clear();
@@ -190,6 +205,7 @@ bool WebPlatform::ShowModally(Window& dialog) {
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     closeBoxUsed = false;
     if (dialog.on.activate) dialog.on.activate();
+    Present();  // a screen reader begins to read what is there
     for (Work(); !ended && dialog.visible && !closeBoxUsed; Work()) Rest();
     timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
@@ -223,7 +239,6 @@ void WebPlatform::ShowMessageBox(std::string_view text) {
     if (ended) return;
     const GameTime::Standstill standstill(time);
     page::OpenMessage(text.data(), static_cast<std::uint32_t>(text.size()));
-    Refresh();
     page::Event event;
     for (;;) {
         while (page::TakeEvent(&event) != 0)
@@ -234,7 +249,7 @@ void WebPlatform::ShowMessageBox(std::string_view text) {
 }
 
 void WebPlatform::EndProgram() {
-    Refresh();
+    Present();
     ended = true;
     timers.StopAll();
     page::EndProgram();
@@ -284,7 +299,7 @@ void WebPlatform::TellOfSaving(bool isWritten) {
 void WebPlatform::PlayWave(Wave wave, bool wait) {
     if (ended) return;
     page::PlaySound(wave.id);
-    if (wait) PaintFor(WaveMilliseconds(wave.bytes));
+    if (wait) WaitFor(WaveMilliseconds(wave.bytes));
 }
 
 void WebPlatform::MusicClose() { page::CloseMusic(); }

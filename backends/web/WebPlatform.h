@@ -1,6 +1,6 @@
 // A browser's page as the machine behind the game. The program runs in a loop of its own, as on a desktop: it takes
-// input from the page, lets due timers tick, tells the page what has changed, and is suspended in the one call that
-// waits.
+// input from the page, lets due timers tick, and is suspended in the one call that waits. The page asks what has
+// changed once a frame, however many timers have ticked since the last.
 #pragma once
 
 #include <memory>
@@ -25,6 +25,9 @@ class WebPlatform final : public Platform {
 
     // Shows the main window and lets events run until the program ends.
     void Run(Window& main);
+
+    // Sends the page what has changed in the picture since the last call. May be called while the program waits.
+    void Present();
 
     void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
     void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override;
@@ -71,11 +74,10 @@ class WebPlatform final : public Platform {
     bool HandleEvents();  // whether there were any
     void Handle(const page::Event& event);
     void Rest();
-    void PaintFor(double length);
+    void WaitFor(double length);
     void NoteVisibility();
     void DeliverMinimised();
     void Open(Window& window, Place place);
-    void Refresh();
     void SendSurface();
     void TellOfSaving(bool isWritten);
 

@@ -74,11 +74,17 @@ export class Game {
 
     noDialog = () => this.until('the dialog to go', () => document.querySelector('dialog') === null);
 
-    /** The painted layer, as a hash of its pixels: red, green, blue and opacity, row by row. */
+    /** The painted layer on black, as a hash of its pixels: red, green, blue and opacity, row by row. */
     async surface() {
         const read = async () => {
-            const canvas = document.querySelector('canvas');
-            const { data } = canvas.getContext('2d').getImageData(0, 0, canvas.width, canvas.height);
+            const [below, above] = document.querySelectorAll('canvas');
+            const { width, height } = below;
+            const context = Object.assign(document.createElement('canvas'), { width, height }).getContext('2d');
+            context.drawImage(below, 0, 0);
+            context.drawImage(above, parseInt(above.style.left), parseInt(above.style.top));
+            context.globalCompositeOperation = 'destination-over';
+            context.fillRect(0, 0, width, height);
+            const { data } = context.getImageData(0, 0, width, height);
             const digest = new Uint8Array(await crypto.subtle.digest('SHA-256', data));
             return [...digest].map((byte) => byte.toString(16).padStart(2, '0')).join('');
         };

@@ -1,5 +1,5 @@
-// Paints what prismfall-headless prints with `paint on` and writes the surface's pixels, red, green, blue and opacity,
-// to standard output: what the page's canvas must contain.
+// Paints what prismfall-headless prints with `paint on` on black and writes the pixels, red, green, blue and opacity,
+// to standard output: what a page's canvases have to show.
 #include <array>
 #include <cstdio>
 #include <iostream>
@@ -24,7 +24,7 @@ int main() {
     }
     for (int y = 0; y < prismfall::Surface::kHeight; ++y) {
         for (int x = 0; x < prismfall::Surface::kWidth; ++x) {
-            const std::uint32_t pixel = surface.PixelAt(x, y);
+            const std::uint32_t pixel = surface.PixelAt(x, y) | 0xFF000000U;
             for (const int shift : {16, 8, 0, 24}) std::putchar(static_cast<int>(pixel >> shift & 0xFF));
         }
     }

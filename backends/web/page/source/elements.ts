@@ -20,7 +20,8 @@ class Shown {
     readonly input: HTMLInputElement | undefined;
     readonly words: HTMLElement | undefined;
     readonly unseen: HTMLElement | undefined;
-    lastAnnounced = '';
+    record: Partial<ElementRecord> = {};
+    spokenLast = '';
 
     constructor(record: ElementRecord, place: number) {
         switch (record.kind) {
@@ -71,25 +72,27 @@ export class Elements {
     show(place: number, record: ElementRecord): void {
         const element = (this.shown[place] ??= this.make(place, record));
         const { node, image, input, words, unseen } = element;
-        node.hidden = !record.visible;
-        Object.assign(node.style, {
-            left: `${record.left}px`,
-            top: `${record.top}px`,
-            width: `${this.widthOf(record)}px`,
-            height: `${record.height}px`,
-            color: record.colour,
-        });
-        if (node instanceof HTMLButtonElement) node.disabled = !record.enabled;
+        const last = element.record;
+        element.record = record;
+        const isNew = (...fields: (keyof ElementRecord)[]) => fields.some((field) => record[field] !== last[field]);
+        if (isNew('visible')) node.hidden = !record.visible;
+        if (isNew('left')) node.style.left = `${record.left}px`;
+        if (isNew('top')) node.style.top = `${record.top}px`;
+        if (isNew('left', 'width', 'wraps')) node.style.width = `${this.widthOf(record)}px`;
+        if (isNew('height')) node.style.height = `${record.height}px`;
+        if (isNew('colour')) node.style.color = record.colour;
+        if (isNew('enabled') && node instanceof HTMLButtonElement) node.disabled = !record.enabled;
         if (image) {
             this.pictures.show(image, record.picture);
-            image.alt = record.accessibleName;
+            if (isNew('spoken')) image.alt = record.spoken;
         }
         if (input) {
+            // A browser marks what is clicked by itself.
             input.checked = record.checked;
             input.disabled = !record.enabled;
         }
-        if (unseen) unseen.textContent = record.accessibleName && `${record.accessibleName} `;
-        if (words) setText(node, words, record);
+        if (unseen && isNew('spoken')) unseen.textContent = record.spoken && `${record.spoken} `;
+        if (words && isNew('text', ...looksOfText)) setText(node, words, record);
         this.speak(element, record);
     }
 
@@ -126,6 +129,8 @@ export class Elements {
         element.lastAnnounced = words;
     }
 }
+
+const looksOfText = ['ground', 'family', 'points', 'bold', 'italic', 'wraps', 'fitHeight'] as const;
 
 function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): void {
     words.textContent = record.text;

@@ -2,6 +2,7 @@
 // while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
 // second build that unwinds its own stack and rewinds it.
 import { build } from './build';
+import { Frames } from './frames';
 import type { Music } from './music';
 import type { Notices } from './notices';
 import { checkRecords, decodeText, readElement, readWindow, writeEvent } from './records';
@@ -27,6 +28,7 @@ interface Exports {
     readonly memory: WebAssembly.Memory;
     readonly _initialize: () => void;
     readonly run: () => void;
+    readonly present: () => void;
     readonly recordSizes: () => number;
     readonly suspendedStack: () => number;
     readonly asyncify_start_unwind: (stack: number) => void;
@@ -108,7 +110,14 @@ async function instantiate(
 ): Promise<Exports> {
     const { waiting, windows, surface, sounds, music, settings, notices, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
-    const wait = suspending((until, forInput) => waiting.wait(until, forInput !== 0));
+    const frames = new Frames(
+        () => program.present(),
+        (error) => waiting.fail(error),
+    );
+    const wait = suspending((until, forInput) => {
+        frames.ask();
+        return waiting.wait(until, forInput !== 0);
+    });
     const page = {
         wait,
         now: () => performance.now(),

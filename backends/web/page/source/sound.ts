@@ -5,11 +5,15 @@ import { onPress } from './gestures';
 import type { Notices } from './notices';
 
 const decodingRate = 44100;
+const openTime = 2000; // milliseconds after a press or a sound; a device that stays open costs power
 
 export class Sounds {
     private readonly sounds = new Map<number, AudioBuffer>();
     private context: AudioContext | undefined;
     private playing: AudioBufferSourceNode | undefined;
+    /** Whether the browser has let the context run. */
+    private isAllowed = false;
+    private closing = 0;
 
     constructor(private readonly notices: Notices) {
         onPress(() => this.wake());
@@ -33,11 +37,19 @@ export class Sounds {
     play(id: number): void {
         this.stop();
         const sound = this.sounds.get(id);
-        if (!sound || this.context?.state !== 'running' || document.hidden) return;
+        if (!sound || !this.context || !this.isAllowed || document.hidden) return;
         this.playing = this.context.createBufferSource();
         this.playing.buffer = sound;
         this.playing.connect(this.context.destination);
         this.playing.start();
+        this.open(1000 * sound.duration);
+    }
+
+    /** Opens the device for a sound of that many milliseconds. */
+    private open(duration = 0): void {
+        void this.context?.resume();
+        clearTimeout(this.closing);
+        this.closing = setTimeout(() => void this.context?.suspend(), duration + openTime);
     }
 
     private async loadOne(decoder: OfflineAudioContext, id: number): Promise<void> {
@@ -48,14 +60,23 @@ export class Sounds {
 
     private wake(): void {
         try {
-            this.context ??= new AudioContext();
-            void this.context.resume();
+            this.context ??= this.makeContext();
+            this.open();
         } catch {
             // No device: it stays silent.
         }
     }
 
+    private makeContext(): AudioContext {
+        const context = new AudioContext();
+        const noteState = () => (this.isAllowed ||= context.state === 'running');
+        context.addEventListener('statechange', noteState);
+        noteState();
+        return context;
+    }
+
     private noteVisibility(): void {
-        void (document.hidden ? this.context?.suspend() : this.context?.resume());
+        if (document.hidden) void this.context?.suspend();
+        else this.open();
     }
 }

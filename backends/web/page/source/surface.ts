@@ -1,17 +1,48 @@
-// The painted layer of the main window: a canvas of one pixel for each of the game's, whatever its size on the page.
+// The painted layer of the main window: a pixel for each of the game's, whatever its size on the page. Nearly all of it is
+// the playfield, where the background is black. That part is a canvas of its own that nothing shines through, which
+// browsers put on the screen with far less work; the canvas beneath it shows what is painted around it.
+import { add, make } from './elements';
+
+const field = { left: 16, top: 18, right: 668, bottom: 584 };
+
+// What is painted this near to the field's edge is on both canvases, since at some scales both can be seen there.
+const seam = 4;
+
 export class Surface {
-    readonly canvas = document.createElement('canvas');
-    private readonly context: CanvasRenderingContext2D | null;
+    /** Both canvases, one on the other. */
+    readonly node = make('div', 'surface');
+    private readonly below: CanvasRenderingContext2D | null;
+    private readonly above: CanvasRenderingContext2D | null;
 
     constructor(width: number, height: number) {
-        this.canvas.width = width;
-        this.canvas.height = height;
-        this.canvas.setAttribute('role', 'img');
-        this.canvas.setAttribute('aria-label', 'Playfield');
-        this.context = this.canvas.getContext('2d', { willReadFrequently: true });
+        this.node.setAttribute('role', 'img');
+        this.node.setAttribute('aria-label', 'Playfield');
+        this.below = this.addCanvas(0, 0, width, height, true);
+        this.above = this.addCanvas(field.left, field.top, field.right - field.left, field.bottom - field.top, false);
     }
 
     show(pixels: Uint8ClampedArray<ArrayBuffer>, left: number, top: number, width: number): void {
-        this.context?.putImageData(new ImageData(pixels, width), left, top);
+        const image = new ImageData(pixels, width);
+        this.above?.putImageData(image, left - field.left, top - field.top);
+        if (isNearEdge(left, top, left + width, top + image.height)) this.below?.putImageData(image, left, top);
     }
+
+    private addCanvas(
+        left: number,
+        top: number,
+        width: number,
+        height: number,
+        alpha: boolean,
+    ): CanvasRenderingContext2D | null {
+        const canvas = add(this.node, make('canvas'));
+        Object.assign(canvas, { width, height });
+        Object.assign(canvas.style, { left: `${left}px`, top: `${top}px` });
+        return canvas.getContext('2d', { alpha, willReadFrequently: true });
+    }
+}
+
+function isNearEdge(left: number, top: number, right: number, bottom: number): boolean {
+    return (
+        left < field.left + seam || top < field.top + seam || right > field.right - seam || bottom > field.bottom - seam
+    );
 }

@@ -1,18 +1,23 @@
 // The one place where the program stands still: until a moment, an event, or the page's being hidden or shown.
 import { EventKind, type PageEvent } from './records';
 
-// Browsers make nested timers wait four milliseconds at least.
-const shortestTimer = 4;
+// Timers that are set by timers wait four milliseconds at least; those that are set by a message do not.
+const shortestNestedTimer = 4;
+
+interface Pause {
+    readonly resolve: () => void;
+    readonly reject: (error: unknown) => void;
+}
 
 export class Waiting {
     private readonly queue: PageEvent[] = [];
     private readonly channel = new MessageChannel();
-    private turnAsked = false;
     private gone = false;
     private forInput = false;
     private until = 0;
     private timer = 0;
-    private goOn: (() => void) | undefined;
+    private isTurnAsked = false;
+    private pause: Pause | undefined;
 
     constructor() {
         this.channel.port1.onmessage = () => this.turn();
@@ -39,36 +44,52 @@ export class Waiting {
     wait(until: number, forInput: boolean): Promise<void> {
         this.until = until;
         this.forInput = forInput;
-        return new Promise((resolve) => {
-            this.goOn = resolve;
-            const rest = until - performance.now();
-            if (rest < shortestTimer || (forInput && this.queue.length > 0)) {
-                this.askForTurn();
-            } else {
-                this.timer = setTimeout(() => this.end(), Math.ceil(rest));
-            }
+        return new Promise((resolve, reject) => {
+            this.pause = { resolve, reject };
+            if (this.isOver() || this.rest() < shortestNestedTimer) this.askForTurn();
+            else this.setTimer();
         });
     }
 
+    /** Ends the program where it waits. */
+    fail(error: unknown): void {
+        this.endPause()?.reject(error);
+    }
+
+    private rest(): number {
+        return this.until - performance.now();
+    }
+
+    private isOver(): boolean {
+        return this.rest() <= 0 || (this.forInput && this.queue.length > 0);
+    }
+
     private turn(): void {
-        this.turnAsked = false;
-        if (!this.goOn || this.timer !== 0) return;
-        const isOver = performance.now() >= this.until || (this.forInput && this.queue.length > 0);
-        if (isOver) this.end();
-        else this.askForTurn();
+        this.isTurnAsked = false;
+        if (!this.pause || this.timer !== 0) return;
+        if (this.isOver()) this.end();
+        else this.setTimer();
     }
 
     private askForTurn(): void {
-        if (!this.turnAsked) this.channel.port2.postMessage(null);
-        this.turnAsked = true;
+        if (!this.isTurnAsked) this.channel.port2.postMessage(null);
+        this.isTurnAsked = true;
+    }
+
+    private setTimer(): void {
+        this.timer = setTimeout(() => this.end(), Math.ceil(this.rest()));
     }
 
     private end(): void {
+        this.endPause()?.resolve();
+    }
+
+    private endPause(): Pause | undefined {
         clearTimeout(this.timer);
         this.timer = 0;
-        const goOn = this.goOn;
-        this.goOn = undefined;
-        goOn?.();
+        const pause = this.pause;
+        this.pause = undefined;
+        return pause;
     }
 
     private noteVisibility(gone: boolean): void {

@@ -42,7 +42,7 @@ export class Windows {
         background.alt = '';
         background.draggable = false;
         this.pictures.show(background, record.background);
-        if (!dialog) add(root, this.surface.canvas);
+        if (!dialog) add(root, this.surface.node);
         const elements = new Elements(root, this.pictures, this.notices);
         const window = { record, elements, dialog };
         this.windows.set(number, window);

@@ -1,0 +1,33 @@
+// When the picture changes: at most once in each of the browser's frames, however often the program has worked since the
+// last one. A hidden page has no frames; there it changes at once, so that nothing old is seen when it is shown again.
+export class Frames {
+    private isAsked = false;
+
+    /** A frame that cannot be presented is reported to `fail`. */
+    constructor(
+        private readonly present: () => void,
+        private readonly fail: (error: unknown) => void,
+    ) {}
+
+    /** Asks for the next frame. */
+    ask(): void {
+        if (document.hidden) {
+            this.tryPresent();
+            return;
+        }
+        if (this.isAsked) return;
+        this.isAsked = true;
+        requestAnimationFrame(() => {
+            this.isAsked = false;
+            this.tryPresent();
+        });
+    }
+
+    private tryPresent(): void {
+        try {
+            this.present();
+        } catch (error) {
+            this.fail(error);
+        }
+    }
+}
