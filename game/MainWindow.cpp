@@ -58,6 +58,7 @@ void Connect(VMain& main) {
     on.mouseDown = [&main](MouseButton button, float x, float y) { Form_MouseDown(main, button, x, y); };
     on.doubleClick = [&main] { Form_DblClick(main); };
     on.keyDown = [&main](std::int16_t code) { Form_KeyDown(main, code); };
+    on.spots = [&main](SurfaceSpots& spots) { ListSpots(main, spots); };
     on.elementDown = [&main](Element& element, MouseButton button, float x, float y) {
         PressElementOfMain(main, element, button, x, y);
     };

@@ -13,4 +13,8 @@ void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y);
 // The second press of a double click: a left press at the place of the last one, while a game runs.
 void Form_DblClick(VMain& main);
 
+// What keys can choose on the surface: in a game that takes presses the heads of the beams, which then have the keys
+// alone; in the puzzle menu the previews.
+void ListSpots(VMain& main, SurfaceSpots& spots);
+
 }  // namespace prismfall

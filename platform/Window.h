@@ -14,6 +14,33 @@
 
 namespace prismfall {
 
+// A place on the surface that keys can choose and press.
+struct SurfaceSpot {
+    const void* what = nullptr;  // tells it from others, also after it has moved; it is compared and no more
+    float x = 0;                 // where to press, game pixels
+    float y = 0;
+    float width = 0;  // of what is there, around that place; 0 for the head of a beam
+    float height = 0;
+};
+
+struct SurfaceSpots {
+    std::vector<SurfaceSpot> list;  // in the order in which Tab goes through them
+    bool haveKeysAlone = false;     // a game is being played: keys are for the surface and not for the elements
+};
+
+// The place that the player has chosen by keys, in the window.
+struct KeyChoice {
+    const void* what = nullptr;  // null for none
+    bool isShown = false;        // keys are in use, so the place is marked
+    bool isOnSurface = false;    // otherwise it is an element, or a spot on one
+    float left = 0;
+    float top = 0;
+    float width = 0;  // 0 for the head of a beam
+    float height = 0;
+
+    bool operator==(const KeyChoice&) const = default;
+};
+
 enum class MouseButton : std::int16_t { Left = 1, Right = 2 };
 
 constexpr std::int16_t kEscapeKey = 27;
@@ -26,6 +53,8 @@ struct WindowHandlers {
     std::function<void(MouseButton button, float x, float y)> mouseDown;  // on the surface
     std::function<void()> doubleClick;  // the second press of a double click, in place of mouseDown
     std::function<void(std::int16_t code)> keyDown;
+    std::function<void(SurfaceSpots& spots)> spots;  // adds what keys can choose on the surface now
+    std::function<void(Key key)> command;            // a key that is no shortcut of an element
     std::function<void(bool minimised)> resize;
     std::function<void()> queryUnload;  // the window may be about to close; can come more than once, as where a hidden
                                         // page may never be seen again
@@ -46,6 +75,7 @@ struct Window {
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works
     std::vector<Element*> elements;  // stacking order, later ones on top
+    KeyChoice choice;                // see KeyInput.h
     WindowHandlers on;
 
     Window() = default;

@@ -32,6 +32,7 @@ class WindowInput {
     void Close(const Window& window);
     // The window in front, or null.
     Window* Front() const { return windows.empty() ? nullptr : windows.back(); }
+    bool HasInput(const Window& window) const;
 
     // --- What the player does, for a backend that knows places and times. Every button but the left one acts as the
     // right one; a backend translates it so.
@@ -62,7 +63,6 @@ class WindowInput {
         bool isFirst = false;  // of a possible double click
     };
 
-    bool HasInput(const Window& window) const;
     bool IsNearLast(const Window& window, const PressPlace& place) const;
     void Click(const Window& window, Element& element) const;
 

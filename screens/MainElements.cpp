@@ -51,6 +51,10 @@ MainElements::MainElements() {
         PictTut[i].visible = false;
     }
     CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to leaf through the pages
+    CommandPrevious.shortcut = Key::PageUp;
+    CommandNext.shortcut = Key::PageDown;
+    CmdStart.shortcut = kStart.shortcut;
+    cmdPause.shortcut = kPause.shortcut;
     ImagePrismfall.spoken = "Prismfall";
     LabelPuzzlePage.picture = {};
 }

@@ -36,19 +36,21 @@ struct ButtonMeaning {
     ButtonFaces faces;
     std::string_view tag;
     std::string_view spoken;
+    Key shortcut = Key::None;
 };
 
-inline constexpr ButtonMeaning kStart{{"StartUp", "StartDown"}, "", "Start"};
-inline constexpr ButtonMeaning kRestart{{"RestartUp", "RestartDown"}, "Restart", "Restart"};
+inline constexpr ButtonMeaning kStart{{"StartUp", "StartDown"}, "", "Start", Key::R};
+inline constexpr ButtonMeaning kRestart{{"RestartUp", "RestartDown"}, "Restart", "Restart", Key::R};
 inline constexpr ButtonMeaning kTakeover{{"TakeoverUp", "TakeoverDown"}, "Takeover", "Take over"};
-inline constexpr ButtonMeaning kPause{{"PauseUp", "PauseDown"}, "", "Pause"};
-inline constexpr ButtonMeaning kResume{{"ResumeUp", "ResumeDown"}, "Resume", "Resume"};
+inline constexpr ButtonMeaning kPause{{"PauseUp", "PauseDown"}, "", "Pause", Key::P};
+inline constexpr ButtonMeaning kResume{{"ResumeUp", "ResumeDown"}, "Resume", "Resume", Key::P};
 
 inline void SetMeaning(Element& button, const ButtonMeaning& meaning) {
     button.faces = meaning.faces;
     button.picture = meaning.faces.up;
     button.tag = meaning.tag;
     button.spoken = meaning.spoken;
+    button.shortcut = meaning.shortcut;
 }
 
 // A number in red on a panel's picture.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "simulation/Field.h"
 
@@ -10,6 +11,10 @@ namespace prismfall {
 // The growing or waiting beam whose head is nearest to (X, Y), the earliest in Lines of those equally near; null if it
 // is 50 pixels away or more.
 CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y);
+
+// The beams that a press can reach, by their heads: the nearest to the ground first, of those equally near the earliest
+// in Lines. One whose head lies exactly on that of an earlier beam is left out, since a press there reaches the other.
+std::vector<const CLine*> ReachableHeads(const Field& field);
 
 // Turns a beam in the entry zone round on the spot: what was drawn of it is erased, and it runs on the other way.
 void BendLine(Field& field, CLine& oLine);

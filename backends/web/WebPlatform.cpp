@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/KeyInput.h"
 #include "platform/NominalFrame.h"
 
 namespace prismfall {
@@ -89,6 +90,7 @@ void WebPlatform::Handle(const page::Event& event) {
     Window& window = front.Content();
     switch (event.kind) {
         case page::EventKind::Move:
+            HideChoice(window);
             return input.Move(window, event.x, event.y);
         case page::EventKind::Press:
             return input.Press(window, static_cast<MouseButton>(event.number),
@@ -98,7 +100,8 @@ void WebPlatform::Handle(const page::Event& event) {
         case page::EventKind::Activate:
             return input.PressAndClick(window, *window.elements[static_cast<std::size_t>(event.number)]);
         case page::EventKind::Key:
-            return input.Key(window, event.number);
+            if (event.number == kEscapeKey) return input.Key(window, event.number);
+            return PressKey(input, window, static_cast<Key>(event.number), KeyReach::Surface);
         case page::EventKind::Close:
             closeBoxUsed = true;
     }
@@ -147,17 +150,26 @@ void WebPlatform::DeliverMinimised() {
 
 void WebPlatform::Refresh() {
     if (ended) return;
+    TellOfKeys();
     SendSurface();
     for (const auto& window : shown) window->Refresh();
 }
 
+void WebPlatform::TellOfKeys() {
+    SurfaceSpots spots;
+    if (main->on.spots) main->on.spots(spots);
+    if (std::exchange(fieldHasKeys, spots.haveKeysAlone) != fieldHasKeys) page::GiveKeys(fieldHasKeys ? 1 : 0);
+}
+
 void WebPlatform::SendSurface() {
-    layer.TakeDamage(damage);
+    FollowChoice(*main, KeyReach::Surface);
+    looks.Mark(main->choice);
+    looks.TakeDamage(damage);
     for (const PixelBox& box : damage) {
         const int width = box.right - box.left;
         pixels.clear();
         for (int y = box.top; y < box.bottom; ++y) {
-            const std::uint32_t* row = layer.Row(y);
+            const std::uint32_t* row = looks.Row(y);
             std::transform(row + box.left, row + box.right, std::back_inserter(pixels), PagePixel);
         }
         page::ShowPixels(pixels.data(), box.left, box.top, width, box.bottom - box.top);

@@ -10,6 +10,7 @@
 
 #include "backends/web/Imports.h"
 #include "backends/web/ShownWindow.h"
+#include "platform/Looks.h"
 #include "platform/Platform.h"
 #include "platform/RandomNumbers.h"
 #include "platform/SettingsText.h"
@@ -77,9 +78,11 @@ class WebPlatform final : public Platform {
     void Open(Window& window, Place place);
     void Refresh();
     void SendSurface();
+    void TellOfKeys();
     void TellOfSaving(bool isWritten);
 
     Surface layer;
+    Looks looks{layer};
     std::vector<PixelBox> damage;
     std::vector<std::uint32_t> pixels;  // a box of the layer, in the page's format
 
@@ -95,8 +98,9 @@ class WebPlatform final : public Platform {
     std::optional<SettingsValues> readValues;  // of the store, until it changes
     bool isFailedSaveTold = false;
     bool ended = false;
-    bool hidden = false;     // as the page was last seen
-    bool minimised = false;  // as the main window was last told
+    bool fieldHasKeys = false;  // as the page was last told
+    bool hidden = false;        // as the page was last seen
+    bool minimised = false;     // as the main window was last told
 };
 
 }  // namespace prismfall

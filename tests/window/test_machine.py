@@ -18,6 +18,7 @@ class Ends(harness.WindowTest):
             "SIGTERM": lambda run: run.kill(signal.SIGTERM),
             "SIGINT": lambda run: run.kill(signal.SIGINT),
             "close box": lambda run: run.main.use_close_box() or run.wait_for_end(),
+            "Ctrl+Q": lambda run: run.main.key("ctrl+q") or run.wait_for_end(),
             "end of the display": lambda run: display.processes[0].terminate() or run.wait_for_end(),
         }
         try:

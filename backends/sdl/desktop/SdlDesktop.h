@@ -69,6 +69,7 @@ class SdlDesktop {
     void HandleFocus(Shown& shown);
     void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
+    void HandleKey(const SDL_KeyboardEvent& event);
     bool AsksForEnd(const SDL_Event& event) const;
     // The nominal frame, where the desktop does not tell of a real one.
     FrameBorders BordersOf(const Window& window) const;
@@ -83,6 +84,7 @@ class SdlDesktop {
     WindowInput input;
     Display display;
     Surface layer;
+    Looks looks{layer};
     float scaleToAskFor = 1;  // points a game pixel, for the first window
     bool scaleChosen = false;
     bool frameAwaited = false;

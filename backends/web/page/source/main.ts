@@ -3,6 +3,7 @@
 import { connectControls } from './controls';
 import { Input } from './input';
 import { gameHeight, gameWidth, Layout } from './layout';
+import { Keys } from './keys';
 import { Music } from './music';
 import { Notices } from './notices';
 import { connectBack } from './back';
@@ -54,6 +55,7 @@ async function start(): Promise<void> {
     const windows = new Windows(layout, pictures, surface, notices, waiting, input, find('picture', HTMLElement));
     const sounds = new Sounds(notices);
     const music = new Music(notices);
+    const keys = new Keys(windows, waiting, input, surface.canvas);
     const back = connectBack(windows, waiting, input);
     const end = (sentence?: string) => {
         music.close();
@@ -61,7 +63,7 @@ async function start(): Promise<void> {
         windows.end(sentence);
         back.noteEnd();
     };
-    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, end };
+    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, end };
     connectControls(input, find('right', HTMLButtonElement), find('full', HTMLButtonElement));
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);

@@ -2,6 +2,7 @@
 // while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
 // second build that unwinds its own stack and rewinds it.
 import { build } from './build';
+import type { Keys } from './keys';
 import type { Music } from './music';
 import type { Notices } from './notices';
 import { checkRecords, decodeText, readElement, readWindow, writeEvent } from './records';
@@ -19,6 +20,7 @@ export interface Machine {
     readonly music: Music;
     readonly settings: Settings;
     readonly notices: Notices;
+    readonly keys: Keys;
     /** The program has ended. */
     readonly end: () => void;
 }
@@ -106,7 +108,7 @@ async function instantiate(
     machine: Machine,
     suspending: (wait: Wait) => WebAssembly.ImportValue,
 ): Promise<Exports> {
-    const { waiting, windows, surface, sounds, music, settings, notices, end } = machine;
+    const { waiting, windows, surface, sounds, music, settings, notices, keys, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
     const wait = suspending((until, forInput) => waiting.wait(until, forInput !== 0));
     const page = {
@@ -125,6 +127,7 @@ async function instantiate(
             windows.show(window, element, readElement(memory, record)),
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
+        giveKeys: (toField: number) => (keys.areForField = toField !== 0),
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
         endProgram: () => end(),

@@ -1,4 +1,7 @@
 // The painted layer of the main window: a canvas of one pixel for each of the game's, whatever its size on the page.
+const spoken =
+    'Playfield. The arrow keys and Tab choose the end of a beam, Space bends it, Enter runs it forward. Shift and Tab leave the playfield.';
+
 export class Surface {
     readonly canvas = document.createElement('canvas');
     private readonly context: CanvasRenderingContext2D | null;
@@ -6,8 +9,10 @@ export class Surface {
     constructor(width: number, height: number) {
         this.canvas.width = width;
         this.canvas.height = height;
-        this.canvas.setAttribute('role', 'img');
-        this.canvas.setAttribute('aria-label', 'Playfield');
+        // Keys play on it: see keys.ts.
+        this.canvas.tabIndex = 0;
+        this.canvas.setAttribute('role', 'application');
+        this.canvas.setAttribute('aria-label', spoken);
         this.context = this.canvas.getContext('2d', { willReadFrequently: true });
     }
 
