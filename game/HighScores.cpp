@@ -82,7 +82,9 @@ void FillRows(Window& dialog, const ScoreTable& scores) {
 
 }  // namespace
 
-void SaveScore(VMain& main) { EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level}); }
+void SaveScore(VMain& main) {
+    if (main.EntersTable) EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level});
+}
 
 void ShowHighScores(VMain& main) {
     if (!main.VHighScore2) MakeHighScores(main);

@@ -34,6 +34,9 @@ void EnterMode(VMain& main, Mode mode);
 // music and the game's timers are left as they are; the logo flickers in the main menu.
 void EnterScreen(VMain& main, Mode mode);
 
+// Says in the main menu that an Arcade game would be slower than usual, and enter no table.
+void ShowPaceNote(VMain& main);
+
 // Plays the music that belongs to the mode, if it has any.
 void PlayMusicOfMode(const VMain& main);
 

@@ -82,10 +82,13 @@ bool TakesBeamPresses(const VMain& main) {
     return !main.TutorialActive && RowOf(main.GameMode).takesPresses && main.GameRunning;
 }
 
+SurfaceSpot SpotOf(const CLine& beam) {
+    return {.what = &beam, .x = static_cast<float>(beam.XEnd), .y = static_cast<float>(beam.YEnd)};
+}
+
 void ListHeads(const Field& field, SurfaceSpots& spots) {
     spots.haveKeysAlone = true;
-    for (const CLine* beam : ReachableHeads(field))
-        spots.list.push_back({.what = beam, .x = static_cast<float>(beam->XEnd), .y = static_cast<float>(beam->YEnd)});
+    for (const CLine* beam : ReachableHeads(field)) spots.list.push_back(SpotOf(*beam));
 }
 
 void ListPreviews(const VMain& main, SurfaceSpots& spots) {
@@ -107,6 +110,13 @@ void ListPreviews(const VMain& main, SurfaceSpots& spots) {
 void ListSpots(VMain& main, SurfaceSpots& spots) {
     if (TakesBeamPresses(main)) return ListHeads(main.field, spots);
     if (main.GameMode == Mode::PuzzleMenu) ListPreviews(main, spots);
+}
+
+std::optional<SurfaceSpot> ReachedHead(const VMain& main, float X, float Y) {
+    if (!TakesBeamPresses(main)) return std::nullopt;
+    const CLine* beam = FindNearestLine(main.field, Rounded(X), Rounded(Y));
+    if (beam == nullptr) return std::nullopt;
+    return SpotOf(*beam);
 }
 
 void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y) {

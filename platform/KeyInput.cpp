@@ -203,4 +203,19 @@ void FollowChoice(Window& window, KeyReach reach) {
     Choose(window, Chosen(targets, window.choice));
 }
 
+void NotePointer(Window& window, float x, float y) {
+    window.choice.isShown = false;
+    window.pointer = {true, x, y};
+}
+
+KeyChoice PlaceToMark(Window& window, bool ringsAtPointer) {
+    if (window.choice.isShown) return window.choice;
+    const Pointer& pointer = window.pointer;
+    if (!ringsAtPointer || !pointer.isKnown || !window.on.reached) return {};
+    if (window.ElementAt(pointer.x, pointer.y) != nullptr) return {};
+    const std::optional<SurfaceSpot> spot = window.on.reached(pointer.x, pointer.y);
+    if (!spot) return {};
+    return {.what = spot->what, .isShown = true, .isOnSurface = true, .left = spot->x, .top = spot->y};
+}
+
 }  // namespace prismfall

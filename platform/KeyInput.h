@@ -24,6 +24,10 @@ void PressKey(const WindowInput& input, Window& window, Key key, KeyReach reach 
 void FollowChoice(Window& window, KeyReach reach = KeyReach::Window);
 
 // The player uses the pointer: the chosen place is not marked until the next key.
-inline void HideChoice(Window& window) { window.choice.isShown = false; }
+void NotePointer(Window& window, float x, float y);
+
+// The place on the surface that is to be marked: what was chosen by keys, or with `ringsAtPointer` the head that a
+// press at the pointer would reach. Not shown if there is none.
+KeyChoice PlaceToMark(Window& window, bool ringsAtPointer);
 
 }  // namespace prismfall

@@ -1,6 +1,7 @@
 #include "platform/Looks.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace prismfall {
@@ -31,6 +32,30 @@ PixelBox BoxOf(const KeyChoice& mark) {
 
 std::size_t Index(int x, int y) { return static_cast<std::size_t>(y) * Surface::kWidth + static_cast<std::size_t>(x); }
 
+// Rows of pixels: a pattern's period and which of its rows are lit, from the first on, in turns with those that are
+// dim.
+struct Rhythm {
+    int period = 1;
+    std::array<int, 4> turns{};  // lit, dim, lit, dim
+};
+
+constexpr std::array<Rhythm, 4> kRhythms = {{{1, {1}}, {18, {12, 6}}, {6, {3, 3}}, {20, {10, 4, 2, 4}}}};
+
+bool IsLit(Pattern pattern, int y) {
+    const Rhythm& rhythm = kRhythms[static_cast<std::size_t>(pattern)];
+    int row = y % rhythm.period;
+    bool isLit = true;
+    for (const int turn : rhythm.turns) {
+        if (row < turn) return isLit;
+        row -= turn;
+        isLit = !isLit;
+    }
+    return isLit;
+}
+
+// A quarter of the light.
+std::uint32_t Dimmed(std::uint32_t pixel) { return 0xFF000000 | (pixel >> 2 & 0x3F3F3F); }
+
 // What a ring puts at this distance from its middle, or nothing.
 std::uint32_t RingPixel(float distance) {
     if (distance >= kRingInner && distance <= kRingOuter) return kMarkPixel;
@@ -49,8 +74,29 @@ void Looks::Mark(const KeyChoice& choice) {
 }
 
 void Looks::CopyFrom(const PixelBox& box) {
-    for (int y = box.top; y < box.bottom; ++y)
-        std::copy_n(surface.Row(y) + box.left, box.right - box.left, &pixels[Index(box.left, y)]);
+    for (int y = box.top; y < box.bottom; ++y) {
+        const std::uint32_t* row = surface.Row(y);
+        std::uint32_t* to = &pixels[Index(0, y)];
+        std::transform(row + box.left, row + box.right, to + box.left,
+                       [this, y](std::uint32_t pixel) { return Shown(pixel, y); });
+    }
+}
+
+std::uint32_t Looks::Shown(std::uint32_t pixel, int y) const {
+    if (pixel == Surface::kUnpainted || pixel == PixelOf(kBlack)) return pixel;
+    const auto colour = std::ranges::find(colours, pixel, &Colours::painted);
+    if (colour == colours.end()) return pixel;
+    return IsLit(colour->pattern, y) ? colour->shown : colour->dim;
+}
+
+void Looks::Recolour(const std::vector<Recolouring>& wanted) {
+    colours.clear();
+    for (const Recolouring& row : wanted) {
+        const std::uint32_t shown = PixelOf(row.shown);
+        colours.push_back({PixelOf(row.painted), shown, Dimmed(shown), row.pattern});
+    }
+    pixels.clear();
+    lost.push_back(kWhole);
 }
 
 void Looks::Set(int x, int y, std::uint32_t pixel) {
@@ -80,7 +126,7 @@ void Looks::TakeDamage(std::vector<PixelBox>& boxes) {
         CopyFrom(kWhole);
     }
     for (const PixelBox& box : boxes) CopyFrom(box);
-    PaintMark();
+    if (mark.isShown) PaintMark();
 }
 
 const std::uint32_t* Looks::Row(int y) const { return pixels.empty() ? surface.Row(y) : &pixels[Index(0, y)]; }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "platform/Comfort.h"
 #include "platform/PixelBox.h"
 #include "platform/Surface.h"
 #include "platform/Window.h"
@@ -19,6 +20,9 @@ class Looks {
     Looks(const Looks&) = delete;
     Looks& operator=(const Looks&) = delete;
 
+    // Shows colours of the surface in others from now on.
+    void Recolour(const std::vector<Recolouring>& wanted);
+
     // Marks the place that the player has chosen by keys, if it is on the surface and is to be shown: the head of a
     // beam with a ring, anything else with a frame.
     void Mark(const KeyChoice& choice);
@@ -28,14 +32,24 @@ class Looks {
     const std::uint32_t* Row(int y) const;
 
   private:
-    bool ChangesPixels() const { return mark.isShown; }
+    bool ChangesPixels() const { return mark.isShown || !colours.empty(); }
+    std::uint32_t Shown(std::uint32_t pixel, int y) const;
     void CopyFrom(const PixelBox& box);
     void PaintMark();
     void Set(int x, int y, std::uint32_t pixel);
 
+    // The pixels of a Recolouring.
+    struct Colours {
+        std::uint32_t painted = 0;
+        std::uint32_t shown = 0;
+        std::uint32_t dim = 0;
+        Pattern pattern = Pattern::Solid;
+    };
+
     Surface& surface;
+    std::vector<Colours> colours;
     KeyChoice mark;
-    std::vector<PixelBox> lost;         // where a mark has gone or come since the last call of TakeDamage
+    std::vector<PixelBox> lost;         // what looks different since the last call of TakeDamage
     std::vector<std::uint32_t> pixels;  // empty while the surface's own are shown
 };
 

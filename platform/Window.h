@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -41,6 +42,13 @@ struct KeyChoice {
     bool operator==(const KeyChoice&) const = default;
 };
 
+// Where the pointer was last seen in a window.
+struct Pointer {
+    bool isKnown = false;
+    float x = 0;
+    float y = 0;
+};
+
 enum class MouseButton : std::int16_t { Left = 1, Right = 2 };
 
 constexpr std::int16_t kEscapeKey = 27;
@@ -49,12 +57,14 @@ constexpr std::int16_t kEscapeKey = 27;
 // of the window's inner area for the window's own events, of the element for an element's.
 struct WindowHandlers {
     std::function<void()> activate;                                       // the window has come to the front
+    std::function<void()> deactivate;                                     // another program's window gets the keys
     std::function<void(float x, float y)> mouseMove;                      // over the surface, not over an element
     std::function<void(MouseButton button, float x, float y)> mouseDown;  // on the surface
     std::function<void()> doubleClick;  // the second press of a double click, in place of mouseDown
     std::function<void(std::int16_t code)> keyDown;
     std::function<void(SurfaceSpots& spots)> spots;  // adds what keys can choose on the surface now
-    std::function<void(Key key)> command;            // a key that is no shortcut of an element
+    std::function<std::optional<SurfaceSpot>(float x, float y)> reached;  // the head that a press would reach
+    std::function<void(Key key)> command;                                 // a key that is no shortcut of an element
     std::function<void(bool minimised)> resize;
     std::function<void()> queryUnload;  // the window may be about to close; can come more than once, as where a hidden
                                         // page may never be seen again
@@ -71,11 +81,13 @@ struct Window {
     int innerHeight = 0;
     std::string_view background;  // a picture laid at the top left and cut off at the edges
     bool isDialog = false;        // a small frame without minimise and maximise boxes
+    bool stopsTime = false;       // of a dialog: game time stands still while it is open, and the game notices nothing
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works
     std::vector<Element*> elements;  // stacking order, later ones on top
     KeyChoice choice;                // see KeyInput.h
+    Pointer pointer;
     WindowHandlers on;
 
     Window() = default;

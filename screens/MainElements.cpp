@@ -67,6 +67,7 @@ std::vector<Element*> MainElements::InStackingOrder() {
     for (Element& mark : LabelSolved) all.push_back(&mark);
     for (Element& picture : PictTut) all.push_back(&picture);
     all.push_back(&LabelMulti);
+    all.push_back(&LabelPace);
     return all;
 }
 

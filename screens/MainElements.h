@@ -98,6 +98,16 @@ struct MainElements {
                           .visible = false,
                           .font = {.family = "Felix Titling", .points = 9.75F}};
 
+    Element LabelPace = {.name = "LabelPace",  // in the main menu, where an Arcade game would be a slower one
+                         .kind = ElementKind::Label,
+                         .left = 345,
+                         .top = 476,
+                         .width = 300,
+                         .height = 18,
+                         .visible = false,
+                         .colour = 0xC0FFFF,
+                         .font = {.points = 9.75F}};
+
     MainElements();
     MainElements(const MainElements&) = delete;
     MainElements& operator=(const MainElements&) = delete;

@@ -151,6 +151,7 @@ PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::u
 // --- Sound and music. The page finds the files by itself; one that cannot be loaded is silent.
 
 PAGE_IMPORT("playSound") void PlaySound(std::int32_t id);
+PAGE_IMPORT("setEffectsVolume") void SetEffectsVolume(float share);  // 0 to 1
 PAGE_IMPORT("openMusic") void OpenMusic(const char* name, std::uint32_t length);
 PAGE_IMPORT("closeMusic") void CloseMusic();
 PAGE_IMPORT("setMusicVolume") void SetMusicVolume(float share);  // 0 to 1

@@ -90,7 +90,7 @@ void WebPlatform::Handle(const page::Event& event) {
     Window& window = front.Content();
     switch (event.kind) {
         case page::EventKind::Move:
-            HideChoice(window);
+            NotePointer(window, event.x, event.y);
             return input.Move(window, event.x, event.y);
         case page::EventKind::Press:
             return input.Press(window, static_cast<MouseButton>(event.number),
@@ -110,7 +110,7 @@ void WebPlatform::Handle(const page::Event& event) {
 void WebPlatform::Rest() {
     if (ended) return;
     const std::optional<Nanoseconds> due = timers.NextDue();
-    const double rest = due ? Milliseconds(*due - time.Now()) : kLongestWait;
+    const double rest = due ? Milliseconds(time.ByClock(*due - time.Now())) : kLongestWait;
     page::Wait(page::Now() + std::min(rest, kLongestWait), 1);
 }
 
@@ -163,7 +163,7 @@ void WebPlatform::TellOfKeys() {
 
 void WebPlatform::SendSurface() {
     FollowChoice(*main, KeyReach::Surface);
-    looks.Mark(main->choice);
+    looks.Mark(PlaceToMark(*main, comfort.ringsAtPointer));
     looks.TakeDamage(damage);
     for (const PixelBox& box : damage) {
         const int width = box.right - box.left;
@@ -202,7 +202,10 @@ bool WebPlatform::ShowModally(Window& dialog) {
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     closeBoxUsed = false;
     if (dialog.on.activate) dialog.on.activate();
+    std::optional<GameTime::Standstill> standstill;
+    if (dialog.stopsTime) standstill.emplace(time);
     for (Work(); !ended && dialog.visible && !closeBoxUsed; Work()) Rest();
+    standstill.reset();
     timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
@@ -307,7 +310,15 @@ int WebPlatform::MusicOpen(std::string_view name) {
 }
 
 void WebPlatform::MusicSetVolume(int volume) {
-    page::SetMusicVolume(static_cast<float>(std::clamp(volume, 0, kFullVolume)) / static_cast<float>(kFullVolume));
+    musicVolume = std::clamp(volume, 0, kFullVolume);
+    page::SetMusicVolume(static_cast<float>(musicVolume * comfort.musicPercent) / (kFullVolume * 100.0F));
+}
+
+void WebPlatform::SetComfort(const Comfort& wanted) {
+    comfort = wanted;
+    looks.Recolour(comfort.recolourings);
+    MusicSetVolume(musicVolume);
+    page::SetEffectsVolume(static_cast<float>(comfort.effectsPercent) / 100);
 }
 
 void WebPlatform::MusicPlayLooping() { page::PlayMusicLooping(); }

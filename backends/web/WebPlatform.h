@@ -67,6 +67,9 @@ class WebPlatform final : public Platform {
     void MusicStop() override;
     std::string MusicFailureText(int code) override;
 
+    void SetComfort(const Comfort& wanted) override;
+    void SetPace(int percent) override { time.SetPace(percent); }
+
   private:
     void Work();
     bool HandleEvents();  // whether there were any
@@ -83,6 +86,8 @@ class WebPlatform final : public Platform {
 
     Surface layer;
     Looks looks{layer};
+    Comfort comfort;
+    int musicVolume = 0;  // that the game asks for
     std::vector<PixelBox> damage;
     std::vector<std::uint32_t> pixels;  // a box of the layer, in the page's format
 

@@ -142,9 +142,14 @@ bool SdlDesktop::CloseBoxUsed(const Window& window) const {
     return shown == nullptr || shown->closeBoxUsed;
 }
 
+void SdlDesktop::SetComfort(const Comfort& comfort) {
+    ringsAtPointer = comfort.ringsAtPointer;
+    looks.Recolour(comfort.recolourings);
+}
+
 void SdlDesktop::Refresh() {
     for (const Shown& shown : windows) FollowChoice(shown.real->Data());
-    if (!windows.empty()) looks.Mark(windows.front().real->Data().choice);
+    if (!windows.empty()) looks.Mark(PlaceToMark(windows.front().real->Data(), ringsAtPointer));
     for (const Shown& shown : windows) shown.real->Refresh();
 }
 
@@ -183,8 +188,8 @@ void SdlDesktop::Handle(const SDL_Event& event) {
     SdlWindow& front = *windows.back().real;
     if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return HandleKey(event.key);
     if (event.type == SDL_MOUSEMOTION && event.motion.windowID == front.Id()) {
-        HideChoice(front.Data());
         const GamePlace place = front.ToGame(event.motion.x, event.motion.y);
+        NotePointer(front.Data(), place.x, place.y);
         return input.Move(front.Data(), place.x, place.y);
     }
     if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) HandleButton(event.button);
@@ -222,6 +227,7 @@ void SdlDesktop::HandleWindowEvent(const SDL_WindowEvent& event) {
     Shown* shown = FindById(event.windowID);
     if (shown == nullptr) return;
     if (event.event == SDL_WINDOWEVENT_FOCUS_GAINED) HandleFocus(*shown);
+    if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) HandleFocusLoss(*shown);
     if (event.event == SDL_WINDOWEVENT_CLOSE) HandleCloseBox(*shown);
 }
 
@@ -231,6 +237,12 @@ void SdlDesktop::HandleFocus(Shown& shown) {
     if (&shown != &windows.back()) return;
     const Window& window = shown.real->Data();
     if (window.on.activate) window.on.activate();
+}
+
+// Not where the focus goes to a dialog of ours.
+void SdlDesktop::HandleFocusLoss(const Shown& shown) {
+    const Window& window = shown.real->Data();
+    if (&shown == &windows.back() && window.takesInput && window.on.deactivate) window.on.deactivate();
 }
 
 void SdlDesktop::HandleCloseBox(Shown& shown) {

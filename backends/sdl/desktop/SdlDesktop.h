@@ -28,6 +28,7 @@ class SdlDesktop {
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();
 
+    void SetComfort(const Comfort& comfort);
     Surface& Layer() { return layer; }
     Display& Screen() { return display; }
 
@@ -67,6 +68,7 @@ class SdlDesktop {
     Shown* FindById(std::uint32_t id);
     void HandleWindowEvent(const SDL_WindowEvent& event);
     void HandleFocus(Shown& shown);
+    void HandleFocusLoss(const Shown& shown);
     void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
     void HandleKey(const SDL_KeyboardEvent& event);
@@ -85,6 +87,7 @@ class SdlDesktop {
     Display display;
     Surface layer;
     Looks looks{layer};
+    bool ringsAtPointer = false;
     float scaleToAskFor = 1;  // points a game pixel, for the first window
     bool scaleChosen = false;
     bool frameAwaited = false;

@@ -26,6 +26,8 @@ class SdlAudio {
     int MusicOpen(const std::string& path);
     std::string MusicFailureText(int code) const;
     void DoWithMusic(std::function<void(SdlMusic&)> action);
+    // Of the volumes that the game asks for, in percent.
+    void SetShares(int musicPercent, int effectsPercent);
     // Some device has gone. If it was the one in use, music plays on as soon as there is another one.
     void DeviceLost();
     // Silence, and the end of the audio thread. False if the sound server hangs; only the process's end helps then.

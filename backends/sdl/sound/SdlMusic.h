@@ -4,6 +4,7 @@
 
 #include <SDL.h>
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -28,6 +29,8 @@ class SdlMusic {
     void Pause();
     void Stop();
 
+    // Of the volume, in percent. On any thread.
+    void SetShare(int percent) { sharePercent = percent; }
     bool IsSounding();
     bool IsLooping();
     // Is to be heard, and has no device.
@@ -51,6 +54,7 @@ class SdlMusic {
     void DecodeAhead(int wanted);
 
     AudioDevice& device;
+    std::atomic<int> sharePercent = 100;
     // Locked by the device, as SDL's thread uses them too:
     MusicFile file;
     std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's form to the device's; none before its first

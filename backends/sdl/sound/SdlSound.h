@@ -2,6 +2,7 @@
 // alone.
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -18,6 +19,8 @@ class SdlSound {
 
     // Plays a complete WAVE file; bytes that are none are silence.
     void Play(std::span<const std::byte> wave);
+    // Of the volume, in percent. On any thread.
+    void SetShare(int percent) { sharePercent = percent; }
     bool IsSounding();
     void Release();
 
@@ -26,6 +29,7 @@ class SdlSound {
 
   private:
     AudioDevice& device;
+    std::atomic<int> sharePercent = 100;
     std::vector<std::uint8_t> sound;  // in the device's form; locked by the device, as `place` is
     std::size_t place = 0;
 };

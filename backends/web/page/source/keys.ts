@@ -11,13 +11,14 @@ const mainWindow = 0;
 const arrows: Readonly<Record<string, number>> = { ArrowLeft: 37, ArrowUp: 38, ArrowRight: 39, ArrowDown: 40 };
 const presses: Readonly<Record<string, number>> = { Enter: 13, ' ': 32 };
 const tab = 9;
+const f1 = 112;
 const anywhere: Readonly<Record<string, number>> = {
     PageUp: 33,
     PageDown: 34,
     m: 'M'.charCodeAt(0),
     p: 'P'.charCodeAt(0),
     r: 'R'.charCodeAt(0),
-    F1: 112,
+    F1: f1,
 };
 
 export class Keys {
@@ -31,6 +32,10 @@ export class Keys {
         private readonly field: HTMLElement,
     ) {
         addEventListener('keydown', (event) => this.press(event));
+    }
+
+    openExtras(): void {
+        this.waiting.send(EventKind.Key, mainWindow, f1);
     }
 
     private press(event: KeyboardEvent): void {

@@ -64,7 +64,8 @@ async function start(): Promise<void> {
         back.noteEnd();
     };
     const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, end };
-    connectControls(input, find('right', HTMLButtonElement), find('full', HTMLButtonElement));
+    const button = (id: string) => find(id, HTMLButtonElement);
+    connectControls(input, keys, button('right'), button('extras'), button('full'));
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {

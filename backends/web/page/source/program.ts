@@ -135,6 +135,7 @@ async function instantiate(
         readSettings: (address: number) => settings.copyTo(new Uint8Array(memory.buffer, address)),
         writeSettings: (address: number, length: number) => (settings.write(text(address, length)) ? 1 : 0),
         playSound: (id: number) => sounds.play(id),
+        setEffectsVolume: (share: number) => (sounds.volume = share),
         openMusic: (address: number, length: number) => music.open(text(address, length)),
         closeMusic: () => music.close(),
         setMusicVolume: (share: number) => music.setVolume(share),

@@ -7,6 +7,8 @@ import type { Notices } from './notices';
 const decodingRate = 44100;
 
 export class Sounds {
+    /** From 0 to 1. */
+    volume = 1;
     private readonly sounds = new Map<number, AudioBuffer>();
     private context: AudioContext | undefined;
     private playing: AudioBufferSourceNode | undefined;
@@ -36,7 +38,8 @@ export class Sounds {
         if (!sound || this.context?.state !== 'running' || document.hidden) return;
         this.playing = this.context.createBufferSource();
         this.playing.buffer = sound;
-        this.playing.connect(this.context.destination);
+        const gain = new GainNode(this.context, { gain: this.volume });
+        this.playing.connect(gain).connect(this.context.destination);
         this.playing.start();
     }
 
