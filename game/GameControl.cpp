@@ -3,6 +3,7 @@
 #include "audio/Music.h"
 #include "game/GameTimers.h"
 #include "game/Modes.h"
+#include "game/PlayerWishes.h"
 #include "game/PuzzleMenu.h"
 #include "game/PuzzleStart.h"
 #include "game/Tutorial.h"
@@ -99,6 +100,7 @@ void LeaveScreen(VMain& main) {
 
 void CommandArcade_Click(VMain& main) {
     main.platform.StopTimer(Timer::TimerPlayIntro);
+    BeginAtPace(main);
     ShowArcadeScreen(main);
     main.platform.StartTimer(Timer::LineCreator);
     StartBeamTimers(main);
@@ -160,6 +162,10 @@ void Form_Resize(VMain& main, bool isMinimised) {
     if (main.GameMode != Mode::SolutionReplay) return;
     StartBeamTimers(main);
     main.GameRunning = true;
+}
+
+void Form_Deactivate(VMain& main) {
+    if (main.settings.extras.PauseAway != 0 && main.GameRunning) cmdPause_Click(main);
 }
 
 void Form_Activate(VMain& main) {

@@ -60,7 +60,7 @@ std::vector<Element> MakeElements() {
     table.push_back(MakeButton("Command3", 22, 374, 191, 40, {"ClearPuzzleProgressUp", "ClearPuzzleProgressDown"},
                                "Clear puzzle progress"));
     table.push_back(MakeButton("Command1", 82, 412, 123, 36, {"ClearScoresUp", "ClearScoresDown"}, "Clear scores"));
-    table.push_back(MakeButton("Command2", 244, 402, 70, 47, {"OKScoresUp", "OKScoresDown"}, "OK"));
+    table.push_back(MakeOkButton("Command2", 244, 402, 70, 47, {"OKScoresUp", "OKScoresDown"}));
     return table;
 }
 
@@ -82,7 +82,9 @@ void FillRows(Window& dialog, const ScoreTable& scores) {
 
 }  // namespace
 
-void SaveScore(VMain& main) { EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level}); }
+void SaveScore(VMain& main) {
+    if (main.EntersTable) EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level});
+}
 
 void ShowHighScores(VMain& main) {
     if (!main.VHighScore2) MakeHighScores(main);

@@ -10,6 +10,7 @@
 #include "game/LogoFlicker.h"
 #include "game/Modes.h"
 #include "game/PlayerInput.h"
+#include "game/PlayerWishes.h"
 #include "game/RemovalTick.h"
 #include "game/Scoring.h"
 #include "game/Tutorial.h"
@@ -58,6 +59,10 @@ void Connect(VMain& main) {
     on.mouseDown = [&main](MouseButton button, float x, float y) { Form_MouseDown(main, button, x, y); };
     on.doubleClick = [&main] { Form_DblClick(main); };
     on.keyDown = [&main](std::int16_t code) { Form_KeyDown(main, code); };
+    on.spots = [&main](SurfaceSpots& spots) { ListSpots(main, spots); };
+    on.reached = [&main](float x, float y) { return ReachedHead(main, x, y); };
+    on.command = [&main](Key key) { Form_Command(main, key); };
+    on.deactivate = [&main] { Form_Deactivate(main); };
     on.elementDown = [&main](Element& element, MouseButton button, float x, float y) {
         PressElementOfMain(main, element, button, x, y);
     };
@@ -85,6 +90,7 @@ void Form_Load(VMain& main) {
     ShowStartNumbers(main);
     ReadSettings(main.settings, main.platform);
     TakeHighScore(main);
+    ApplyExtras(main);
     EnterScreen(main, Mode::MainMenu);
     main.PuzzlePage = 1;
     if (main.settings.Music) main.platform.StartTimer(Timer::TimerPlayIntro);

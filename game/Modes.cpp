@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "audio/Music.h"
 
@@ -79,9 +80,16 @@ void EnterMode(VMain& main, Mode mode) {
     main.field.rules = RowOf(mode).rules;
 }
 
+void ShowPaceNote(VMain& main) {
+    const std::int16_t pace = main.settings.extras.Pace;
+    main.LabelPace.visible = main.GameMode == Mode::MainMenu && pace != 100;
+    main.LabelPace.text = "At " + std::to_string(pace) + " % of the pace: no place among the scores";
+}
+
 void EnterScreen(VMain& main, Mode mode) {
     EnterMode(main, mode);
     ShowElements(main, mode);
+    ShowPaceNote(main);
     for (int i = 0; i < RowOf(mode).clears; ++i) main.platform.SurfaceClear();
     if (mode == Mode::MainMenu) {
         main.platform.StartTimer(Timer::TimerA);

@@ -34,6 +34,9 @@ void EnterMode(VMain& main, Mode mode);
 // the game's timers alone; starts the logo's flicker in the main menu and stops it elsewhere.
 void EnterScreen(VMain& main, Mode mode);
 
+// Says in the main menu that an Arcade game would be slower than usual, and enter no table.
+void ShowPaceNote(VMain& main);
+
 // Plays the music that belongs to the mode, if it has any.
 void PlayMusicOfMode(const VMain& main);
 

@@ -76,7 +76,48 @@ void PressPreview(VMain& main, float X, float Y) {
     StartPuzzleGame(main, false, false);
 }
 
+// --- What keys can choose.
+
+bool TakesBeamPresses(const VMain& main) {
+    return !main.TutorialActive && RowOf(main.GameMode).takesPresses && main.GameRunning;
+}
+
+SurfaceSpot SpotOf(const CLine& beam) {
+    return {.what = &beam, .x = static_cast<float>(beam.XEnd), .y = static_cast<float>(beam.YEnd)};
+}
+
+void ListHeads(const Field& field, SurfaceSpots& spots) {
+    spots.haveKeysAlone = true;
+    for (const CLine* beam : ReachableHeads(field)) spots.list.push_back(SpotOf(*beam));
+}
+
+void ListPreviews(const VMain& main, SurfaceSpots& spots) {
+    for (int cell = 0; cell < kPuzzlesPerPage; ++cell) {
+        if (PuzzleInCell(main.PuzzlePage, cell) > kPuzzleCount) return;
+        const PreviewBox box = PreviewBoxOf(cell);
+        const auto width = static_cast<float>(box.width);
+        const auto height = static_cast<float>(box.height);
+        spots.list.push_back({.what = &main.LabelSolved[static_cast<std::size_t>(cell)],
+                              .x = static_cast<float>(box.left) + width / 2,
+                              .y = static_cast<float>(box.top) + height / 2,
+                              .width = width,
+                              .height = height});
+    }
+}
+
 }  // namespace
+
+void ListSpots(VMain& main, SurfaceSpots& spots) {
+    if (TakesBeamPresses(main)) return ListHeads(main.field, spots);
+    if (main.GameMode == Mode::PuzzleMenu) ListPreviews(main, spots);
+}
+
+std::optional<SurfaceSpot> ReachedHead(const VMain& main, float X, float Y) {
+    if (!TakesBeamPresses(main)) return std::nullopt;
+    const CLine* beam = FindNearestLine(main.field, Rounded(X), Rounded(Y));
+    if (beam == nullptr) return std::nullopt;
+    return SpotOf(*beam);
+}
 
 void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y) {
     main.LastClickX = X;

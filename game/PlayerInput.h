@@ -2,6 +2,8 @@
 // forward at once, and in the puzzle menu either button picks a preview.
 #pragma once
 
+#include <optional>
+
 #include "game/VMain.h"
 
 namespace prismfall {
@@ -12,5 +14,11 @@ void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y);
 
 // The second press of a double click: a left press at the place of the last press, while a game runs.
 void Form_DblClick(VMain& main);
+
+// What keys can choose on the surface: in a game that takes presses the heads of the beams, which then have the keys
+// alone; in the puzzle menu the previews.
+void ListSpots(VMain& main, SurfaceSpots& spots);
+// The head that a press at (X, Y) would reach now.
+std::optional<SurfaceSpot> ReachedHead(const VMain& main, float X, float Y);
 
 }  // namespace prismfall

@@ -41,48 +41,32 @@ constexpr auto kPages = std::to_array<Page>({
 });
 static_assert(kPages.size() == kPageCount, "every page of the puzzle menu needs its name and its picture");
 
-struct Cell {
-    int left;  // without the playfield's own offset
-    int top;
-    int width;
-    int height;
-};
-
-Cell CellAt(int row, int column) {
-    return {.left = Rounded(kGridWidth * column / kMenuColumns + kMargin),
-            .top = Rounded(kGridHeight * row / kMenuRows + kMargin),
-            .width = Rounded(kGridWidth / kMenuColumns - kGap),
-            .height = Rounded(kGridHeight / kMenuRows - kGap)};
-}
-
-void PlaceMark(Element& mark, const Cell& cell, std::int16_t puzzle, bool isSolved) {
-    mark.left = static_cast<float>(cell.left + kMarkPlace * cell.width);
-    mark.top = static_cast<float>(cell.top + kMarkPlace * cell.height);
+// The mark's place leaves out where the playfield begins.
+void PlaceMark(Element& mark, const PreviewBox& cell, std::int16_t puzzle, bool isSolved) {
+    mark.left = static_cast<float>(cell.left - kLeftWall + kMarkPlace * cell.width);
+    mark.top = static_cast<float>(cell.top - kPlayfieldTop + kMarkPlace * cell.height);
     const bool isTutorial = puzzle == 1;
     mark.text = isTutorial ? "Tutorial" : "Solved";
     mark.visible = isTutorial || isSolved;
 }
 
-void DrawPreviewBeam(SurfacePainter& painter, const Cell& cell, const LayoutBeam& beam) {
+void DrawPreviewBeam(SurfacePainter& painter, const PreviewBox& cell, const LayoutBeam& beam) {
     const int x1 = Rounded(beam.X * kFillAcross * cell.width / kDesignWidth);
     const int y1 = Rounded(beam.YStart * kFillDown * cell.height / kDesignHeight);
     const int y2 = Rounded(beam.YEnd * kFillDown * cell.height / kDesignHeight);
     const int length = beam.YEnd - beam.YStart;
     const double aside = cell.width / kDesignWidth * length * kFillAcross;
     const int x2 = Rounded(beam.Direction == Heading::Rightwards ? x1 + aside : x1 - aside);
-    const int left = cell.left + kLeftWall;
-    const int top = cell.top + kPlayfieldTop;
-    painter.SurfaceLine(left + x1, top + y1, left + x2, top + y2, OfColor(LineColors, beam.Color), kPenWidth);
+    painter.SurfaceLine(cell.left + x1, cell.top + y1, cell.left + x2, cell.top + y2, OfColor(LineColors, beam.Color),
+                        kPenWidth);
 }
 
-void DrawCell(VMain& main, int row, int column) {
-    const int place = kMenuColumns * row + column;
+void DrawCell(VMain& main, int place) {
     const std::int16_t puzzle = PuzzleInCell(main.PuzzlePage, place);
     if (puzzle > kPuzzleCount) return;
-    const Cell cell = CellAt(row, column);
-    const int left = cell.left + kLeftWall;
-    const int top = cell.top + kPlayfieldTop;
-    main.platform.SurfaceBox(left, top, left + cell.width, top + cell.height, kCellColour, kPenWidth);
+    const PreviewBox cell = PreviewBoxOf(place);
+    main.platform.SurfaceBox(cell.left, cell.top, cell.left + cell.width, cell.top + cell.height, kCellColour,
+                             kPenWidth);
     PlaceMark(main.LabelSolved[static_cast<std::size_t>(place)], cell, puzzle,
               main.settings.SolvedPuzzles[static_cast<std::size_t>(puzzle - 1)]);
     for (const LayoutBeam& beam : PuzzleLayout(puzzle)) DrawPreviewBeam(main.platform, cell, beam);
@@ -90,10 +74,18 @@ void DrawCell(VMain& main, int row, int column) {
 
 }  // namespace
 
+PreviewBox PreviewBoxOf(int cell) {
+    const int row = cell / kMenuColumns;
+    const int column = cell % kMenuColumns;
+    return {.left = kLeftWall + Rounded(kGridWidth * column / kMenuColumns + kMargin),
+            .top = kPlayfieldTop + Rounded(kGridHeight * row / kMenuRows + kMargin),
+            .width = Rounded(kGridWidth / kMenuColumns - kGap),
+            .height = Rounded(kGridHeight / kMenuRows - kGap)};
+}
+
 void ShowPuzzleMenu(VMain& main) {
     EnterScreen(main, Mode::PuzzleMenu);
-    for (int row = 0; row < kMenuRows; ++row)
-        for (int column = 0; column < kMenuColumns; ++column) DrawCell(main, row, column);
+    for (int cell = 0; cell < kPuzzlesPerPage; ++cell) DrawCell(main, cell);
     const Page& page = kPages[static_cast<std::size_t>(main.PuzzlePage - 1)];
     main.LabelPuzzlePage.picture = page.picture;
     main.LabelPuzzlePage.accessibleName = page.accessibleName;

@@ -16,6 +16,15 @@ constexpr std::int16_t PuzzleInCell(std::int16_t page, int cell) {
     return static_cast<std::int16_t>((page - 1) * kPuzzlesPerPage + cell + 1);
 }
 
+// Where the preview in a cell is painted, game pixels.
+struct PreviewBox {
+    int left;
+    int top;
+    int width;
+    int height;
+};
+PreviewBox PreviewBoxOf(int cell);
+
 // Shows the menu at the page PuzzlePage.
 void ShowPuzzleMenu(VMain& main);
 

@@ -3,6 +3,7 @@
 #include "audio/Music.h"
 #include "game/GameTimers.h"
 #include "game/Modes.h"
+#include "game/PlayerWishes.h"
 #include "game/PuzzleCatalogue.h"
 #include "platform/Numbers.h"
 #include "simulation/BeamRemoval.h"
@@ -98,6 +99,7 @@ void LinkPair(CLine& a, CLine& b) {
 
 void StartPuzzleGame(VMain& main, bool nextPuzzle, bool Solution) {
     if (nextPuzzle && main.CurrentPuzzle < kPuzzleCount) ++main.CurrentPuzzle;
+    BeginAtPace(main);
     if (!Solution) main.TutorialActive = main.CurrentPuzzle == kTutorialPuzzle;
     ShowPuzzleScreen(main, Solution ? Mode::SolutionReplay : Mode::PuzzleGame);
     main.platform.StopTimer(Timer::LineCreator);

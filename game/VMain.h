@@ -44,6 +44,7 @@ struct VMain : MainElements {
     std::int16_t Level = 1;
     std::int16_t LevelLineCount = 0;  // collisions since the last level rise
     std::int16_t GameStartLevel = 0;
+    bool EntersTable = true;  // the score of the game that is played may enter the table
 
     std::int16_t CurrentPuzzle = 1;  // 1 to kPuzzleCount
     std::int16_t PuzzlePage = 1;     // of the puzzle menu, 1 to kPageCount
@@ -60,6 +61,7 @@ struct VMain : MainElements {
     std::unique_ptr<Window> VPuzzleResult;
     std::unique_ptr<Window> VAbout;
     std::unique_ptr<Window> VOptions;
+    std::unique_ptr<Window> VExtras;
 };
 
 }  // namespace prismfall

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Key.h"
+
 namespace prismfall {
 
 // 0xBBGGRR: blue in the high byte, red in the low byte.
@@ -86,7 +88,8 @@ struct Element {
     bool checked = false;         // radio buttons and check boxes
     std::string_view group = {};  // of all radio buttons with the same group, one is checked
     std::array<PressSpot, 2> spots = {};  // of a PressPicture
-    const Element* panel = nullptr;       // the element that contains this one and hides it when hidden
+    Key shortcut = Key::None;             // the key that clicks it; Enter for the OK of a dialog
+    const Element* panel = nullptr;       // the element that this one lies in and is hidden with
 
     bool operator==(const Element&) const = default;
 };

@@ -1,5 +1,6 @@
-// Game time: the machine's clock minus all stalls. A stall is a period in which the game could not or should not go on.
-// Leaving out stalls makes the game as a whole take longer, but nothing is lost and nothing speeds up to catch up.
+// Game time: the machine's clock less all stalls. A stall is a time in which the game could not or should not go on.
+// With stalls left out the game as a whole takes longer, but nothing in it is lost and nothing speeds up to catch up.
+// For a player who wants more time all of it can pass more slowly.
 #pragma once
 
 #include <chrono>
@@ -15,8 +16,17 @@ class GameTime {
     // `machineClock` returns the time since some fixed moment and never runs backwards.
     explicit GameTime(std::function<Nanoseconds()> machineClock) : clock(std::move(machineClock)) {}
 
-    Nanoseconds Now() const { return (standstills > 0 ? stoppedAt : clock()) - stalls; }
-    // Leaves out a period that has just passed. `length` is 0 or more.
+    Nanoseconds Now() const { return (standstills > 0 ? stoppedAt : Paced()) - stalls; }
+    // How much of it passes in 100 ns of the machine's clock from now on, 1 to 100.
+    void SetPace(int newPercent) {
+        if (newPercent == percent) return;
+        paced = Paced();
+        pacedFrom = clock();
+        percent = newPercent;
+    }
+    // How long the machine's clock takes for a length of game time.
+    Nanoseconds ByClock(Nanoseconds length) const { return length * 100 / percent; }
+    // Leaves out a time that has just passed. `length` is 0 or more.
     void Stall(Nanoseconds length) { stalls += length; }
 
     bool StandsStill() const { return standstills > 0; }
@@ -24,10 +34,10 @@ class GameTime {
     class Standstill {
       public:
         explicit Standstill(GameTime& gameTime) : time(gameTime) {
-            if (time.standstills++ == 0) time.stoppedAt = time.clock();
+            if (time.standstills++ == 0) time.stoppedAt = time.Paced();
         }
         ~Standstill() {
-            if (--time.standstills == 0) time.Stall(time.clock() - time.stoppedAt);
+            if (--time.standstills == 0) time.Stall(time.Paced() - time.stoppedAt);
         }
         Standstill(const Standstill&) = delete;
         Standstill& operator=(const Standstill&) = delete;
@@ -37,7 +47,13 @@ class GameTime {
     };
 
   private:
+    // With stalls.
+    Nanoseconds Paced() const { return paced + (clock() - pacedFrom) * percent / 100; }
+
     std::function<Nanoseconds()> clock;
+    int percent = 100;
+    Nanoseconds paced{0};      // what had passed when the pace was last set,
+    Nanoseconds pacedFrom{0};  // and when that was
     Nanoseconds stalls{0};
     Nanoseconds stoppedAt{0};
     int standstills = 0;

@@ -10,6 +10,7 @@
 
 #include "platform/AudioPlayer.h"
 #include "platform/Chance.h"
+#include "platform/Comfort.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsKeeper.h"
 #include "platform/SurfacePainter.h"
@@ -24,7 +25,8 @@ class Platform : public SurfacePainter,
                  public TimerControl,
                  public Chance,
                  public SettingsKeeper,
-                 public AudioPlayer {
+                 public AudioPlayer,
+                 public ComfortTaker {
   public:
     // A game begins: from now on, all random numbers follow from `number` and from the moments of seeds, counted from
     // the moment of the running handler. Keeping the number is enough to reproduce all randomness of that game; it can

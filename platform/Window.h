@@ -7,12 +7,47 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "platform/Element.h"
 
 namespace prismfall {
+
+// A place on the surface that keys can choose and press.
+struct SurfaceSpot {
+    const void* what = nullptr;  // tells it from others, also after it has moved; it is compared and no more
+    float x = 0;                 // where to press, game pixels
+    float y = 0;
+    float width = 0;  // of what is there, around that place; 0 for the head of a beam
+    float height = 0;
+};
+
+struct SurfaceSpots {
+    std::vector<SurfaceSpot> list;  // in the order in which Tab goes through them
+    bool haveKeysAlone = false;     // a game is being played: keys are for the surface and not for the elements
+};
+
+// The place that the player has chosen by keys, in the window.
+struct KeyChoice {
+    const void* what = nullptr;  // null for none
+    bool isShown = false;        // keys are in use, so the place is marked
+    bool isOnSurface = false;    // otherwise it is an element, or a spot on one
+    float left = 0;
+    float top = 0;
+    float width = 0;  // 0 for the head of a beam
+    float height = 0;
+
+    bool operator==(const KeyChoice&) const = default;
+};
+
+// Where the pointer was last seen in a window.
+struct Pointer {
+    bool isKnown = false;
+    float x = 0;
+    float y = 0;
+};
 
 enum class MouseButton : std::int16_t { Left = 1, Right = 2 };
 
@@ -22,10 +57,14 @@ constexpr std::int16_t kEscapeKey = 27;
 // of the window's inner area for the window's own events, of the element for an element's.
 struct WindowHandlers {
     std::function<void()> activate;                                       // the window has come to the front
+    std::function<void()> deactivate;                                     // another program's window gets the keys
     std::function<void(float x, float y)> mouseMove;                      // over the surface, not over an element
     std::function<void(MouseButton button, float x, float y)> mouseDown;  // on the surface
     std::function<void()> doubleClick;  // the second press of a double click, instead of mouseDown
     std::function<void(std::int16_t code)> keyDown;
+    std::function<void(SurfaceSpots& spots)> spots;  // adds what keys can choose on the surface now
+    std::function<std::optional<SurfaceSpot>(float x, float y)> reached;  // the head that a press would reach
+    std::function<void(Key key)> command;                                 // a key that is no shortcut of an element
     std::function<void(bool minimised)> resize;
     std::function<void()> queryUnload;  // the window may be about to close; can come more than once, e.g. when a hidden
                                         // page may never be seen again
@@ -40,12 +79,15 @@ struct Window {
     std::string_view title;
     int innerWidth = 0;  // game pixels
     int innerHeight = 0;
-    std::string_view background;  // a picture placed at the top left and cut off at the edges
-    bool isDialog = false;        // has a small frame without minimise and maximise buttons
+    std::string_view background;  // a picture laid at the top left and cut off at the edges
+    bool isDialog = false;        // a small frame without minimise and maximise boxes
+    bool stopsTime = false;       // of a dialog: game time stands still while it is open, and the game notices nothing
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works
     std::vector<Element*> elements;  // stacking order, later ones on top
+    KeyChoice choice;                // see KeyInput.h
+    Pointer pointer;
     WindowHandlers on;
 
     Window() = default;

@@ -33,6 +33,7 @@ class WindowInput {
     void Close(const Window& window);
     // The window in front, or null.
     Window* Front() const { return windows.empty() ? nullptr : windows.back(); }
+    bool HasInput(const Window& window) const;
 
     // --- The player's input, for a backend that knows places and times. Every button except the left one acts as the
     // right one; the backend translates it.
@@ -62,7 +63,6 @@ class WindowInput {
         bool isFirst = false;  // the first press of a possible double click
     };
 
-    bool HasInput(const Window& window) const;
     bool IsNearLast(const Window& window, const PressPlace& place) const;
     void Click(const Window& window, Element& element) const;
 

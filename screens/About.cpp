@@ -80,7 +80,7 @@ std::vector<Element> MakeElements() {
     outline.picture = {};
     outline.colour = kCream;
     table.push_back(outline);
-    table.push_back(MakeButton("Command1", 176, 422, 65, 50, {"OKAboutUp", "OKAboutDown"}, "OK"));
+    table.push_back(MakeOkButton("Command1", 176, 422, 65, 50, {"OKAboutUp", "OKAboutDown"}));
     return table;
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "audio/SoundEffects.h"
+#include "screens/MainElements.h"
 
 namespace prismfall {
 
@@ -18,6 +19,12 @@ void ShowDownFace(Element& element) {
 
 void PressElement(const Audio& audio, const Element& element) {
     if (element.kind == ElementKind::Button) PlaySound2(audio, Sound::Button, true);
+}
+
+Element MakeOkButton(std::string_view name, int left, int top, int width, int height, ButtonFaces faces) {
+    Element button = MakeButton(name, left, top, width, height, faces, "OK");
+    button.shortcut = Key::Enter;
+    return button;
 }
 
 std::unique_ptr<Window> MakeDialog(const Audio& audio, std::string_view name, std::string_view title, Extent inner,

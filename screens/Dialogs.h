@@ -42,6 +42,9 @@ struct DialogClick {
     std::function<void()> act;
 };
 
+// The OK of a dialog, which Enter clicks too.
+Element MakeOkButton(std::string_view name, int left, int top, int width, int height, ButtonFaces faces);
+
 // A dialog with the shared background and the given elements. Its buttons have their faces and sounds; a click on an
 // element that is not in `clicks` does nothing. `audio` must outlive it.
 std::unique_ptr<Window> MakeDialog(const Audio& audio, std::string_view name, std::string_view title, Extent inner,

@@ -50,8 +50,12 @@ MainElements::MainElements() {
         PictTut[i].accessibleName = picture.accessibleName;
         PictTut[i].visible = false;
     }
-    CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to turn pages quickly
-    ImagePrismfall.accessibleName = "Prismfall";
+    CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to leaf through the pages
+    CommandPrevious.shortcut = Key::PageUp;
+    CommandNext.shortcut = Key::PageDown;
+    CmdStart.shortcut = kStart.shortcut;
+    cmdPause.shortcut = kPause.shortcut;
+    ImagePrismfall.spoken = "Prismfall";
     LabelPuzzlePage.picture = {};
 }
 
@@ -63,6 +67,7 @@ std::vector<Element*> MainElements::InStackingOrder() {
     for (Element& mark : LabelSolved) all.push_back(&mark);
     for (Element& picture : PictTut) all.push_back(&picture);
     all.push_back(&LabelMulti);
+    all.push_back(&LabelPace);
     return all;
 }
 

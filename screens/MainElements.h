@@ -35,20 +35,22 @@ inline Element MakeButton(std::string_view name, int left, int top, int width, i
 struct ButtonMeaning {
     ButtonFaces faces;
     std::string_view tag;
-    std::string_view accessibleName;
+    std::string_view spoken;
+    Key shortcut = Key::None;
 };
 
-inline constexpr ButtonMeaning kStart{{"StartUp", "StartDown"}, "", "Start"};
-inline constexpr ButtonMeaning kRestart{{"RestartUp", "RestartDown"}, "Restart", "Restart"};
+inline constexpr ButtonMeaning kStart{{"StartUp", "StartDown"}, "", "Start", Key::R};
+inline constexpr ButtonMeaning kRestart{{"RestartUp", "RestartDown"}, "Restart", "Restart", Key::R};
 inline constexpr ButtonMeaning kTakeover{{"TakeoverUp", "TakeoverDown"}, "Takeover", "Take over"};
-inline constexpr ButtonMeaning kPause{{"PauseUp", "PauseDown"}, "", "Pause"};
-inline constexpr ButtonMeaning kResume{{"ResumeUp", "ResumeDown"}, "Resume", "Resume"};
+inline constexpr ButtonMeaning kPause{{"PauseUp", "PauseDown"}, "", "Pause", Key::P};
+inline constexpr ButtonMeaning kResume{{"ResumeUp", "ResumeDown"}, "Resume", "Resume", Key::P};
 
 inline void SetMeaning(Element& button, const ButtonMeaning& meaning) {
     button.faces = meaning.faces;
     button.picture = meaning.faces.up;
     button.tag = meaning.tag;
-    button.accessibleName = meaning.accessibleName;
+    button.spoken = meaning.spoken;
+    button.shortcut = meaning.shortcut;
 }
 
 // A number in red on a panel's picture.
@@ -95,6 +97,16 @@ struct MainElements {
                           .height = 17,
                           .visible = false,
                           .font = {.family = "Felix Titling", .points = 9.75F}};
+
+    Element LabelPace = {.name = "LabelPace",  // in the main menu, where an Arcade game would be a slower one
+                         .kind = ElementKind::Label,
+                         .left = 345,
+                         .top = 476,
+                         .width = 300,
+                         .height = 18,
+                         .visible = false,
+                         .colour = 0xC0FFFF,
+                         .font = {.points = 9.75F}};
 
     MainElements();
     MainElements(const MainElements&) = delete;

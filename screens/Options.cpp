@@ -60,7 +60,7 @@ std::vector<Element> MakeElements() {
     table.push_back(MakeElement("Frame2", ElementKind::GroupFrame, 135, 17, 82, 83, "Sound"));
     table.push_back(MakeElement("CheckSoundEffects", ElementKind::CheckBox, 144, 32, 63, 38, "Effects"));
     table.push_back(MakeElement("CheckMusic", ElementKind::CheckBox, 144, 56, 63, 41, "Music"));
-    table.push_back(MakeButton("Command1", 142, 238, 73, 49, {"OKOptionsUp", "OKOptionsDown"}, "OK"));
+    table.push_back(MakeOkButton("Command1", 142, 238, 73, 49, {"OKOptionsUp", "OKOptionsDown"}));
     return table;
 }
 

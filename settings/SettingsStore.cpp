@@ -1,6 +1,7 @@
 #include "settings/SettingsStore.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <charconv>
 #include <functional>
@@ -18,6 +19,25 @@ constexpr std::string_view kApplication = "Tavelor";
 constexpr std::string_view kGeneral = "General";
 constexpr std::string_view kScores = "Scores";
 constexpr std::string_view kSolvedPuzzles = "SolvedPuzzles";
+constexpr std::string_view kExtras = "Extras";
+
+// The defaults are those of Extras.
+struct ExtraRow {
+    std::string_view key;
+    std::int16_t Extras::*value;
+    std::array<std::int16_t, 4> allowed;
+};
+
+constexpr std::array<ExtraRow, 8> kExtraRows = {{
+    {"Palette", &Extras::Palette, {0, 1}},
+    {"Patterns", &Extras::Patterns, {0, 1}},
+    {"Rings", &Extras::Rings, {0, 1}},
+    {"Pace", &Extras::Pace, {100, 80, 60, 40}},
+    {"PauseAway", &Extras::PauseAway, {0, 1}},
+    {"MusicVolume", &Extras::MusicVolume, {100, 75, 50, 25}},
+    {"EffectsVolume", &Extras::EffectsVolume, {100, 75, 50, 25}},
+    {"Mute", &Extras::Mute, {0, 1}},
+}};
 
 std::string KeyOf(std::string_view word, std::size_t number) { return std::string(word) + std::to_string(number); }
 
@@ -72,7 +92,17 @@ ScoreTable ReadScores(const TextReader& read) {
     return table;
 }
 
-// Reads from the store and remembers what was read.
+// A value that the game does not know counts as missing.
+Extras ReadExtras(const TextReader& read) {
+    Extras extras;
+    for (const ExtraRow& row : kExtraRows) {
+        const std::int16_t number = ReadNumber(read, kExtras, row.key, extras.*row.value);
+        if (std::ranges::find(row.allowed, number) != row.allowed.end()) extras.*row.value = number;
+    }
+    return extras;
+}
+
+// Reads from the store, and remembers what was read.
 TextReader ReaderOf(SettingsKeeper& store, StoreMemory& memory) {
     return [&](std::string_view section, std::string_view key, const std::string& fallback) {
         std::string text = store.ReadSetting(kApplication, section, key, fallback);
@@ -91,7 +121,12 @@ void AddScores(std::vector<SettingValue>& values, const ScoreTable& table) {
     }
 }
 
-// All 79, in the order in which they are written.
+void AddExtras(std::vector<SettingValue>& values, const Extras& extras) {
+    for (const ExtraRow& row : kExtraRows)
+        values.push_back({std::string(kExtras), std::string(row.key), TextOf(extras.*row.value)});
+}
+
+// The 79 that the store is to hold and the extras, in the order in which they are written.
 std::vector<SettingValue> AllValues(const Settings& settings, const ScoreTable& scores) {
     std::vector<SettingValue> values = {{std::string(kGeneral), "PlayFirstTime", TextOf(settings.PlayFirstTime)},
                                         {std::string(kGeneral), "StartLevel", TextOf(settings.StartLevel)},
@@ -100,6 +135,7 @@ std::vector<SettingValue> AllValues(const Settings& settings, const ScoreTable& 
     AddScores(values, scores);
     for (std::size_t i = 0; i < kPuzzleCount; ++i)
         values.push_back({std::string(kSolvedPuzzles), KeyOf("Puzzle", i + 1), TextOf(settings.SolvedPuzzles[i])});
+    AddExtras(values, settings.extras);
     return values;
 }
 
@@ -137,7 +173,7 @@ ScoreTable MergedScores(const Settings& settings, const SettingsReader& stored) 
 // The score table has been merged with the stored one, so it is compared with that.
 bool IsToBeWritten(const StoreMemory& memory, const SettingValue& value, const SettingsReader& stored) {
     const std::optional<std::string> text = stored(value.section, value.key);
-    if (!text) return true;
+    if (!text && value.section != kExtras) return true;
     return value.text != (value.section == kScores ? text : KnownText(memory, value.section, value.key));
 }
 
@@ -161,6 +197,7 @@ void ReadSettings(Settings& settings, SettingsKeeper& store) {
     settings.SoundEffects = ReadBoolean(read, kGeneral, "SoundEffects", true);
     for (std::size_t i = 0; i < kPuzzleCount; ++i)
         settings.SolvedPuzzles[i] = ReadBoolean(read, kSolvedPuzzles, KeyOf("Puzzle", i + 1), false);
+    settings.extras = ReadExtras(read);
 }
 
 void SaveSettings(Settings& settings, SettingsKeeper& store) {

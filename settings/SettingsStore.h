@@ -11,10 +11,11 @@ namespace prismfall {
 // Reads all settings. Whatever is missing or malformed gets its default.
 void ReadSettings(Settings& settings, SettingsKeeper& store);
 
-// Writes to the store what this run has changed and what the store lacks, so that all 79 values are in it. If the
-// store's score table is not the one that this run knows, the games of this run are entered in the store's table (in an
-// empty one, if this run has cleared it), which then becomes this run's too. If saving fails, the changes are kept for
-// the next call. May be called any number of times.
+// Writes to the store what this run has changed, and what the store lacks, so that all 79 values are in it. Of the
+// extras only those are written that this run has changed: a store without them has their defaults. If the
+// store's score table is not the one that this run knows, the games of this run enter that table (an empty one, if this
+// run has cleared it), and it becomes this run's too. If saving fails, the changes are kept for the next call. May be
+// called any number of times.
 void SaveSettings(Settings& settings, SettingsKeeper& store);
 
 }  // namespace prismfall

@@ -1,6 +1,9 @@
 #include "simulation/BeamControl.h"
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <iterator>
 
 #include "platform/Numbers.h"
 #include "simulation/BeamSpawning.h"
@@ -58,6 +61,15 @@ CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y) {
         nearest = beam;
     }
     return nearest;
+}
+
+std::vector<const CLine*> ReachableHeads(const Field& field) {
+    std::vector<const CLine*> heads;
+    std::ranges::copy_if(field.Lines, std::back_inserter(heads), [&field](const CLine* beam) {
+        return beam->RunMode != Motion::Stopped && FindNearestLine(field, beam->XEnd, beam->YEnd) == beam;
+    });
+    std::ranges::stable_sort(heads, std::greater<>(), &CLine::YEnd);
+    return heads;
 }
 
 void BendLine(Field& field, CLine& oLine) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "simulation/Field.h"
 
@@ -11,7 +12,11 @@ namespace prismfall {
 // if it is 50 pixels away or more.
 CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y);
 
-// Turns a beam in the entry zone around on the spot: erases what was drawn of it and reverses its direction.
+// The beams that a press can reach, by their heads: the nearest to the ground first, of those equally near the earliest
+// in Lines. One whose head lies exactly on that of an earlier beam is left out, since a press there reaches the other.
+std::vector<const CLine*> ReachableHeads(const Field& field);
+
+// Turns a beam in the entry zone round on the spot: what was drawn of it is erased, and it runs on the other way.
 void BendLine(Field& field, CLine& oLine);
 
 // Runs a beam forward to its end, painting as it goes; each bounce off a wall starts a new segment of its chain. If it

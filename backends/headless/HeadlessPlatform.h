@@ -90,6 +90,10 @@ class HeadlessPlatform : public Platform {
     void MusicStop() override;
     std::string MusicFailureText(int code) override;
 
+    // There is nothing to be seen, heard or waited for.
+    void SetComfort(const Comfort&) override {}
+    void SetPace(int) override {}
+
   private:
     void PrintStroke(const char* operation, int x1, int y1, int x2, int y2, Colour colour, int width);
     void MoveClockTo(Nanoseconds moment);

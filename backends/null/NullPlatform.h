@@ -94,6 +94,8 @@ class NullPlatform : public Platform {
     void MusicPause() override {}
     void MusicStop() override {}
     std::string MusicFailureText(int) override { return {}; }
+    void SetComfort(const Comfort&) override {}
+    void SetPace(int percent) override { time.SetPace(percent); }
 
   private:
     Nanoseconds clock{0};  // a real backend reads the machine's clock

@@ -121,7 +121,12 @@ void SdlPlatform::SurfaceClear() { desktop.Layer().Clear(); }
 bool SdlPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (!OpenDialog(dialog)) return false;
-    loop.RunWhile([&] { return IsStanding(dialog); });
+    const auto isOpen = [&] { return IsStanding(dialog); };
+    if (dialog.stopsTime) {
+        loop.StandStillWhile(isOpen);
+    } else {
+        loop.RunWhile(isOpen);
+    }
     return CloseDialog(dialog);
 }
 
@@ -251,5 +256,12 @@ void SdlPlatform::MusicStop() {
 }
 
 std::string SdlPlatform::MusicFailureText(int code) { return audio.MusicFailureText(code); }
+
+void SdlPlatform::SetComfort(const Comfort& comfort) {
+    desktop.SetComfort(comfort);
+    audio.SetShares(comfort.musicPercent, comfort.effectsPercent);
+}
+
+void SdlPlatform::SetPace(int percent) { loop.SetPace(percent); }
 
 }  // namespace prismfall

@@ -68,6 +68,9 @@ class SdlPlatform final : public Platform {
     void MusicStop() override;
     std::string MusicFailureText(int code) override;
 
+    void SetComfort(const Comfort& comfort) override;
+    void SetPace(int percent) override;
+
   private:
     explicit SdlPlatform(PictureStore pictures);
 

@@ -77,7 +77,7 @@ enum class EventKind : std::int32_t {
     Press,     // a button goes down: number is a MouseButton, x, y
     Release,   // a button goes up: number is a MouseButton, x, y
     Activate,  // an element is clicked without a pointer, by a key or a screen reader: number is the element
-    Key,       // a key goes down: number is its code
+    Key,       // a key goes down: number is 27 for Esc, or a Key
     Close,     // the close box of a dialog
 };
 
@@ -133,6 +133,8 @@ PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t el
 PAGE_IMPORT("showPixels")
 void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
                 std::int32_t height);
+// Whether a game is being played, so that Tab and the arrows choose beams and not what the page offers.
+PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t toField);
 // Shows one line about saving below the picture. An empty one removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
 // An error box. It stays open until the page reports Close for the window kMessageBox.
@@ -151,6 +153,7 @@ PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::u
 // --- Sound and music. The page finds the files by itself; one that cannot be loaded is silent.
 
 PAGE_IMPORT("playSound") void PlaySound(std::int32_t id);
+PAGE_IMPORT("setEffectsVolume") void SetEffectsVolume(float share);  // 0 to 1
 PAGE_IMPORT("openMusic") void OpenMusic(const char* name, std::uint32_t length);
 PAGE_IMPORT("closeMusic") void CloseMusic();
 PAGE_IMPORT("setMusicVolume") void SetMusicVolume(float share);  // 0 to 1

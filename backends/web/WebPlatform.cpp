@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/KeyInput.h"
 #include "platform/NominalFrame.h"
 
 namespace prismfall {
@@ -105,6 +106,7 @@ void WebPlatform::Handle(const page::Event& event) {
     Window& window = front.Content();
     switch (event.kind) {
         case page::EventKind::Move:
+            NotePointer(window, event.x, event.y);
             return input.Move(window, event.x, event.y);
         case page::EventKind::Press:
             return input.Press(window, static_cast<MouseButton>(event.number),
@@ -114,7 +116,8 @@ void WebPlatform::Handle(const page::Event& event) {
         case page::EventKind::Activate:
             return input.PressAndClick(window, *window.elements[static_cast<std::size_t>(event.number)]);
         case page::EventKind::Key:
-            return input.Key(window, event.number);
+            if (event.number == kEscapeKey) return input.Key(window, event.number);
+            return PressKey(input, window, static_cast<Key>(event.number), KeyReach::Surface);
         case page::EventKind::Close:
             closeBoxUsed = true;
     }
@@ -123,7 +126,7 @@ void WebPlatform::Handle(const page::Event& event) {
 void WebPlatform::Rest() {
     if (ended) return;
     const std::optional<Nanoseconds> due = timers.NextDue();
-    const double rest = due ? Milliseconds(*due - time.Now()) : kLongestWait;
+    const double rest = due ? Milliseconds(time.ByClock(*due - time.Now())) : kLongestWait;
     page::Wait(page::Now() + std::min(rest, kLongestWait), 1);
 }
 
@@ -161,18 +164,26 @@ void WebPlatform::DeliverMinimised() {
 
 void WebPlatform::Present() {
     if (ended) return;
+    TellOfKeys();
     SendSurface();
     for (const auto& window : shown) window->Refresh();
 }
 
+void WebPlatform::TellOfKeys() {
+    SurfaceSpots spots;
+    if (main->on.spots) main->on.spots(spots);
+    if (std::exchange(fieldHasKeys, spots.haveKeysAlone) != fieldHasKeys) page::GiveKeys(fieldHasKeys ? 1 : 0);
+}
+
 void WebPlatform::SendSurface() {
-    layer.TakeDamage(damage);
-    Merge(damage);
+    FollowChoice(*main, KeyReach::Surface);
+    looks.Mark(PlaceToMark(*main, comfort.ringsAtPointer));
+    looks.TakeDamage(damage);
     for (const PixelBox& box : damage) {
         const int width = box.right - box.left;
         pixels.clear();
         for (int y = box.top; y < box.bottom; ++y) {
-            const std::uint32_t* row = layer.Row(y);
+            const std::uint32_t* row = looks.Row(y);
             std::transform(row + box.left, row + box.right, std::back_inserter(pixels), PagePixel);
         }
         page::ShowPixels(pixels.data(), box.left, box.top, width, box.bottom - box.top);
@@ -205,8 +216,10 @@ bool WebPlatform::ShowModally(Window& dialog) {
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     closeBoxUsed = false;
     if (dialog.on.activate) dialog.on.activate();
-    Present();  // a screen reader begins to read what is there
+    std::optional<GameTime::Standstill> standstill;
+    if (dialog.stopsTime) standstill.emplace(time);
     for (Work(); !ended && dialog.visible && !closeBoxUsed; Work()) Rest();
+    standstill.reset();
     timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
@@ -310,7 +323,15 @@ int WebPlatform::MusicOpen(std::string_view name) {
 }
 
 void WebPlatform::MusicSetVolume(int volume) {
-    page::SetMusicVolume(static_cast<float>(std::clamp(volume, 0, kFullVolume)) / static_cast<float>(kFullVolume));
+    musicVolume = std::clamp(volume, 0, kFullVolume);
+    page::SetMusicVolume(static_cast<float>(musicVolume * comfort.musicPercent) / (kFullVolume * 100.0F));
+}
+
+void WebPlatform::SetComfort(const Comfort& wanted) {
+    comfort = wanted;
+    looks.Recolour(comfort.recolourings);
+    MusicSetVolume(musicVolume);
+    page::SetEffectsVolume(static_cast<float>(comfort.effectsPercent) / 100);
 }
 
 void WebPlatform::MusicPlayLooping() { page::PlayMusicLooping(); }

@@ -10,6 +10,7 @@
 
 #include "backends/web/Imports.h"
 #include "backends/web/ShownWindow.h"
+#include "platform/Looks.h"
 #include "platform/Platform.h"
 #include "platform/RandomNumbers.h"
 #include "platform/SettingsText.h"
@@ -69,6 +70,9 @@ class WebPlatform final : public Platform {
     void MusicStop() override;
     std::string MusicFailureText(int code) override;
 
+    void SetComfort(const Comfort& wanted) override;
+    void SetPace(int percent) override { time.SetPace(percent); }
+
   private:
     void Work();
     bool HandleEvents();  // whether there were any
@@ -79,9 +83,13 @@ class WebPlatform final : public Platform {
     void DeliverMinimised();
     void Open(Window& window, Place place);
     void SendSurface();
+    void TellOfKeys();
     void TellOfSaving(bool isWritten);
 
     Surface layer;
+    Looks looks{layer};
+    Comfort comfort;
+    int musicVolume = 0;  // that the game asks for
     std::vector<PixelBox> damage;
     std::vector<std::uint32_t> pixels;  // a box of the layer, in the page's format
 
@@ -97,8 +105,9 @@ class WebPlatform final : public Platform {
     std::optional<SettingsValues> readValues;  // of the store, until it changes
     bool isFailedSaveTold = false;
     bool ended = false;
-    bool hidden = false;     // as the page was last seen
-    bool minimised = false;  // as the main window was last told
+    bool fieldHasKeys = false;  // as the page was last told
+    bool hidden = false;        // as the page was last seen
+    bool minimised = false;     // as the main window was last told
 };
 
 }  // namespace prismfall

@@ -47,8 +47,26 @@ struct Bench {
     std::function<void(Timer)> onTick;
 };
 
-TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsCaughtUp) {
-    using Looks = std::vector<std::pair<int, const char*>>;  // clock time, and what ticks then
+TEST(TimerWheel, APaceStretchesGameTimeFromWhereItIs) {
+    Bench bench;
+    bench.Start(Timer::LineExtender, 10);
+    EXPECT_EQ(bench.At(10), "E");
+    bench.time.SetPace(40);
+    EXPECT_EQ(bench.At(34), "");
+    EXPECT_EQ(bench.time.ByClock(*bench.wheel.NextDue() - bench.time.Now()), std::chrono::milliseconds(1));
+    EXPECT_EQ(bench.At(35), "E");
+    {
+        const GameTime::Standstill standstill(bench.time);
+        bench.clock = std::chrono::milliseconds(135);
+    }
+    EXPECT_EQ(bench.At(159), "");
+    EXPECT_EQ(bench.At(160), "E");
+    bench.time.SetPace(100);
+    EXPECT_EQ(bench.At(170), "E");
+}
+
+TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsMadeUpFor) {
+    using Looks = std::vector<std::pair<int, const char*>>;  // at what time of the clock, and what ticks
     for (const auto& [deleter, extender, looks] : {std::tuple{0, 10, Looks{{9, ""}, {10, "E"}, {19, ""}, {20, "E"}}},
                                                    {0, 10, Looks{{19, "E"}, {20, "E"}, {20, ""}, {30, "E"}}},
                                                    {0, 10, Looks{{20, "E"}, {29, ""}, {30, "E"}}},

@@ -54,7 +54,6 @@ test('all buttons can be reached and pressed with keys, and options outlast the 
     for (let i = 0; i < 6; ++i) await game.page.key('ArrowDown');
     await tabTo(game, 'checkbox');
     await game.page.key('Space');
-    await game.page.key('Escape');
     await tabTo(game, 'OK');
     await game.page.key('Enter');
     await game.noDialog();
@@ -73,6 +72,29 @@ test('all buttons can be reached and pressed with keys, and options outlast the 
         await tabTo(game, words);
         await game.page.key('Enter');
     }
+});
+
+test('a puzzle is picked and played by keys, and Tab is the game’s only while it is played', async () => {
+    const game = await openGame();
+    const white = () => {
+        const canvas = document.querySelector('canvas');
+        const { data } = canvas.getContext('2d').getImageData(0, 0, canvas.width, canvas.height);
+        return new Uint32Array(data.buffer).filter((pixel) => pixel === 0xffffffff).length;
+    };
+    await tabTo(game, 'Puzzle');
+    for (const key of ['Enter', 'ArrowRight', 'ArrowRight', 'ArrowDown', 'Enter']) {
+        await game.page.key(key);
+        await sleep(900); // a click sounds to its end
+    }
+    await game.until('puzzle 5', () => /Puzzle 5/.test(document.getElementById('picture').textContent));
+    await game.page.key('r');
+    await game.untilMoved();
+    await game.page.key('ArrowLeft');
+    for (let i = 0; i < 3; ++i) await game.page.key('Tab');
+    assert.match(await game.page.evaluate(focused), /^Playfield/);
+    await game.until('a ring', white);
+    await game.page.key('p');
+    await tabTo(game, 'Resume');
 });
 
 test('screen readers meet no obstacle', async () => {

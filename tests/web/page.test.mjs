@@ -22,8 +22,6 @@ const shows = (words) => game.until(words, (text) => !!document.querySelector(`[
 test('a first run shows the manual and leads through the tutorial', async () => {
     await game.dialog('About Prisfall v1.1');
     await page.key('Escape');
-    await page.key('Escape');
-    await game.click('OK');
     await game.noDialog();
     await game.click('Start');
     await shows('In puzzle mode the goal is to clear all beams before they reach the ground');

@@ -37,6 +37,9 @@ class Dialogs(harness.WindowTest):
         self.check_window(run, dialog, layout.ABOUT)
         dialog.use_close_box()
         run.wait_for_close(layout.ABOUT)
+        for key, (button, title) in zip(("Escape", "Return"), layout.DIALOGS.items()):
+            run.open_dialog(button, title).key(key)
+            run.wait_for_close(title)
 
     def test_dialogs_may_come_and_go_in_haste(self):
         settings = self.settings(later_run(SoundEffects="False"))  # no click sound to wait for
@@ -54,7 +57,6 @@ class Dialogs(harness.WindowTest):
         for button in ("CommandExit", "CmdOptions"):
             run.press(button)
         run.main.use_close_box()
-        run.main.key("Escape")
         self.assertTrue(holds_for(run.is_running, 0.3))
         self.assertTrue(dialog.is_visible())
         dialog.click(*layout.middle("Command1", layout.ABOUT))

@@ -22,7 +22,7 @@ class Ends(harness.WindowTest):
             "SIGTERM": lambda run: run.kill(signal.SIGTERM),
             "two signals": lambda run: run.process.send_signal(signal.SIGHUP) or run.kill(signal.SIGINT),
             "close box": lambda run: run.main.use_close_box() or run.wait_for_end(),
-            "display that hangs": lambda run: (tell(signal.SIGSTOP), run.kill(signal.SIGTERM), tell(signal.SIGCONT))[1],
+            "Ctrl+Q": lambda run: run.main.key("ctrl+q") or run.wait_for_end(),
             "end of the display": lambda run: display.processes[0].terminate() or run.wait_for_end(),
         }
         try:

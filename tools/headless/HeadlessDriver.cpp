@@ -10,6 +10,7 @@
 #include "game/MainWindow.h"
 #include "game/Modes.h"
 #include "game/PuzzleStart.h"
+#include "platform/KeyInput.h"
 #include "simulation/BeamRemoval.h"
 #include "tools/headless/StateDump.h"
 #include "tools/headless/TimerNames.h"
@@ -43,6 +44,26 @@ constexpr std::array<Member, 9> kMembers = {{
     {"GameMode", 0, 4, [](VMain& main, std::int16_t value) { EnterMode(main, static_cast<Mode>(value)); }},
     {"GameRunning", 0, 1, [](VMain& main, std::int16_t value) { main.GameRunning = value != 0; }},
 }};
+
+struct KeyName {
+    std::string_view name;
+    Key key;
+};
+
+constexpr std::array<KeyName, 14> kKeys = {{{"Left", Key::Left},
+                                            {"Right", Key::Right},
+                                            {"Up", Key::Up},
+                                            {"Down", Key::Down},
+                                            {"Tab", Key::Tab},
+                                            {"ShiftTab", Key::ShiftTab},
+                                            {"Space", Key::Space},
+                                            {"Enter", Key::Enter},
+                                            {"PageUp", Key::PageUp},
+                                            {"PageDown", Key::PageDown},
+                                            {"P", Key::P},
+                                            {"R", Key::R},
+                                            {"M", Key::M},
+                                            {"F1", Key::F1}}};
 
 MouseButton ButtonOf(Arguments& words) { return static_cast<MouseButton>(words.WholeNumber(1, 2)); }
 
@@ -95,11 +116,7 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
          [](Driver& driver, Arguments&) { driver.platform.Input().DoubleClickSurface(driver.main->window); }},
         {"click", 1, 1, true, [](Driver& driver, Arguments& words) { driver.Click(words); }},
         {"picture", 4, 4, true, [](Driver& driver, Arguments& words) { driver.PressPicture(words); }},
-        {"key", 1, 1, true,
-         [](Driver& driver, Arguments& words) {
-             const std::int16_t code = words.ShortNumber();
-             if (words.IsGood()) driver.platform.Input().Key(driver.main->window, code);
-         }},
+        {"key", 1, 1, true, [](Driver& driver, Arguments& words) { driver.PressKeyOf(words); }},
         {"minimise", 0, 0, true, [](Driver& driver, Arguments&) { driver.main->window.on.resize(true); }},
         {"restore", 0, 0, true, [](Driver& driver, Arguments&) { driver.main->window.on.resize(false); }},
         {"close", 0, 0, true, [](Driver& driver, Arguments&) { driver.Close(); }},
@@ -200,6 +217,14 @@ void HeadlessDriver::Press(Arguments& words) {
     const float x = PlaceOf(words);
     const float y = PlaceOf(words);
     if (words.IsGood()) platform.Input().PressSurface(main->window, button, x, y);
+}
+
+// A number is a key as the game's own handler gets it, a name is one that plays.
+void HeadlessDriver::PressKeyOf(Arguments& words) {
+    const auto row = std::ranges::find(kKeys, std::string_view(words.Next()), &KeyName::name);
+    if (row != kKeys.end()) return PressKey(platform.Input(), main->window, row->key);
+    const std::int16_t code = words.ShortNumber();
+    if (words.IsGood()) platform.Input().Key(main->window, code);
 }
 
 void HeadlessDriver::Click(Arguments& words) {

@@ -37,6 +37,7 @@ class HeadlessDriver {
 
     void Move(Arguments& words);
     void Press(Arguments& words);
+    void PressKeyOf(Arguments& words);
     void Click(Arguments& words);
     void PressPicture(Arguments& words);
     void Close();

@@ -56,7 +56,7 @@ bool EventLoop::Work(const std::function<bool()>& goesOn) {
 
 void EventLoop::Rest() {
     const std::optional<Nanoseconds> due = timers.NextDue();
-    const Nanoseconds left = due ? *due - time.Now() : kLongestWait;
+    const Nanoseconds left = due ? time.ByClock(*due - time.Now()) : kLongestWait;
     using std::chrono::milliseconds;
     const auto listening = left < kNearby ? std::chrono::floor<milliseconds>(left - kSleptByClock)
                                           : std::chrono::ceil<milliseconds>(std::min(left, kLongestWait));
@@ -100,7 +100,7 @@ void EventLoop::LetEventsRun() {
     desktop.Refresh();
     if (worked) return;
     const Nanoseconds now = time.Now();
-    SleepUntil(Now() + std::min(kYieldRest, timers.NextDue().value_or(now + kYieldRest) - now));
+    SleepUntil(Now() + std::min(kYieldRest, time.ByClock(timers.NextDue().value_or(now + kYieldRest) - now)));
 }
 
 void EventLoop::PaintFor(Nanoseconds length) {

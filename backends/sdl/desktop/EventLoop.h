@@ -18,6 +18,7 @@ class EventLoop {
     static Nanoseconds Now();
 
     TimerWheel& Timers() { return timers; }
+    void SetPace(int percent) { time.SetPace(percent); }
 
     // Runs forever: the outermost level, the only one that tells the main window that it was minimised or restored.
     [[noreturn]] void Run();

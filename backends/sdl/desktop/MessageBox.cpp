@@ -15,7 +15,6 @@ constexpr Font kFont{.family = "MS Sans Serif", .points = 9.75F};
 constexpr Colour kTextColour = 0x80FFFF;  // pale yellow, as in the game's other dialogs
 constexpr Colour kMarkColour = 0x2020D0;
 constexpr Colour kCrossColour = 0xFFFFFF;
-constexpr std::int16_t kEnterKey = 13;
 
 constexpr int kMargin = 18;
 constexpr int kMarkSize = 36;
@@ -81,12 +80,10 @@ void MakeMessageBox(Window& box, std::string_view text, Display& display, const 
         at({.name = "Word", .kind = ElementKind::Label, .text = "OK"}, buttonLeft + (kButtonWidth - wordWidth) / 2,
            buttonTop + (kButtonHeight - wordHeight) / 2, wordWidth, wordHeight),
         at({.name = "Edge", .kind = ElementKind::Outline}, buttonLeft, buttonTop, kButtonWidth, kButtonHeight),
-        at({.name = "Button", .kind = ElementKind::Button}, buttonLeft, buttonTop, kButtonWidth, kButtonHeight),
+        at({.name = "Button", .kind = ElementKind::Button, .shortcut = Key::Enter}, buttonLeft, buttonTop, kButtonWidth,
+           kButtonHeight),
     });
     box.on.elementClick = [dismiss](Element&) { dismiss(); };
-    box.on.keyDown = [dismiss](std::int16_t code) {
-        if (code == kEnterKey || code == kEscapeKey) dismiss();
-    };
 }
 
 }  // namespace prismfall

@@ -3,14 +3,55 @@
 #include "backends/sdl/desktop/SdlDesktop.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
+
+#include "platform/KeyInput.h"
 
 namespace prismfall {
 
 namespace {
 
 constexpr std::uint32_t kFrameMilliseconds = 100;  // how long a desktop may take to draw a frame
+
+constexpr int kCommandKeys = KMOD_CTRL | KMOD_ALT | KMOD_GUI;
+
+struct KeyRow {
+    SDL_Keycode code;
+    Key key;
+};
+
+constexpr std::array<KeyRow, 14> kKeys = {{{SDLK_TAB, Key::Tab},
+                                           {SDLK_RETURN, Key::Enter},
+                                           {SDLK_KP_ENTER, Key::Enter},
+                                           {SDLK_SPACE, Key::Space},
+                                           {SDLK_PAGEUP, Key::PageUp},
+                                           {SDLK_PAGEDOWN, Key::PageDown},
+                                           {SDLK_LEFT, Key::Left},
+                                           {SDLK_UP, Key::Up},
+                                           {SDLK_RIGHT, Key::Right},
+                                           {SDLK_DOWN, Key::Down},
+                                           {SDLK_m, Key::M},
+                                           {SDLK_p, Key::P},
+                                           {SDLK_r, Key::R},
+                                           {SDLK_F1, Key::F1}}};
+
+// What a key is for the game. Keys pressed together with Ctrl, Alt and the like belong to the desktop.
+Key KeyOf(const SDL_Keysym& pressed) {
+    if ((pressed.mod & kCommandKeys) != 0) return Key::None;
+    if (pressed.sym == SDLK_TAB && (pressed.mod & KMOD_SHIFT) != 0) return Key::ShiftTab;
+    const auto row = std::ranges::find(kKeys, pressed.sym, &KeyRow::code);
+    return row != kKeys.end() ? row->key : Key::None;
+}
+
+bool IsCloseKey(const SDL_KeyboardEvent& event) {
+    return event.keysym.sym == SDLK_q && (event.keysym.mod & KMOD_CTRL) != 0;
+}
+
+bool IsAltEnter(const SDL_KeyboardEvent& event) {
+    return event.keysym.sym == SDLK_RETURN && (event.keysym.mod & KMOD_ALT) != 0;
+}
 
 }  // namespace
 
@@ -79,7 +120,7 @@ bool SdlDesktop::Open(Window& window) {
     if (!scaleChosen) ChooseScale(window);
     SdlWindow::Options options;
     options.pointsPerGamePixel = PointsPerGamePixel();
-    if (!window.isDialog) options.layer = &layer;
+    if (!window.isDialog) options.layer = &looks;
     if (window.isDialog && !windows.empty()) options.owner = windows.back().real->Real();
     if (const auto place = wantedPlaces.find(&window); place != wantedPlaces.end())
         options.frameCorner = Place{Points(place->second.left), Points(place->second.top)};
@@ -101,7 +142,14 @@ bool SdlDesktop::CloseBoxUsed(const Window& window) const {
     return shown == nullptr || shown->closeBoxUsed;
 }
 
+void SdlDesktop::SetComfort(const Comfort& comfort) {
+    ringsAtPointer = comfort.ringsAtPointer;
+    looks.Recolour(comfort.recolourings);
+}
+
 void SdlDesktop::Refresh() {
+    for (const Shown& shown : windows) FollowChoice(shown.real->Data());
+    if (!windows.empty()) looks.Mark(PlaceToMark(windows.front().real->Data(), ringsAtPointer));
     for (const Shown& shown : windows) shown.real->Refresh();
 }
 
@@ -111,9 +159,10 @@ void SdlDesktop::HideAll() {
 
 bool SdlDesktop::AsksForEnd(const SDL_Event& event) const {
     if (event.type == SDL_QUIT) return true;
-    if (event.type != SDL_WINDOWEVENT || event.window.event != SDL_WINDOWEVENT_CLOSE || windows.empty()) return false;
-    const SdlWindow& front = *windows.back().real;
-    return event.window.windowID == front.Id() && !front.Data().isDialog;
+    if (windows.empty() || windows.back().real->Data().isDialog) return false;
+    if (event.type == SDL_KEYDOWN) return IsCloseKey(event.key);
+    return event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_CLOSE &&
+           event.window.windowID == windows.back().real->Id();
 }
 
 bool SdlDesktop::IsEndWaiting() {
@@ -137,12 +186,26 @@ void SdlDesktop::Handle(const SDL_Event& event) {
     if (event.type == SDL_WINDOWEVENT) return HandleWindowEvent(event.window);
     // Keys go to the topmost window even if the desktop focuses none.
     SdlWindow& front = *windows.back().real;
-    if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return input.Key(front.Data(), event.key.keysym.sym);
+    if (event.type == SDL_KEYDOWN && event.key.repeat == 0) return HandleKey(event.key);
     if (event.type == SDL_MOUSEMOTION && event.motion.windowID == front.Id()) {
         const GamePlace place = front.ToGame(event.motion.x, event.motion.y);
+        NotePointer(front.Data(), place.x, place.y);
         return input.Move(front.Data(), place.x, place.y);
     }
     if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) HandleButton(event.button);
+}
+
+// In a dialog Esc is its close box.
+void SdlDesktop::HandleKey(const SDL_KeyboardEvent& event) {
+    Shown& shown = windows.back();
+    Window& window = shown.real->Data();
+    if (event.keysym.sym == SDLK_F11 || IsAltEnter(event)) return windows.front().real->ToggleFullScreen();
+    if (window.isDialog && (event.keysym.sym == SDLK_ESCAPE || IsCloseKey(event))) {
+        shown.closeBoxUsed = true;
+        return;
+    }
+    if (event.keysym.sym == SDLK_ESCAPE) return input.Key(window, kEscapeKey);
+    if (const Key key = KeyOf(event.keysym); key != Key::None) PressKey(input, window, key);
 }
 
 void SdlDesktop::HandleButton(const SDL_MouseButtonEvent& event) {
@@ -164,6 +227,7 @@ void SdlDesktop::HandleWindowEvent(const SDL_WindowEvent& event) {
     Shown* shown = FindById(event.windowID);
     if (shown == nullptr) return;
     if (event.event == SDL_WINDOWEVENT_FOCUS_GAINED) HandleFocus(*shown);
+    if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) HandleFocusLoss(*shown);
     if (event.event == SDL_WINDOWEVENT_CLOSE) HandleCloseBox(*shown);
 }
 
@@ -173,6 +237,12 @@ void SdlDesktop::HandleFocus(Shown& shown) {
     if (&shown != &windows.back()) return;
     const Window& window = shown.real->Data();
     if (window.on.activate) window.on.activate();
+}
+
+// Not where the focus goes to a dialog of ours.
+void SdlDesktop::HandleFocusLoss(const Shown& shown) {
+    const Window& window = shown.real->Data();
+    if (&shown == &windows.back() && window.takesInput && window.on.deactivate) window.on.deactivate();
 }
 
 void SdlDesktop::HandleCloseBox(Shown& shown) {

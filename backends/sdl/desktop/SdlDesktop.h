@@ -28,6 +28,7 @@ class SdlDesktop {
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();
 
+    void SetComfort(const Comfort& comfort);
     Surface& Layer() { return layer; }
     Display& Screen() { return display; }
 
@@ -67,8 +68,10 @@ class SdlDesktop {
     Shown* FindById(std::uint32_t id);
     void HandleWindowEvent(const SDL_WindowEvent& event);
     void HandleFocus(Shown& shown);
+    void HandleFocusLoss(const Shown& shown);
     void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
+    void HandleKey(const SDL_KeyboardEvent& event);
     bool AsksForEnd(const SDL_Event& event) const;
     // The real frame, or the nominal one where the desktop does not report it.
     FrameBorders BordersOf(const Window& window) const;
@@ -83,7 +86,9 @@ class SdlDesktop {
     WindowInput input;
     Display display;
     Surface layer;
-    float scaleToAskFor = 1;  // points per game pixel, for the first window
+    Looks looks{layer};
+    bool ringsAtPointer = false;
+    float scaleToAskFor = 1;  // points a game pixel, for the first window
     bool scaleChosen = false;
     bool frameAwaited = false;
     bool minimisedAsTold = false;

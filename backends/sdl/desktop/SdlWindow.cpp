@@ -100,6 +100,12 @@ void SdlWindow::BlackenMargins(SDL_Surface& shown) {
     }
 }
 
+void SdlWindow::ToggleFullScreen() {
+    const bool isFull = (SDL_GetWindowFlags(Real()) & SDL_WINDOW_FULLSCREEN_DESKTOP) == SDL_WINDOW_FULLSCREEN_DESKTOP;
+    SDL_SetWindowFullscreen(Real(), isFull ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
+    Expose();
+}
+
 void SdlWindow::Refresh() {
     SDL_Surface* shown = SDL_GetWindowSurface(Real());
     if (shown == nullptr) return;

@@ -23,7 +23,7 @@ struct GamePlace {
 class SdlWindow {
   public:
     struct Options {
-        Surface* layer = nullptr;          // of the main window
+        Looks* layer = nullptr;            // of the main window
         SDL_Window* owner = nullptr;       // of a dialog
         std::optional<Place> frameCorner;  // in points of the desktop; if unset, the desktop chooses
         float pointsPerGamePixel = 1;      // the scale to request; points are the desktop's unit for places and sizes
@@ -43,6 +43,8 @@ class SdlWindow {
     // Presents everything at the next call: the desktop has lost the window's contents.
     void Expose();
     void HideNow() { SDL_HideWindow(real.get()); }
+    // The whole display, or the window's own size again.
+    void ToggleFullScreen();
     void Raise() { SDL_RaiseWindow(real.get()); }
     bool IsMinimised() const { return (SDL_GetWindowFlags(real.get()) & SDL_WINDOW_MINIMIZED) != 0; }
     // The frame in the desktop's points, or nothing if the desktop does not report one.

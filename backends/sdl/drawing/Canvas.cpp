@@ -81,6 +81,13 @@ void Canvas::Fill(const PixelBox& box, std::uint32_t pixel) {
     for (int y = area.top; y < area.bottom; ++y) std::fill(Row(y) + area.left, Row(y) + area.right, pixel);
 }
 
+void Canvas::Frame(const PixelBox& box, std::uint32_t pixel, int width) {
+    Fill({box.left, box.top, box.right, box.top + width}, pixel);
+    Fill({box.left, box.bottom - width, box.right, box.bottom}, pixel);
+    Fill({box.left, box.top, box.left + width, box.bottom}, pixel);
+    Fill({box.right - width, box.top, box.right, box.bottom}, pixel);
+}
+
 void Canvas::Draw(const Image& image, int left, int top) {
     const PixelBox area = Overlap({left, top, left + image.width, top + image.height}, clip);
     if (area.IsEmpty()) return;

@@ -54,6 +54,8 @@ class Canvas {
     int Width() const { return bounds.right; }
 
     void Fill(const PixelBox& box, std::uint32_t pixel);
+    // The inner edge of a box.
+    void Frame(const PixelBox& box, std::uint32_t pixel, int width);
     void Draw(const Image& image, int left, int top);
     // A straight stroke with round ends and smooth edges; with length 0 it is a disc.
     void Stroke(float x1, float y1, float x2, float y2, float width, std::uint32_t pixel);

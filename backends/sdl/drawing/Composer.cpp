@@ -9,9 +9,14 @@ namespace prismfall {
 
 namespace {
 
+// The frame around an element that is chosen by keys, in game pixels.
+constexpr float kChoiceOut = 3;
+constexpr float kChoiceWidth = 2;
+constexpr Colour kChoiceColour = 0xFFFFFF;
+
 bool IsWhole(float scale) { return scale == std::floor(scale); }
 
-void DrawSharpLayer(Canvas& canvas, const Surface& layer, const PixelBox& box, int factor) {
+void DrawSharpLayer(Canvas& canvas, const Looks& layer, const PixelBox& box, int factor) {
     const PixelBox area = Overlap(box, {0, 0, Surface::kWidth * factor, Surface::kHeight * factor});
     for (int y = area.top; y < area.bottom; ++y) {
         const std::uint32_t* from = layer.Row(y / factor);
@@ -23,7 +28,7 @@ void DrawSharpLayer(Canvas& canvas, const Surface& layer, const PixelBox& box, i
     }
 }
 
-void DrawSmoothLayer(Canvas& canvas, const Surface& layer, const PixelBox& box, float scale) {
+void DrawSmoothLayer(Canvas& canvas, const Looks& layer, const PixelBox& box, float scale) {
     for (int y = box.top; y < box.bottom; ++y) {
         const Neighbours row = NeighboursAt(y, scale, Surface::kHeight);
         const std::uint32_t* upper = layer.Row(row.first);
@@ -38,8 +43,8 @@ void DrawSmoothLayer(Canvas& canvas, const Surface& layer, const PixelBox& box, 
 
 }  // namespace
 
-Composer::Composer(const Window& composed, Surface* paintedLayer, Display& target)
-    : window(composed), layer(paintedLayer), display(target) {}
+Composer::Composer(const Window& composed, Looks* shownLayer, Display& target)
+    : window(composed), layer(shownLayer), display(target) {}
 
 void Composer::CompareElements() {
     const std::size_t count = window.elements.size();
@@ -75,10 +80,27 @@ void Composer::AddLayerChanges() {
     }
 }
 
+PixelBox Composer::ChoiceBox() const {
+    const KeyChoice& choice = window.choice;
+    if (!choice.isShown || choice.isOnSurface || choice.what == nullptr) return {};
+    const auto place = [&](float gamePixels, float out) { return display.Pixels(gamePixels + out); };
+    return {place(choice.left, -kChoiceOut), place(choice.top, -kChoiceOut),
+            place(choice.left + choice.width, kChoiceOut), place(choice.top + choice.height, kChoiceOut)};
+}
+
+void Composer::CompareChoice() {
+    const PixelBox box = ChoiceBox();
+    if (box == seenChoice) return;
+    changes.Add(seenChoice);
+    changes.Add(box);
+    seenChoice = box;
+}
+
 const std::vector<PixelBox>& Composer::TakeChanges(int width, int height) {
     const PixelBox whole{0, 0, width, height};
     changes.Clear();
     CompareElements();
+    CompareChoice();
     if (layer != nullptr) AddLayerChanges();
     if (everything) {
         changes.Clear();
@@ -95,6 +117,9 @@ void Composer::Compose(Canvas& canvas, const PixelBox& box) {
     if (layer != nullptr) DrawLayer(canvas, box);
     for (const Element* element : window.elements)
         if (IsShown(*element)) DrawElement(canvas, *element, box, display);
+    canvas.SetClip(box);
+    const int width = std::max(1, display.Pixels(kChoiceWidth));
+    if (!seenChoice.IsEmpty()) canvas.Frame(seenChoice, PixelOf(kChoiceColour), width);
 }
 
 void Composer::DrawBackground(Canvas& canvas, const PixelBox& box) {

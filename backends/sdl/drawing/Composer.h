@@ -6,15 +6,15 @@
 
 #include "backends/sdl/drawing/Damage.h"
 #include "backends/sdl/drawing/ElementPainter.h"
-#include "platform/Surface.h"
+#include "platform/Looks.h"
 #include "platform/Window.h"
 
 namespace prismfall {
 
 class Composer {
   public:
-    // `layer` is the painted layer, if the window has one. All of them must outlive the composer.
-    Composer(const Window& composed, Surface* paintedLayer, Display& target);
+    // `shownLayer` is the painted layer as it is shown, if the window has one. All of them must outlive the composer.
+    Composer(const Window& composed, Looks* shownLayer, Display& target);
 
     // Marks everything as changed until it is composed again.
     void ForgetAll() { everything = true; }
@@ -32,14 +32,18 @@ class Composer {
 
     void CompareElements();
     void AddLayerChanges();
+    // The frame around the element that is chosen by keys.
+    void CompareChoice();
+    PixelBox ChoiceBox() const;
     void DrawBackground(Canvas& canvas, const PixelBox& box);
     void DrawLayer(Canvas& canvas, const PixelBox& box) const;
 
     const Window& window;
-    Surface* layer;
+    Looks* layer;
     Display& display;
     bool everything = true;
     std::vector<Seen> seen;
+    PixelBox seenChoice;
     std::vector<PixelBox> layerBoxes;
     Damage changes;
 };

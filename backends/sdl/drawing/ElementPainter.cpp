@@ -16,13 +16,6 @@ constexpr std::uint32_t kPlaceholderGround = 0xFF202020;
 constexpr Font kPlaceholderFont{.family = "MS Sans Serif", .points = 9};
 constexpr Colour kPlaceholderColour = 0xC0C0C0;
 
-void DrawOutline(Canvas& canvas, const PixelBox& box, std::uint32_t pixel, int width) {
-    canvas.Fill({box.left, box.top, box.right, box.top + width}, pixel);
-    canvas.Fill({box.left, box.bottom - width, box.right, box.bottom}, pixel);
-    canvas.Fill({box.left, box.top, box.left + width, box.bottom}, pixel);
-    canvas.Fill({box.right - width, box.top, box.right, box.bottom}, pixel);
-}
-
 int LineWidth(const Display& display) { return std::max(1, display.Pixels(1)); }
 
 void DrawPicture(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
@@ -32,7 +25,7 @@ void DrawPicture(Canvas& canvas, const Element& element, const PixelBox& box, Di
         return;
     }
     canvas.Fill(box, kPlaceholderGround);
-    DrawOutline(canvas, box, PixelOf(kPlaceholderColour), LineWidth(display));
+    canvas.Frame(box, PixelOf(kPlaceholderColour), LineWidth(display));
     display.text.Draw(canvas, element.picture, {.font = kPlaceholderFont}, kPlaceholderColour,
                       box.left + display.Pixels(4), box.top + display.Pixels(4));
 }
@@ -61,7 +54,7 @@ void DrawRadioMark(Canvas& canvas, const Element& element, int left, int top, in
 
 void DrawCheckMark(Canvas& canvas, const Element& element, int left, int top, int size, int line) {
     const std::uint32_t pixel = PixelOf(element.colour);
-    DrawOutline(canvas, {left, top, left + size, top + size}, pixel, line);
+    canvas.Frame({left, top, left + size, top + size}, pixel, line);
     if (!element.checked) return;
     const auto stroke = [&](float x1, float y1, float x2, float y2) {
         const auto whole = static_cast<float>(size);
@@ -94,7 +87,7 @@ void DrawGroupFrame(Canvas& canvas, const Element& element, const PixelBox& box,
     PixelBox frame = box;
     frame.top += display.text.LineHeight(element.font) / 2;
     const std::uint32_t shade = Blend(WithOpacity(PixelOf(element.colour), kFrameOpacity), ground);
-    DrawOutline(canvas, frame, shade, LineWidth(display));
+    canvas.Frame(frame, shade, LineWidth(display));
     const int left = box.left + display.Pixels(kFrameTextInset);
     const int gap = display.Pixels(2);
     const int right = left + display.text.Width(element.text, element.font);
@@ -141,7 +134,7 @@ void DrawElement(Canvas& canvas, const Element& element, const PixelBox& area, D
         case ElementKind::GroupFrame:
             return DrawGroupFrame(canvas, element, box, display);
         case ElementKind::Outline:
-            return DrawOutline(canvas, box, PixelOf(element.colour), LineWidth(display));
+            return canvas.Frame(box, PixelOf(element.colour), LineWidth(display));
     }
 }
 

@@ -52,6 +52,11 @@ void SdlAudio::DoWithMusic(std::function<void(SdlMusic&)> action) {
     });
 }
 
+void SdlAudio::SetShares(int musicPercent, int effectsPercent) {
+    music.SetShare(musicPercent);
+    sound.SetShare(effectsPercent);
+}
+
 void SdlAudio::DeviceLost() {
     if (!used) return;
     thread.Post([this] {

@@ -26,7 +26,9 @@ class SdlAudio {
     int MusicOpen(const std::string& path);
     std::string MusicFailureText(int code) const;
     void DoWithMusic(std::function<void(SdlMusic&)> action);
-    // A device has disappeared. If it was the one in use, music resumes as soon as there is another one.
+    // Of the volumes that the game asks for, in percent.
+    void SetShares(int musicPercent, int effectsPercent);
+    // Some device has gone. If it was the one in use, music plays on as soon as there is another one.
     void DeviceLost();
     // Stops all sound and ends the audio thread. Returns false if the sound server hangs; then only ending the process
     // helps.

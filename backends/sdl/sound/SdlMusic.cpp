@@ -111,7 +111,8 @@ void SdlMusic::MixInto(std::span<std::uint8_t> samples) {
     if (SDL_AudioStreamAvailable(stream.get()) < wanted) DecodeAhead(wanted);
     next.resize(samples.size());
     const int got = std::max(0, SDL_AudioStreamGet(stream.get(), next.data(), wanted));
-    SDL_MixAudioFormat(samples.data(), next.data(), streamForm.format, static_cast<std::uint32_t>(got), volume);
+    SDL_MixAudioFormat(samples.data(), next.data(), streamForm.format, static_cast<std::uint32_t>(got),
+                       volume * sharePercent / 100);
     if (got < wanted) state = State::Over;
 }
 

@@ -4,6 +4,7 @@
 
 #include <SDL.h>
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -28,6 +29,8 @@ class SdlMusic {
     void Pause();
     void Stop();
 
+    // Of the volume, in percent. On any thread.
+    void SetShare(int percent) { sharePercent = percent; }
     bool IsSounding();
     bool IsLooping();
     // Whether it should be playing but has no device.
@@ -52,7 +55,8 @@ class SdlMusic {
     void GiveOutRest();
 
     AudioDevice& device;
-    // Protected by the device's lock, since SDL's thread uses them too:
+    std::atomic<int> sharePercent = 100;
+    // Locked by the device, as SDL's thread uses them too:
     MusicFile file;
     std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's format to the device's; null at first
     SDL_AudioSpec streamForm{};                           // the device's format, as the stream knows it

@@ -71,7 +71,7 @@ void SdlSound::Release() {
 void SdlSound::MixInto(std::span<std::uint8_t> samples) {
     const std::size_t bytes = std::min(samples.size(), sound.size() - place);
     SDL_MixAudioFormat(samples.data(), sound.data() + place, device.Form().format, static_cast<std::uint32_t>(bytes),
-                       SDL_MIX_MAXVOLUME);
+                       SDL_MIX_MAXVOLUME * sharePercent / 100);
     place += bytes;
 }
 

@@ -2,6 +2,7 @@
 // audio thread.
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -18,6 +19,8 @@ class SdlSound {
 
     // Plays a complete WAVE file; invalid data is silent.
     void Play(std::span<const std::byte> wave);
+    // Of the volume, in percent. On any thread.
+    void SetShare(int percent) { sharePercent = percent; }
     bool IsSounding();
     void Release();
 
@@ -26,7 +29,8 @@ class SdlSound {
 
   private:
     AudioDevice& device;
-    std::vector<std::uint8_t> sound;  // in the device's format; protected by the device's lock, like `place`
+    std::atomic<int> sharePercent = 100;
+    std::vector<std::uint8_t> sound;  // in the device's form; locked by the device, as `place` is
     std::size_t place = 0;
 };
 

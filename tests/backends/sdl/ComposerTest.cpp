@@ -69,18 +69,19 @@ class ComposerTest : public ::testing::TestWithParam<float> {
     std::mt19937 random{7};
     Window window;
     Surface layer;
+    Looks looks{layer};
     Display display;
 };
 
 TEST_P(ComposerTest, PiecewiseDrawingGivesTheWholePicture) {
-    Composer composer(window, &layer, display);
+    Composer composer(window, &looks, display);
     Image piecewise(display.Pixels(kWidth), display.Pixels(kHeight));
     Image whole = piecewise;
     for (int round = 0; round < 40; ++round) {
         for (int i = Below(5); i >= 0; --i) ChangeSomething();
         Draw(composer, piecewise);
         if (round % 8 != 7) continue;
-        Composer fresh(window, &layer, display);
+        Composer fresh(window, &looks, display);
         Draw(fresh, whole);
         ASSERT_TRUE(piecewise.pixels == whole.pixels) << "after round " << round;
     }

@@ -1,7 +1,17 @@
-// What the page offers beside the picture: the switch that makes fingers press the right button, and the full screen.
+// What the page offers beside the picture: the switch that makes fingers press the right button, the extras, and the full
+// screen.
 import type { Input } from './input';
+import type { Keys } from './keys';
 
-export function connectControls(input: Input, right: HTMLButtonElement, full: HTMLButtonElement): void {
+export function connectControls(
+    input: Input,
+    keys: Keys,
+    right: HTMLButtonElement,
+    extras: HTMLButtonElement,
+    full: HTMLButtonElement,
+): void {
+    extras.addEventListener('click', () => keys.openExtras());
+
     right.hidden = !matchMedia('(any-pointer: coarse)').matches;
     addEventListener('pointerdown', (event) => {
         if (event.pointerType === 'touch') right.hidden = false;

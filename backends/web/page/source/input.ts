@@ -24,7 +24,6 @@ export class Input {
         addEventListener('mouseup', (event) => this.release(event));
         addEventListener('pointerup', (event) => this.touchEnd(event, false));
         addEventListener('pointercancel', (event) => this.touchEnd(event, true));
-        addEventListener('keydown', (event) => this.key(event));
     }
 
     attach(root: HTMLElement, window: number): void {
@@ -90,12 +89,6 @@ export class Input {
         const middle = { clientX: left + width / 2, clientY: top + height / 2 };
         for (const kind of [EventKind.Press, EventKind.Release])
             this.send(kind, held, Number(spot.dataset['button']), middle);
-    }
-
-    private key(event: KeyboardEvent): void {
-        if (event.key !== 'Escape') return;
-        event.preventDefault();
-        if (!event.repeat) this.escape();
     }
 
     escape(): void {

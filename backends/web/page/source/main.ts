@@ -3,6 +3,7 @@
 import { connectControls } from './controls';
 import { Input } from './input';
 import { gameHeight, gameWidth, Layout } from './layout';
+import { Keys } from './keys';
 import { Music } from './music';
 import { Notices } from './notices';
 import { connectBack } from './back';
@@ -54,6 +55,7 @@ async function start(): Promise<void> {
     const windows = new Windows(layout, pictures, surface, notices, waiting, input, find('picture', HTMLElement));
     const sounds = new Sounds(notices);
     const music = new Music(notices);
+    const keys = new Keys(windows, waiting, input, surface.canvas);
     const back = connectBack(windows, waiting, input);
     const end = (sentence?: string) => {
         music.close();
@@ -61,8 +63,9 @@ async function start(): Promise<void> {
         windows.end(sentence);
         back.noteEnd();
     };
-    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, end };
-    connectControls(input, find('right', HTMLButtonElement), find('full', HTMLButtonElement));
+    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, end };
+    const button = (id: string) => find(id, HTMLButtonElement);
+    connectControls(input, keys, button('right'), button('extras'), button('full'));
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {

@@ -2,7 +2,7 @@
 // while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
 // second build that unwinds its own stack and rewinds it.
 import { build } from './build';
-import { Frames } from './frames';
+import type { Keys } from './keys';
 import type { Music } from './music';
 import type { Notices } from './notices';
 import { checkRecords, decodeText, readElement, readWindow, writeEvent } from './records';
@@ -20,6 +20,7 @@ export interface Machine {
     readonly music: Music;
     readonly settings: Settings;
     readonly notices: Notices;
+    readonly keys: Keys;
     /** The program has ended. */
     readonly end: () => void;
 }
@@ -108,7 +109,7 @@ async function instantiate(
     machine: Machine,
     suspending: (wait: Wait) => WebAssembly.ImportValue,
 ): Promise<Exports> {
-    const { waiting, windows, surface, sounds, music, settings, notices, end } = machine;
+    const { waiting, windows, surface, sounds, music, settings, notices, keys, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
     const frames = new Frames(
         () => program.present(),
@@ -134,6 +135,7 @@ async function instantiate(
             windows.show(window, element, readElement(memory, record)),
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
+        giveKeys: (toField: number) => (keys.areForField = toField !== 0),
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
         endProgram: () => end(),
@@ -141,6 +143,7 @@ async function instantiate(
         readSettings: (address: number) => settings.copyTo(new Uint8Array(memory.buffer, address)),
         writeSettings: (address: number, length: number) => (settings.write(text(address, length)) ? 1 : 0),
         playSound: (id: number) => sounds.play(id),
+        setEffectsVolume: (share: number) => (sounds.volume = share),
         openMusic: (address: number, length: number) => music.open(text(address, length)),
         closeMusic: () => music.close(),
         setMusicVolume: (share: number) => music.setVolume(share),

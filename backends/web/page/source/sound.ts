@@ -8,6 +8,8 @@ const decodingRate = 44100;
 const openTime = 2000; // milliseconds after a press or a sound; a device that stays open costs power
 
 export class Sounds {
+    /** From 0 to 1. */
+    volume = 1;
     private readonly sounds = new Map<number, AudioBuffer>();
     private context: AudioContext | undefined;
     private playing: AudioBufferSourceNode | undefined;
@@ -40,7 +42,8 @@ export class Sounds {
         if (!sound || !this.context || !this.isAllowed || document.hidden) return;
         this.playing = this.context.createBufferSource();
         this.playing.buffer = sound;
-        this.playing.connect(this.context.destination);
+        const gain = new GainNode(this.context, { gain: this.volume });
+        this.playing.connect(gain).connect(this.context.destination);
         this.playing.start();
         this.open(1000 * sound.duration);
     }

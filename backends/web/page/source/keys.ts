@@ -1,0 +1,70 @@
+// Keys. What the page has of its own for them stays: Tab goes through the controls, Enter and Space click the one that has
+// the focus. While a game is played, and wherever no control has the focus, keys are for the playfield.
+import type { Input } from './input';
+import { EventKind } from './records';
+import type { Waiting } from './waiting';
+import type { Windows } from './windows';
+
+const mainWindow = 0;
+
+// The numbers of the program's Key.
+const arrows: Readonly<Record<string, number>> = { ArrowLeft: 37, ArrowUp: 38, ArrowRight: 39, ArrowDown: 40 };
+const presses: Readonly<Record<string, number>> = { Enter: 13, ' ': 32 };
+const tab = 9;
+const f1 = 112;
+const anywhere: Readonly<Record<string, number>> = {
+    PageUp: 33,
+    PageDown: 34,
+    m: 'M'.charCodeAt(0),
+    p: 'P'.charCodeAt(0),
+    r: 'R'.charCodeAt(0),
+    F1: f1,
+};
+
+export class Keys {
+    /** A game is being played. */
+    areForField = false;
+
+    constructor(
+        private readonly windows: Windows,
+        private readonly waiting: Waiting,
+        private readonly input: Input,
+        private readonly field: HTMLElement,
+    ) {
+        addEventListener('keydown', (event) => this.press(event));
+    }
+
+    openExtras(): void {
+        this.waiting.send(EventKind.Key, mainWindow, f1);
+    }
+
+    private press(event: KeyboardEvent): void {
+        if (event.ctrlKey || event.altKey || event.metaKey || document.querySelector('dialog.message')) return;
+        const dialog = this.windows.frontDialog();
+        const code = event.key === 'Escape' ? 0 : dialog === undefined ? this.codeFor(event) : codeInDialog(event);
+        if (code === undefined) return;
+        event.preventDefault();
+        if (event.repeat) return;
+        if (code !== 0) this.waiting.send(EventKind.Key, dialog ?? mainWindow, code);
+        else if (dialog === undefined) this.input.escape();
+        else this.waiting.send(EventKind.Close, dialog);
+    }
+
+    private codeFor({ key, shiftKey }: KeyboardEvent): number | undefined {
+        const focus = document.activeElement;
+        const isOnField = focus === this.field || focus === document.body || focus === null;
+        const arrow = arrows[key];
+        if (arrow !== undefined && (isOnField || this.areForField)) {
+            // What had the focus would be clicked by the press that follows.
+            this.field.focus({ preventScroll: true });
+            return arrow;
+        }
+        if (key === 'Tab') return this.areForField && focus === this.field && !shiftKey ? tab : undefined;
+        return (isOnField ? presses[key] : undefined) ?? anywhere[key.length === 1 ? key.toLowerCase() : key];
+    }
+}
+
+/** Enter is the OK of a dialog, but where a button has the focus. */
+function codeInDialog({ key }: KeyboardEvent): number | undefined {
+    return document.activeElement instanceof HTMLButtonElement ? undefined : key === 'Enter' ? presses[key] : undefined;
+}

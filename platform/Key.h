@@ -1,0 +1,27 @@
+// The keys that play, beside Esc, which a window's own keyDown handler gets.
+#pragma once
+
+#include <cstdint>
+
+namespace prismfall {
+
+// The numbers are what backends and pages pass on.
+enum class Key : std::int16_t {
+    None = 0,
+    Tab = 9,
+    Enter = 13,
+    Space = 32,
+    PageUp = 33,
+    PageDown = 34,
+    Left = 37,
+    Up = 38,
+    Right = 39,
+    Down = 40,
+    M = 'M',
+    P = 'P',
+    R = 'R',
+    F1 = 112,
+    ShiftTab = 265,
+};
+
+}  // namespace prismfall

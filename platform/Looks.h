@@ -1,0 +1,56 @@
+// What is shown of the painted layer. The game's rules paint on a Surface and know nothing of this; whatever makes the
+// picture easier to see or to use is laid over its pixels here, for all backends alike. Without any of it the pixels
+// are the surface's own.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/Comfort.h"
+#include "platform/PixelBox.h"
+#include "platform/Surface.h"
+#include "platform/Window.h"
+
+namespace prismfall {
+
+class Looks {
+  public:
+    // The surface must outlive this, and no one else may take its damage.
+    explicit Looks(Surface& painted) : surface(painted) {}
+    Looks(const Looks&) = delete;
+    Looks& operator=(const Looks&) = delete;
+
+    // Shows colours of the surface in others from now on.
+    void Recolour(const std::vector<Recolouring>& wanted);
+
+    // Marks the place that the player has chosen by keys, if it is on the surface and is to be shown: the head of a
+    // beam with a ring, anything else with a frame.
+    void Mark(const KeyChoice& choice);
+
+    // As Surface.h has them, of what is shown. Rows are valid until the next call of TakeDamage.
+    void TakeDamage(std::vector<PixelBox>& boxes);
+    const std::uint32_t* Row(int y) const;
+
+  private:
+    bool ChangesPixels() const { return mark.isShown || !colours.empty(); }
+    std::uint32_t Shown(std::uint32_t pixel, int y) const;
+    void CopyFrom(const PixelBox& box);
+    void PaintMark();
+    void Set(int x, int y, std::uint32_t pixel);
+
+    // The pixels of a Recolouring.
+    struct Colours {
+        std::uint32_t painted = 0;
+        std::uint32_t shown = 0;
+        std::uint32_t dim = 0;
+        Pattern pattern = Pattern::Solid;
+    };
+
+    Surface& surface;
+    std::vector<Colours> colours;
+    KeyChoice mark;
+    std::vector<PixelBox> lost;         // what looks different since the last call of TakeDamage
+    std::vector<std::uint32_t> pixels;  // empty while the surface's own are shown
+};
+
+}  // namespace prismfall
