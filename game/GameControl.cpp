@@ -87,7 +87,10 @@ void DropTutorial(VMain& main) {
 // Leaves a game for its menu, or the puzzle menu for the main menu.
 void LeaveScreen(VMain& main) {
     const ModeRow& row = RowOf(main.GameMode);
-    if (row.isGame) DropGame(main);
+    if (row.isGame) {
+        main.log->Ends(main, GameEnding::Left);
+        DropGame(main);
+    }
     if (row.isPuzzle) DropTutorial(main);
     main.platform.SurfaceClear();
     const Mode next = row.exitTo;
@@ -98,6 +101,7 @@ void LeaveScreen(VMain& main) {
 }  // namespace
 
 void CommandArcade_Click(VMain& main) {
+    main.log->Begins(main, GameKind::Arcade);
     main.platform.StopTimer(Timer::TimerPlayIntro);
     ShowArcadeScreen(main);
     main.platform.StartTimer(Timer::LineCreator);

@@ -4,21 +4,14 @@
 
 #include "platform/Facet.h"
 #include "platform/Window.h"
+#include "platform/WindowInput.h"
 
 namespace prismfall {
 
-struct Extent {
-    int width = 0;
-    int height = 0;
-};
-
-struct Place {
-    int left = 0;
-    int top = 0;
-};
-
 class WindowHost : public Facet {
   public:
+    // The machine's way from pointer and keys to the handlers of its windows.
+    virtual WindowInput& Input() = 0;
     // Shows a dialog, which then is the only window that gets input, runs its `activate`, and returns when a handler
     // has hidden it or its close box was used; timers go on meanwhile. True if it was hidden, false if it was closed.
     // Returns true at once if the dialog is already open.

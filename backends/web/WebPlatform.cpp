@@ -100,7 +100,7 @@ void WebPlatform::Handle(const page::Event& event) {
         case page::EventKind::Key:
             return input.Key(window, event.number);
         case page::EventKind::Close:
-            closeBoxUsed = true;
+            return input.UseCloseBox(window);
     }
 }
 
@@ -140,7 +140,7 @@ void WebPlatform::NoteVisibility() {
 void WebPlatform::DeliverMinimised() {
     if (ended || hidden == minimised) return;
     minimised = hidden;
-    if (main->on.resize) main->on.resize(minimised);
+    input.Resize(*main, minimised);
 }
 
 // --- The picture.
@@ -188,9 +188,8 @@ bool WebPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (ended) return false;
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
-    closeBoxUsed = false;
     if (dialog.on.activate) dialog.on.activate();
-    for (Work(); !ended && dialog.visible && !closeBoxUsed; Work()) Rest();
+    for (Work(); !ended && input.GoesOn(dialog); Work()) Rest();
     timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
@@ -198,7 +197,6 @@ bool WebPlatform::ShowModally(Window& dialog) {
     dialog.visible = false;
     input.Close(dialog);
     shown.pop_back();
-    closeBoxUsed = false;
     return wasHidden;
 }
 
@@ -241,16 +239,6 @@ void WebPlatform::EndProgram() {
 }
 
 // --- Timers, time and chance.
-
-void WebPlatform::SetTickHandler(std::function<void(Timer)> handler) { timers.SetTickHandler(std::move(handler)); }
-
-void WebPlatform::StartTimer(Timer timer) {
-    if (!ended) timers.Start(timer);
-}
-
-void WebPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
-
-void WebPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
 
 std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()); }
 

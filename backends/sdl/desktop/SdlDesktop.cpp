@@ -96,11 +96,6 @@ void SdlDesktop::Close(const Window& window) {
     wantedPlaces.erase(&window);
 }
 
-bool SdlDesktop::CloseBoxUsed(const Window& window) const {
-    const Shown* shown = Find(window);
-    return shown == nullptr || shown->closeBoxUsed;
-}
-
 void SdlDesktop::Refresh() {
     for (const Shown& shown : windows) shown.real->Refresh();
 }
@@ -164,7 +159,7 @@ void SdlDesktop::HandleWindowEvent(const SDL_WindowEvent& event) {
     Shown* shown = FindById(event.windowID);
     if (shown == nullptr) return;
     if (event.event == SDL_WINDOWEVENT_FOCUS_GAINED) HandleFocus(*shown);
-    if (event.event == SDL_WINDOWEVENT_CLOSE) HandleCloseBox(*shown);
+    if (event.event == SDL_WINDOWEVENT_CLOSE) input.UseCloseBox(shown->real->Data());
 }
 
 void SdlDesktop::HandleFocus(Shown& shown) {
@@ -175,17 +170,12 @@ void SdlDesktop::HandleFocus(Shown& shown) {
     if (window.on.activate) window.on.activate();
 }
 
-void SdlDesktop::HandleCloseBox(Shown& shown) {
-    if (&shown == &windows.back()) shown.closeBoxUsed = true;
-}
-
 bool SdlDesktop::DeliverMinimised() {
     if (windows.empty()) return false;
     const bool minimised = windows.front().real->IsMinimised();
     if (minimised == minimisedAsTold) return false;
     minimisedAsTold = minimised;
-    const Window& window = windows.front().real->Data();
-    if (window.on.resize) window.on.resize(minimised);
+    input.Resize(windows.front().real->Data(), minimised);
     return true;
 }
 

@@ -28,6 +28,7 @@ class SdlDesktop {
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();
 
+    WindowInput& Input() { return input; }
     Surface& Layer() { return layer; }
     Display& Screen() { return display; }
 
@@ -35,8 +36,6 @@ class SdlDesktop {
     bool Open(Window& window);
     void Close(const Window& window);
     bool IsOpen(const Window& window) const { return Find(window) != nullptr; }
-    // Whether the window's close box has been used; only a dialog lives on after that.
-    bool CloseBoxUsed(const Window& window) const;
     void Refresh();
     // Takes the windows off the display at once, dialogs first.
     void HideAll();
@@ -55,7 +54,6 @@ class SdlDesktop {
     struct Shown {
         std::unique_ptr<SdlWindow> real;
         bool awaitsFirstFocus = true;  // its showing counts as an activation, the focus that follows does not
-        bool closeBoxUsed = false;
     };
 
     static int SDLCALL NoteExposure(void* self, SDL_Event* event);
@@ -67,7 +65,6 @@ class SdlDesktop {
     Shown* FindById(std::uint32_t id);
     void HandleWindowEvent(const SDL_WindowEvent& event);
     void HandleFocus(Shown& shown);
-    void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
     bool AsksForEnd(const SDL_Event& event) const;
     // The nominal frame, where the desktop does not tell of a real one.
