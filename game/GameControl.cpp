@@ -88,7 +88,10 @@ void DropTutorial(VMain& main) {
 // Goes from a game to its menu, or from the puzzle menu to the main menu.
 void LeaveScreen(VMain& main) {
     const ModeRow& row = RowOf(main.GameMode);
-    if (row.isGame) DropGame(main);
+    if (row.isGame) {
+        main.log->Ends(main, GameEnding::Left);
+        DropGame(main);
+    }
     if (row.isPuzzle) DropTutorial(main);
     main.platform.SurfaceClear();
     const Mode next = row.exitTo;
@@ -99,6 +102,7 @@ void LeaveScreen(VMain& main) {
 }  // namespace
 
 void CommandArcade_Click(VMain& main) {
+    main.log->Begins(main, GameKind::Arcade);
     main.platform.StopTimer(Timer::TimerPlayIntro);
     BeginAtPace(main);
     ShowArcadeScreen(main);

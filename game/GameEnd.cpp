@@ -50,6 +50,7 @@ void ShowEnd(VMain& main) {
 }  // namespace
 
 void EndGame(VMain& main) {
+    main.log->Ends(main, GameEnding::Lost);
     main.window.takesInput = false;
     StopGameTimers(main);
     SaveScore(main);

@@ -1,5 +1,6 @@
 #include "game/MainWindow.h"
 
+#include <algorithm>
 #include <array>
 
 #include "audio/Music.h"
@@ -101,7 +102,12 @@ void Form_Load(VMain& main) {
 
 void Form_QueryUnload(VMain& main) { SaveSettings(main.settings, main.platform); }
 
-void Form_Unload(VMain& main) { StopMusic(main.audio); }
+void Form_Unload(VMain& main) {
+    main.log->Ends(main, GameEnding::Left);
+    StopMusic(main.audio);
+}
+
+int IntervalAtStart(Timer timer) { return std::ranges::find(kTimers, timer, &TimerRow::timer)->interval; }
 
 void TickTimer(VMain& main, Timer timer) {
     for (const TimerRow& row : kTimers)

@@ -13,6 +13,9 @@ void Form_Load(VMain& main);
 void Form_QueryUnload(VMain& main);
 void Form_Unload(VMain& main);
 
+// Of a timer, when the program starts; milliseconds.
+int IntervalAtStart(Timer timer);
+
 // The tick of a timer.
 void TickTimer(VMain& main, Timer timer);
 

@@ -10,6 +10,7 @@ namespace prismfall {
 namespace {
 
 void EndSolvedPuzzle(VMain& main) {
+    main.log->Ends(main, GameEnding::Solved);
     StopGameTimers(main);
     if (RowOf(main.GameMode).marksSolved)
         main.settings.SolvedPuzzles[static_cast<std::size_t>(main.CurrentPuzzle) - 1] = true;

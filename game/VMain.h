@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "audio/Audio.h"
+#include "game/GameLog.h"
 #include "game/Mode.h"
 #include "platform/Platform.h"
 #include "platform/Window.h"
@@ -29,6 +30,7 @@ struct VMain : MainElements {
     Settings settings;
     Audio audio;
     DialogHost dialogs;
+    GameLog* log = &noGameLog;
 
     // --- The game in progress.
     Mode GameMode = Mode::MainMenu;  // changed only by EnterMode

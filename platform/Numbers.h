@@ -1,5 +1,5 @@
-// The game's arithmetic: a 16-bit boolean, sums that saturate at the ends of the 16-bit range instead of wrapping, and
-// the one way of rounding.
+// The game's arithmetic: sums that stop at the ends of the 16-bit range instead of wrapping, and the one way of
+// rounding.
 #pragma once
 
 #include <algorithm>
@@ -9,18 +9,7 @@
 
 namespace prismfall {
 
-// All bits set or none.
-class Boolean {
-  public:
-    constexpr Boolean() = default;
-    constexpr Boolean(bool isTrue) : bits(isTrue ? std::int16_t{-1} : std::int16_t{0}) {}
-    constexpr operator bool() const { return bits != 0; }
-
-  private:
-    std::int16_t bits = 0;
-};
-
-// The nearest 16-bit value.
+// The nearest value that fits 16 bits.
 constexpr std::int16_t Saturated(std::int64_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));

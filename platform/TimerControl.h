@@ -1,30 +1,30 @@
-// The six repeating timers of the game; each calls the one tick handler with its name. TimerWheel.h says what moment a
-// handler has, and what happens to late ticks.
+// The timers of the game: repeating, each calling the one tick handler with its name. TimerWheel.h says what moment a
+// handler has, and what becomes of ticks that are late.
 #pragma once
 
-#include <cstddef>
 #include <functional>
+#include <utility>
 
 #include "platform/Facet.h"
+#include "platform/TimerWheel.h"
 
 namespace prismfall {
 
-// The timers, in the order in which they fire if due at the same moment.
-enum class Timer { LineDeleter, LineExtender, LineCreator, TimerMulti, TimerA, TimerPlayIntro };
-constexpr std::size_t kTimerCount = 6;
-
 class TimerControl : public Facet {
   public:
-    virtual void SetTickHandler(std::function<void(Timer)> handler) = 0;
+    // The machine's wheel, which the machine lets tick.
+    virtual TimerWheel& Timers() = 0;
+
+    void SetTickHandler(std::function<void(Timer)> handler) { Timers().SetTickHandler(std::move(handler)); }
 
     // "From now" means from the moment of the running handler: timers that it starts together fall due together.
 
     // Starting a running timer changes nothing; a stopped one is due one interval from now.
-    virtual void StartTimer(Timer timer) = 0;
-    virtual void StopTimer(Timer timer) = 0;
-    // A different interval makes a running timer due one new interval from now; the same interval changes nothing. A
-    // timer with interval 0 never ticks.
-    virtual void SetTimerInterval(Timer timer, int milliseconds) = 0;
+    void StartTimer(Timer timer) { Timers().Start(timer); }
+    void StopTimer(Timer timer) { Timers().Stop(timer); }
+    // A new interval makes a running timer due one new interval from now; the same one changes nothing. A timer of
+    // interval 0 never ticks.
+    void SetTimerInterval(Timer timer, int milliseconds) { Timers().SetInterval(timer, milliseconds); }
 };
 
 }  // namespace prismfall

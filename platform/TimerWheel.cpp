@@ -39,6 +39,11 @@ int TimerWheel::Interval(Timer timer) const {
     return static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(interval).count());
 }
 
+std::int64_t TimerWheel::Remaining(Timer timer) const {
+    const Nanoseconds due = states[static_cast<std::size_t>(timer)].due;
+    return std::chrono::duration_cast<std::chrono::milliseconds>(due - Moment()).count();
+}
+
 std::optional<Timer> TimerWheel::First() const {
     const State* first = nullptr;
     for (const State& state : states)
@@ -83,7 +88,16 @@ bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
 }
 
 void TimerWheel::RenewMoment() {
-    if (running) running = Handler{.moment = MomentAt(time.Now()), .hasLetEventsRun = true};
+    if (!running) return;
+    running = Handler{.moment = MomentAt(time.Now()), .hasLetEventsRun = true};
+    if (listener != nullptr) listener->MomentRenewed(MomentInMilliseconds());
+}
+
+void TimerWheel::Restore(Timer timer, int interval, std::optional<std::int64_t> remaining) {
+    using std::chrono::milliseconds;
+    Of(timer) = {.isOn = remaining.has_value(),
+                 .interval = milliseconds(interval),
+                 .due = Moment() + milliseconds(remaining.value_or(0))};
 }
 
 void TimerWheel::TickFirst() { Tick(*First(), time.Now()); }
@@ -100,6 +114,7 @@ void TimerWheel::CallHandler(Timer timer, Nanoseconds moment) {
     const bool wasTicking = std::exchange(state.isTicking, true);
     {
         const Running handling(*this, moment);
+        if (listener != nullptr) listener->BeforeTick(MomentInMilliseconds());
         if (tick) tick(timer);
     }
     state.isTicking = wasTicking;

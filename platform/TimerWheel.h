@@ -6,11 +6,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <optional>
 
 #include "platform/GameTime.h"
-#include "platform/TimerControl.h"
+#include "platform/HandlerListener.h"
+#include "platform/Timer.h"
 
 namespace prismfall {
 
@@ -21,6 +23,8 @@ class TimerWheel {
     TimerWheel& operator=(const TimerWheel&) = delete;
 
     void SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
+    // Null for none. It must outlive the wheel, or be taken away.
+    void SetListener(HandlerListener* newListener) { listener = newListener; }
 
     // The operations of TimerControl.h. Outside of all handlers they count from game time.
     void Start(Timer timer);
@@ -33,6 +37,8 @@ class TimerWheel {
 
     bool IsOn(Timer timer) const { return states[static_cast<std::size_t>(timer)].isOn; }
     int Interval(Timer timer) const;  // milliseconds
+    // Milliseconds from the moment of the running handler until the timer is due, if it is on.
+    std::int64_t Remaining(Timer timer) const;
     // The earliest game time at which a timer is due that may tick: one that is on, has an interval above 0, and whose
     // handler is not running. Nothing if there is none, or while game time is stopped.
     std::optional<Nanoseconds> NextDue() const;
@@ -73,6 +79,16 @@ class TimerWheel {
 
     // Ticks the timer that is due first; there must be one. The tick's moment is game time.
     void TickFirst();
+    // The same, but the tick's moment is its due time, even if that has passed.
+    void TickFirstAtItsTime() { Tick(*First(), *NextDue()); }
+    // Runs a handler at a moment that is known, such as that of a recorded input. What was due by then has ticked.
+    template <typename Call>
+    void HandleAt(Nanoseconds moment, Call handler) {
+        const Running handling(*this, moment);
+        handler();
+    }
+    // Puts a timer into a known state: an interval in milliseconds and, if it is on, the time until it is due.
+    void Restore(Timer timer, int interval, std::optional<std::int64_t> remaining);
     // Calls a timer's handler at game time, whether or not it is due; it counts as running, and its due time stays.
     void Fire(Timer timer) { CallHandler(timer, time.Now()); }
 
@@ -127,6 +143,7 @@ class TimerWheel {
     GameTime& time;
     std::array<State, kTimerCount> states;
     std::function<void(Timer)> tick;
+    HandlerListener* listener = nullptr;
     std::optional<Handler> running;
     Nanoseconds lastReading{0};
     Nanoseconds lastTick{Nanoseconds::min()};  // its moment

@@ -85,6 +85,7 @@ struct Window {
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works
+    bool isErrorBox = false;         // opened by a backend, and no part of the game
     std::vector<Element*> elements;  // stacking order, later ones on top
     KeyChoice choice;                // see KeyInput.h
     Pointer pointer;

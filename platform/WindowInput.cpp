@@ -19,16 +19,22 @@ bool TakesFastPresses(const Element& element) {
 void WindowInput::Open(Window& window) {
     windows.push_back(&window);
     pressed = nullptr;
+    closed = nullptr;
 }
 
 void WindowInput::Close(const Window& window) {
     std::erase(windows, &window);
     pressed = nullptr;
+    closed = nullptr;
     if (last.window == &window) last.window = nullptr;  // a later window at the same address is a different one
 }
 
 bool WindowInput::HasInput(const Window& window) const {
     return &window == Front() && window.visible && window.takesInput;
+}
+
+void WindowInput::Tell(const Window& window, const InputEvent& event) const {
+    if (listener != nullptr && !window.isErrorBox) listener->BeforeInput(event);
 }
 
 void WindowInput::Move(Window& window, float x, float y) const {
@@ -77,20 +83,40 @@ void WindowInput::Release(Window& window, MouseButton button, float x, float y) 
 void WindowInput::Key(const Window& window, std::int32_t code) const {
     using Limits = std::numeric_limits<std::int16_t>;
     if (!HasInput(window) || code < Limits::min() || code > Limits::max()) return;
-    if (window.on.keyDown) window.on.keyDown(static_cast<std::int16_t>(code));
+    if (!window.on.keyDown) return;
+    Tell(window, {.kind = InputKind::Key, .code = static_cast<std::int16_t>(code)});
+    window.on.keyDown(static_cast<std::int16_t>(code));
+}
+
+void WindowInput::UseCloseBox(const Window& dialog) {
+    if (&dialog != Front() || !dialog.isDialog) return;
+    Tell(dialog, {.kind = InputKind::CloseBox});
+    closed = &dialog;
+}
+
+void WindowInput::Resize(const Window& window, bool isMinimised) const {
+    if (!window.on.resize) return;
+    Tell(window, {.kind = isMinimised ? InputKind::Minimise : InputKind::Restore});
+    window.on.resize(isMinimised);
 }
 
 void WindowInput::PressSurface(const Window& window, MouseButton button, float x, float y) const {
-    if (HasInput(window) && window.on.mouseDown) window.on.mouseDown(button, x, y);
+    if (!HasInput(window) || !window.on.mouseDown) return;
+    Tell(window, {.kind = InputKind::Press, .button = button, .x = x, .y = y});
+    window.on.mouseDown(button, x, y);
 }
 
 void WindowInput::DoubleClickSurface(const Window& window) const {
-    if (HasInput(window) && window.on.doubleClick) window.on.doubleClick();
+    if (!HasInput(window) || !window.on.doubleClick) return;
+    Tell(window, {.kind = InputKind::DoubleClick});
+    window.on.doubleClick();
 }
 
 void WindowInput::PressOn(const Window& window, Element& element, MouseButton button, float x, float y) const {
     if (!HasInput(window) || !TakesMouse(element)) return;
-    if (window.on.elementDown) window.on.elementDown(element, button, x, y);
+    if (!window.on.elementDown) return;
+    Tell(window, {.kind = InputKind::PressElement, .element = &element, .button = button, .x = x, .y = y});
+    window.on.elementDown(element, button, x, y);
 }
 
 void WindowInput::PressAndClick(const Window& window, Element& element) const {
@@ -101,7 +127,9 @@ void WindowInput::PressAndClick(const Window& window, Element& element) const {
 
 void WindowInput::Click(const Window& window, Element& element) const {
     if (!HasInput(window) || !HasClick(element) || !TakesMouse(element)) return;
-    if (window.on.elementClick) window.on.elementClick(element);
+    if (!window.on.elementClick) return;
+    Tell(window, {.kind = InputKind::Click, .element = &element});
+    window.on.elementClick(element);
 }
 
 }  // namespace prismfall

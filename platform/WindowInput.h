@@ -7,7 +7,9 @@
 #include <optional>
 #include <vector>
 
-#include "platform/WindowHost.h"
+#include "platform/Extent.h"
+#include "platform/HandlerListener.h"
+#include "platform/Window.h"
 
 namespace prismfall {
 
@@ -26,8 +28,10 @@ class WindowInput {
     explicit WindowInput(int doubleClickMilliseconds = 500)
         : doubleClickTime(static_cast<std::uint32_t>(doubleClickMilliseconds)) {}
 
-    // --- The open windows, the latest in front. Only the front window gets input, as long as it is visible and takes
-    // it.
+    // Null for none. It must outlive this, or be taken away.
+    void SetListener(HandlerListener* newListener) { listener = newListener; }
+
+    // --- The open windows, the latest in front. Only that one gets input, as long as it is visible and takes it.
 
     void Open(Window& window);
     void Close(const Window& window);
@@ -45,6 +49,12 @@ class WindowInput {
     // A left press and its release on the same element are a click.
     void Release(Window& window, MouseButton button, float x, float y);
     void Key(const Window& window, std::int32_t code) const;
+    // The close box of the dialog in front.
+    void UseCloseBox(const Window& dialog);
+    // Whether a dialog is open and goes on: it has neither been hidden nor closed.
+    bool GoesOn(const Window& dialog) const { return dialog.visible && closed != &dialog; }
+    // The main window has been minimised or restored; whether it gets input does not matter.
+    void Resize(const Window& window, bool isMinimised) const;
 
     // --- The same, for a backend that already knows what a press hits and that it is not a second press.
 
@@ -63,13 +73,17 @@ class WindowInput {
         bool isFirst = false;  // the first press of a possible double click
     };
 
+    bool HasInput(const Window& window) const;
+    void Tell(const Window& window, const InputEvent& event) const;
     bool IsNearLast(const Window& window, const PressPlace& place) const;
     void Click(const Window& window, Element& element) const;
 
     std::uint32_t doubleClickTime;
     std::vector<Window*> windows;
-    Element* pressed = nullptr;  // by the left button, in the front window
-    Reached last;                // the last left press
+    HandlerListener* listener = nullptr;
+    const Window* closed = nullptr;  // the dialog in front, once its close box was used
+    Element* pressed = nullptr;      // by the left button, in the window in front
+    Reached last;                    // left press
 };
 
 }  // namespace prismfall

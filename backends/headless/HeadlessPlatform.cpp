@@ -21,7 +21,23 @@ void HeadlessPlatform::Run(std::int64_t milliseconds) {
     MoveClockTo(end);
 }
 
-// Handlers that let events run may already have moved it further.
+void HeadlessPlatform::TickThrough(Nanoseconds moment) {
+    while (!hasEnded) {
+        const std::optional<Nanoseconds> due = timers.NextDue();
+        if (!due || *due > moment) return;
+        MoveClockTo(*due);
+        timers.TickFirstAtItsTime();
+    }
+}
+
+// Without a renewal in the script the game has parted from it, which its next check will show.
+void HeadlessPlatform::RenewMoment() {
+    if (script == nullptr) return timers.RenewMoment();
+    if (const std::optional<Nanoseconds> moment = script->TakeRenewal()) MoveClockTo(*moment);
+    timers.RenewMoment();
+}
+
+// Handlers that let events run may have moved it further already.
 void HeadlessPlatform::MoveClockTo(Nanoseconds moment) { clock = std::max(clock, moment); }
 
 void HeadlessPlatform::TickUntil(Nanoseconds moment) {
@@ -80,15 +96,25 @@ void HeadlessPlatform::SurfaceClear() {
 
 // --- Windows.
 
+void HeadlessPlatform::AnswerDialog(Window& dialog) {
+    while (dialog.visible && !queuedAnswers.empty()) {
+        const std::string name = std::move(queuedAnswers.front());
+        queuedAnswers.pop_front();
+        if (Element* element = dialog.Find(name)) input.PressAndClick(dialog, *element);
+    }
+}
+
 bool HeadlessPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     out << "dialog " << DialogTitle(dialog) << '\n';
     Open(dialog);
     if (dialog.on.activate) dialog.on.activate();
-    while (dialog.visible && !queuedAnswers.empty()) {
-        const std::string name = std::move(queuedAnswers.front());
-        queuedAnswers.pop_front();
-        if (Element* element = dialog.Find(name)) input.PressAndClick(dialog, *element);
+    if (script != nullptr) {
+        while (input.GoesOn(dialog) && !hasEnded && script != nullptr && script->LetNextHappen()) {
+        }
+        RenewMoment();
+    } else {
+        AnswerDialog(dialog);
     }
     const bool wasHidden = !dialog.visible;
     dialog.visible = false;
@@ -124,15 +150,12 @@ void HeadlessPlatform::EndProgram() {
 
 // --- Timers, time and chance.
 
-void HeadlessPlatform::SetTickHandler(std::function<void(Timer)> handler) { timers.SetTickHandler(std::move(handler)); }
-
-void HeadlessPlatform::StartTimer(Timer timer) { timers.Start(timer); }
-
-void HeadlessPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
-
-void HeadlessPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
-
+// Nothing that a recording is made of happens in a handler but what is due within a millisecond of its moment.
 void HeadlessPlatform::LetEventsRun() {
+    if (script != nullptr) {
+        TickThrough(std::chrono::milliseconds(timers.MomentInMilliseconds() + 1));
+        return RenewMoment();
+    }
     MoveClockTo(clock + std::chrono::milliseconds(1));
     TickUntil(clock);
     timers.RenewMoment();
@@ -153,11 +176,11 @@ double HeadlessPlatform::Random() {
 }
 
 void HeadlessPlatform::BeginRandom(std::uint64_t number) {
-    begunRandom.emplace(number).Begin(number, timers.MomentInMilliseconds());
+    begunRandom.emplace(number).Begin(number, Timers().MomentInMilliseconds());
 }
 
 void HeadlessPlatform::SeedRandomFromClock() {
-    if (begunRandom) begunRandom->Seed(timers.MomentInMilliseconds());
+    if (begunRandom) begunRandom->Seed(Timers().MomentInMilliseconds());
 }
 
 // --- Settings.

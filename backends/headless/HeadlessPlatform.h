@@ -20,6 +20,20 @@
 
 namespace prismfall {
 
+// What happens on the machine while a recording is played back, in place of answers that were queued.
+class HeadlessScript {
+  public:
+    HeadlessScript() = default;
+    HeadlessScript(const HeadlessScript&) = delete;
+    HeadlessScript& operator=(const HeadlessScript&) = delete;
+    virtual ~HeadlessScript() = default;
+
+    // Lets time pass until the next thing that happens, and lets it happen. False if there is none.
+    virtual bool LetNextHappen() = 0;
+    // The moment that the running handler goes on at, if the script knows one.
+    virtual std::optional<Nanoseconds> TakeRenewal() = 0;
+};
+
 class HeadlessPlatform : public Platform {
   public:
     // Everything that happens is written to `events`, which must outlive the platform.
@@ -29,6 +43,13 @@ class HeadlessPlatform : public Platform {
 
     // Advances the clock by `milliseconds`; handlers that let events run may move it further.
     void Run(std::int64_t milliseconds);
+    // As Run, but up to a moment, and each timer ticks at its own due time even if that has passed.
+    void TickThrough(Nanoseconds moment);
+    // Null for none. Under a script a handler that lets events run, or opens a dialog, goes on as in a real machine.
+    void Follow(HeadlessScript* newScript) { script = newScript; }
+    Nanoseconds Now() const { return clock; }
+    // Does nothing if the clock is further already.
+    void MoveClockTo(Nanoseconds moment);
     // Calls a timer's handler now, as a running handler, and leaves its due time alone.
     void Fire(Timer timer) { timers.Fire(timer); }
     void QueueRandom(double number) { queuedRandoms.push_back(number); }
@@ -43,12 +64,13 @@ class HeadlessPlatform : public Platform {
     void Open(Window& window);
     bool HasEnded() const { return hasEnded; }
 
-    const WindowInput& Input() const { return input; }
-    const TimerWheel& Timers() const { return timers; }
     const SettingsValues& Store() const { return store; }
     Surface& Painted() { return surface; }
 
     // --- Platform.
+
+    WindowInput& Input() override { return input; }
+    TimerWheel& Timers() override { return timers; }
 
     void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
     void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override;
@@ -63,11 +85,6 @@ class HeadlessPlatform : public Platform {
     void SetPosition(Window& window, Place place) override;
     void ShowMessageBox(std::string_view text) override;
     void EndProgram() override;
-
-    void SetTickHandler(std::function<void(Timer)> handler) override;
-    void StartTimer(Timer timer) override;
-    void StopTimer(Timer timer) override;
-    void SetTimerInterval(Timer timer, int milliseconds) override;
 
     void LetEventsRun() override;
     std::int64_t Clock() override;
@@ -96,8 +113,9 @@ class HeadlessPlatform : public Platform {
 
   private:
     void PrintStroke(const char* operation, int x1, int y1, int x2, int y2, Colour colour, int width);
-    void MoveClockTo(Nanoseconds moment);
     void TickUntil(Nanoseconds moment);
+    void AnswerDialog(Window& dialog);
+    void RenewMoment();
 
     std::ostream& out;
     Surface surface;
@@ -111,6 +129,7 @@ class HeadlessPlatform : public Platform {
     std::optional<RandomNumbers> begunRandom;  // replaces the generator once a game has begun with a number
     SettingsValues store;
     std::map<const Window*, Place> places;
+    HeadlessScript* script = nullptr;
     bool isMusicPresent = true;
     bool isPaintPrinted = false;
     bool hasEnded = false;

@@ -48,6 +48,7 @@ class NullPlatform : public Platform {
 
     // --- Windows. A real backend opens the dialog and runs its event loop here until the dialog is hidden or closed.
 
+    WindowInput& Input() override { return input; }
     bool ShowModally(Window& dialog) override {
         if (dialog.on.activate) dialog.on.activate();
         return false;  // closed at once by its close box
@@ -66,10 +67,7 @@ class NullPlatform : public Platform {
 
     // --- Time and chance.
 
-    void SetTickHandler(std::function<void(Timer)> handler) override { timers.SetTickHandler(std::move(handler)); }
-    void StartTimer(Timer timer) override { timers.Start(timer); }
-    void StopTimer(Timer timer) override { timers.Stop(timer); }
-    void SetTimerInterval(Timer timer, int milliseconds) override { timers.SetInterval(timer, milliseconds); }
+    TimerWheel& Timers() override { return timers; }
     void LetEventsRun() override {
         clock += std::chrono::milliseconds(1);
         timers.LetEventsRun([] { return false; });  // a real backend handles its pending input here

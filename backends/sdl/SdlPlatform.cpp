@@ -121,12 +121,7 @@ void SdlPlatform::SurfaceClear() { desktop.Layer().Clear(); }
 bool SdlPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (!OpenDialog(dialog)) return false;
-    const auto isOpen = [&] { return IsStanding(dialog); };
-    if (dialog.stopsTime) {
-        loop.StandStillWhile(isOpen);
-    } else {
-        loop.RunWhile(isOpen);
-    }
+    loop.RunWhile([&] { return Input().GoesOn(dialog); });
     return CloseDialog(dialog);
 }
 
@@ -157,7 +152,7 @@ void SdlPlatform::ShowMessageBox(std::string_view text) {
         SetPosition(box, {corner.left + (outer.width - size.width) / 2, corner.top + (outer.height - size.height) / 2});
     }
     if (!OpenDialog(box)) return;
-    loop.StandStillWhile([&] { return IsStanding(box); });
+    loop.StandStillWhile([&] { return Input().GoesOn(box); });
     CloseDialog(box);
 }
 
@@ -171,16 +166,6 @@ Place SdlPlatform::Position(const Window& window) { return desktop.Position(wind
 void SdlPlatform::SetOuterSize(Window& window, Extent size) { desktop.SetInnerSize(window, WithoutNominalFrame(size)); }
 
 void SdlPlatform::SetPosition(Window& window, Place place) { desktop.SetPosition(window, place); }
-
-void SdlPlatform::SetTickHandler(std::function<void(Timer)> handler) {
-    loop.Timers().SetTickHandler(std::move(handler));
-}
-
-void SdlPlatform::StartTimer(Timer timer) { loop.Timers().Start(timer); }
-
-void SdlPlatform::StopTimer(Timer timer) { loop.Timers().Stop(timer); }
-
-void SdlPlatform::SetTimerInterval(Timer timer, int milliseconds) { loop.Timers().SetInterval(timer, milliseconds); }
 
 void SdlPlatform::LetEventsRun() { loop.LetEventsRun(); }
 

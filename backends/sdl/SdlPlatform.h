@@ -33,6 +33,7 @@ class SdlPlatform final : public Platform {
     void SurfaceRestore(int x1, int y1, int x2, int y2) override;
     void SurfaceClear() override;
 
+    WindowInput& Input() override { return desktop.Input(); }
     bool ShowModally(Window& dialog) override;
     Extent OuterSize(const Window& window) override;
     Extent InnerSize(const Window& window) override;
@@ -42,11 +43,7 @@ class SdlPlatform final : public Platform {
     void ShowMessageBox(std::string_view text) override;
     [[noreturn]] void EndProgram() override;
 
-    void SetTickHandler(std::function<void(Timer)> handler) override;
-    void StartTimer(Timer timer) override;
-    void StopTimer(Timer timer) override;
-    void SetTimerInterval(Timer timer, int milliseconds) override;
-
+    TimerWheel& Timers() override { return loop.Timers(); }
     void LetEventsRun() override;
     std::int64_t Clock() override;
     double Random() override;
@@ -79,8 +76,7 @@ class SdlPlatform final : public Platform {
     void CloseProgram();
     void TellOfUnsavedSettings(const std::string& failure);
     bool OpenDialog(Window& dialog);
-    bool IsStanding(const Window& dialog) const { return dialog.visible && !desktop.CloseBoxUsed(dialog); }
-    // Whether the dialog was already hidden.
+    // Whether the dialog had been hidden already.
     bool CloseDialog(Window& dialog);
 
     SdlDesktop desktop;

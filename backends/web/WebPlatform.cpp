@@ -119,7 +119,7 @@ void WebPlatform::Handle(const page::Event& event) {
             if (event.number == kEscapeKey) return input.Key(window, event.number);
             return PressKey(input, window, static_cast<Key>(event.number), KeyReach::Surface);
         case page::EventKind::Close:
-            closeBoxUsed = true;
+            return input.UseCloseBox(window);
     }
 }
 
@@ -157,7 +157,7 @@ void WebPlatform::NoteVisibility() {
 void WebPlatform::DeliverMinimised() {
     if (ended || hidden == minimised) return;
     minimised = hidden;
-    if (main->on.resize) main->on.resize(minimised);
+    input.Resize(*main, minimised);
 }
 
 // --- The picture.
@@ -214,12 +214,8 @@ bool WebPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (ended) return false;
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
-    closeBoxUsed = false;
     if (dialog.on.activate) dialog.on.activate();
-    std::optional<GameTime::Standstill> standstill;
-    if (dialog.stopsTime) standstill.emplace(time);
-    for (Work(); !ended && dialog.visible && !closeBoxUsed; Work()) Rest();
-    standstill.reset();
+    for (Work(); !ended && input.GoesOn(dialog); Work()) Rest();
     timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
@@ -227,7 +223,6 @@ bool WebPlatform::ShowModally(Window& dialog) {
     dialog.visible = false;
     input.Close(dialog);
     shown.pop_back();
-    closeBoxUsed = false;
     return wasHidden;
 }
 
@@ -269,16 +264,6 @@ void WebPlatform::EndProgram() {
 }
 
 // --- Timers, time and chance.
-
-void WebPlatform::SetTickHandler(std::function<void(Timer)> handler) { timers.SetTickHandler(std::move(handler)); }
-
-void WebPlatform::StartTimer(Timer timer) {
-    if (!ended) timers.Start(timer);
-}
-
-void WebPlatform::StopTimer(Timer timer) { timers.Stop(timer); }
-
-void WebPlatform::SetTimerInterval(Timer timer, int milliseconds) { timers.SetInterval(timer, milliseconds); }
 
 std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()); }
 

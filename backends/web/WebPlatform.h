@@ -35,6 +35,7 @@ class WebPlatform final : public Platform {
     void SurfaceRestore(int x1, int y1, int x2, int y2) override;
     void SurfaceClear() override;
 
+    WindowInput& Input() override { return input; }
     bool ShowModally(Window& dialog) override;
     Extent OuterSize(const Window& window) override;
     Extent InnerSize(const Window& window) override;
@@ -44,11 +45,7 @@ class WebPlatform final : public Platform {
     void ShowMessageBox(std::string_view text) override;
     void EndProgram() override;
 
-    void SetTickHandler(std::function<void(Timer)> handler) override;
-    void StartTimer(Timer timer) override;
-    void StopTimer(Timer timer) override;
-    void SetTimerInterval(Timer timer, int milliseconds) override;
-
+    TimerWheel& Timers() override { return timers; }
     void LetEventsRun() override;
     std::int64_t Clock() override;
     double Random() override { return random.Next(); }
@@ -96,7 +93,6 @@ class WebPlatform final : public Platform {
     Window* main = nullptr;
     std::vector<std::unique_ptr<ShownWindow>> shown;  // the main window, then dialogs in the order of their opening
     Place dialogPlace;                                // where the next dialog's frame will be
-    bool closeBoxUsed = false;                        // of the dialog in front
 
     WindowInput input;
     GameTime time;

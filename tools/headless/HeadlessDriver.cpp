@@ -10,10 +10,9 @@
 #include "game/MainWindow.h"
 #include "game/Modes.h"
 #include "game/PuzzleStart.h"
-#include "platform/KeyInput.h"
+#include "game/StateDump.h"
 #include "simulation/BeamRemoval.h"
-#include "tools/headless/StateDump.h"
-#include "tools/headless/TimerNames.h"
+#include "tools/headless/Listings.h"
 
 namespace prismfall {
 
@@ -116,9 +115,15 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
          [](Driver& driver, Arguments&) { driver.platform.Input().DoubleClickSurface(driver.main->window); }},
         {"click", 1, 1, true, [](Driver& driver, Arguments& words) { driver.Click(words); }},
         {"picture", 4, 4, true, [](Driver& driver, Arguments& words) { driver.PressPicture(words); }},
-        {"key", 1, 1, true, [](Driver& driver, Arguments& words) { driver.PressKeyOf(words); }},
-        {"minimise", 0, 0, true, [](Driver& driver, Arguments&) { driver.main->window.on.resize(true); }},
-        {"restore", 0, 0, true, [](Driver& driver, Arguments&) { driver.main->window.on.resize(false); }},
+        {"key", 1, 1, true,
+         [](Driver& driver, Arguments& words) {
+             const std::int16_t code = words.ShortNumber();
+             if (words.IsGood()) driver.platform.Input().Key(driver.main->window, code);
+         }},
+        {"minimise", 0, 0, true,
+         [](Driver& driver, Arguments&) { driver.platform.Input().Resize(driver.main->window, true); }},
+        {"restore", 0, 0, true,
+         [](Driver& driver, Arguments&) { driver.platform.Input().Resize(driver.main->window, false); }},
         {"close", 0, 0, true, [](Driver& driver, Arguments&) { driver.Close(); }},
         {"answer", 1, kAnyNumber, false, [](Driver& driver, Arguments& words) { driver.QueueAnswers(words); }},
         {"run", 1, 1, true,
@@ -133,8 +138,7 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
         {"puzzle", 1, 1, true, [](Driver& driver, Arguments& words) { driver.StartPuzzle(words, false); }},
         {"solution", 1, 1, true, [](Driver& driver, Arguments& words) { driver.StartPuzzle(words, true); }},
         {"paint", 1, 1, false, [](Driver& driver, Arguments& words) { driver.ChoosePainting(words); }},
-        {"dump", 0, 0, true,
-         [](Driver& driver, Arguments&) { PrintDump(driver.out, *driver.main, driver.platform.Timers()); }},
+        {"dump", 0, 0, true, [](Driver& driver, Arguments&) { PrintDump(driver.out, *driver.main); }},
         {"elements", 0, 0, true, [](Driver& driver, Arguments&) { PrintElements(driver.out, *driver.main); }},
         {"store", 0, 0, false, [](Driver& driver, Arguments&) { PrintStore(driver.out, driver.platform); }},
         {"settings", 0, 0, true,

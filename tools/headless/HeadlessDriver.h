@@ -11,7 +11,7 @@
 
 #include "backends/headless/HeadlessPlatform.h"
 #include "game/VMain.h"
-#include "tools/headless/ScriptWords.h"
+#include "recording/ScriptWords.h"
 
 namespace prismfall {
 

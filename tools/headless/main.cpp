@@ -1,18 +1,48 @@
-// prismfall-headless: reads a script on standard input and prints what the game does on standard output.
+// prismfall-headless: reads a script on standard input and prints what the game does on standard output, or, as
+// `prismfall-headless verify FILE...`, plays recordings of games again and says whether they are true.
+#include <fstream>
 #include <iostream>
+#include <iterator>
+#include <span>
+#include <string_view>
 
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
 #endif
 
+#include "replay/Verify.h"
 #include "tools/headless/HeadlessDriver.h"
 
-int main() {
+namespace {
+
+// A line `FILE: VERDICT` for each. The exit status: 0 if all are true, otherwise 1.
+int VerifyFiles(std::span<char* const> names) {
+    int status = 0;
+    for (const char* name : names) {
+        std::ifstream file(name, std::ios::binary);
+        const std::string text(std::istreambuf_iterator<char>(file), {});
+        const prismfall::Verdict verdict =
+            file ? prismfall::VerifyRecording(text) : prismfall::Verdict{false, "the file cannot be read"};
+        std::cout << name << ": " << verdict.words << '\n';
+        if (!verdict.isTrue) status = 1;
+    }
+    return status;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
 #ifdef _WIN32
     // The output is the same on every machine, including line endings.
     _setmode(_fileno(stdout), _O_BINARY);
 #endif
     std::ios::sync_with_stdio(false);
+    const std::span<char* const> arguments(words, static_cast<std::size_t>(count));
+    if (arguments.size() > 2 && std::string_view(arguments[1]) == "verify") return VerifyFiles(arguments.subspan(2));
+    if (arguments.size() > 1) {
+        std::cerr << "usage: prismfall-headless < SCRIPT, or prismfall-headless verify FILE...\n";
+        return 2;
+    }
     return prismfall::RunScript(std::cin, std::cout, std::cerr);
 }

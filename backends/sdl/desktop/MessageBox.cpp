@@ -57,6 +57,7 @@ void MakeMessageBox(Window& box, std::string_view text, Display& display, const 
     box.name = "MessageBox";
     box.title = "Prismfall";
     box.isDialog = true;
+    box.isErrorBox = true;
     box.innerWidth = kInnerWidth;
     box.innerHeight = buttonTop + kButtonHeight + kMargin;
     const auto at = [](Element element, int left, int top, int width, int height) {

@@ -137,16 +137,6 @@ void SdlDesktop::Close(const Window& window) {
     wantedPlaces.erase(&window);
 }
 
-bool SdlDesktop::CloseBoxUsed(const Window& window) const {
-    const Shown* shown = Find(window);
-    return shown == nullptr || shown->closeBoxUsed;
-}
-
-void SdlDesktop::SetComfort(const Comfort& comfort) {
-    ringsAtPointer = comfort.ringsAtPointer;
-    looks.Recolour(comfort.recolourings);
-}
-
 void SdlDesktop::Refresh() {
     for (const Shown& shown : windows) FollowChoice(shown.real->Data());
     if (!windows.empty()) looks.Mark(PlaceToMark(windows.front().real->Data(), ringsAtPointer));
@@ -227,8 +217,7 @@ void SdlDesktop::HandleWindowEvent(const SDL_WindowEvent& event) {
     Shown* shown = FindById(event.windowID);
     if (shown == nullptr) return;
     if (event.event == SDL_WINDOWEVENT_FOCUS_GAINED) HandleFocus(*shown);
-    if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) HandleFocusLoss(*shown);
-    if (event.event == SDL_WINDOWEVENT_CLOSE) HandleCloseBox(*shown);
+    if (event.event == SDL_WINDOWEVENT_CLOSE) input.UseCloseBox(shown->real->Data());
 }
 
 void SdlDesktop::HandleFocus(Shown& shown) {
@@ -239,23 +228,12 @@ void SdlDesktop::HandleFocus(Shown& shown) {
     if (window.on.activate) window.on.activate();
 }
 
-// Not where the focus goes to a dialog of ours.
-void SdlDesktop::HandleFocusLoss(const Shown& shown) {
-    const Window& window = shown.real->Data();
-    if (&shown == &windows.back() && window.takesInput && window.on.deactivate) window.on.deactivate();
-}
-
-void SdlDesktop::HandleCloseBox(Shown& shown) {
-    if (&shown == &windows.back()) shown.closeBoxUsed = true;
-}
-
 bool SdlDesktop::DeliverMinimised() {
     if (windows.empty()) return false;
     const bool minimised = windows.front().real->IsMinimised();
     if (minimised == minimisedAsTold) return false;
     minimisedAsTold = minimised;
-    const Window& window = windows.front().real->Data();
-    if (window.on.resize) window.on.resize(minimised);
+    input.Resize(windows.front().real->Data(), minimised);
     return true;
 }
 

@@ -28,7 +28,7 @@ class SdlDesktop {
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();
 
-    void SetComfort(const Comfort& comfort);
+    WindowInput& Input() { return input; }
     Surface& Layer() { return layer; }
     Display& Screen() { return display; }
 
@@ -36,8 +36,6 @@ class SdlDesktop {
     bool Open(Window& window);
     void Close(const Window& window);
     bool IsOpen(const Window& window) const { return Find(window) != nullptr; }
-    // Whether the window's close box has been used; only a dialog survives that.
-    bool CloseBoxUsed(const Window& window) const;
     void Refresh();
     // Removes the windows from the display at once, dialogs first.
     void HideAll();
@@ -55,8 +53,7 @@ class SdlDesktop {
   private:
     struct Shown {
         std::unique_ptr<SdlWindow> real;
-        bool awaitsFirstFocus = true;  // showing it counts as an activation, the focus that follows does not
-        bool closeBoxUsed = false;
+        bool awaitsFirstFocus = true;  // its showing counts as an activation, the focus that follows does not
     };
 
     static int SDLCALL NoteExposure(void* self, SDL_Event* event);
@@ -68,8 +65,6 @@ class SdlDesktop {
     Shown* FindById(std::uint32_t id);
     void HandleWindowEvent(const SDL_WindowEvent& event);
     void HandleFocus(Shown& shown);
-    void HandleFocusLoss(const Shown& shown);
-    void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
     void HandleKey(const SDL_KeyboardEvent& event);
     bool AsksForEnd(const SDL_Event& event) const;

@@ -1,4 +1,4 @@
-// Prints the game's data for scripts and people to read: state, beams, elements, settings, store.
+// Prints what the windows and the settings hold, for scripts and people to read.
 #pragma once
 
 #include <ostream>
@@ -8,7 +8,6 @@
 
 namespace prismfall {
 
-void PrintDump(std::ostream& out, const VMain& main, const TimerWheel& timers);
 // The visible elements of the main window, sorted by name.
 void PrintElements(std::ostream& out, const VMain& main);
 // The settings in memory and the score table, with the clock's time.

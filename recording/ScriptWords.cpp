@@ -1,4 +1,4 @@
-#include "tools/headless/ScriptWords.h"
+#include "recording/ScriptWords.h"
 
 #include <algorithm>
 #include <charconv>

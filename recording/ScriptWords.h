@@ -21,6 +21,7 @@ class Arguments {
   public:
     explicit Arguments(Words line) : words(std::move(line)) {}
 
+    const std::string& Name() const { return words[0]; }
     std::size_t Left() const { return words.size() - next; }
     const std::string& Next() const { return words[next]; }  // without taking it
     std::string Word() { return words[next++]; }

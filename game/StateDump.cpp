@@ -1,11 +1,7 @@
-// See StateDump.h.
-#include "tools/headless/StateDump.h"
+#include "game/StateDump.h"
 
 #include <algorithm>
 #include <vector>
-
-#include "backends/headless/PrintFormat.h"
-#include "tools/headless/TimerNames.h"
 
 namespace prismfall {
 
@@ -60,54 +56,15 @@ void PrintTimers(std::ostream& out, const TimerWheel& timers) {
     out << '\n';
 }
 
-bool IsPlacedByGame(const Element& element) {
-    return element.kind == ElementKind::PressPicture || element.name.starts_with("LabelSolved") ||
-           element.name == "LabelMulti";
-}
-
-void PrintElement(std::ostream& out, const Element& element) {
-    out << "element " << element.name;
-    if (element.kind == ElementKind::Label) {
-        out << " text=\"" << element.text << '"';
-    } else {
-        out << " picture=" << element.picture;
-    }
-    if (element.name == "CmdStart" || element.name == "cmdPause") out << " tag=\"" << element.tag << '"';
-    if (IsPlacedByGame(element)) out << " at=" << ShortNumber(element.left) << ',' << ShortNumber(element.top);
-    if (element.name == "LabelMulti") out << " color=" << ColourName(element.colour);
-    out << '\n';
-}
-
 }  // namespace
 
-void PrintDump(std::ostream& out, const VMain& main, const TimerWheel& timers) {
+void PrintDump(std::ostream& out, const VMain& main) {
     PrintState(out, main);
-    PrintTimers(out, timers);
+    PrintTimers(out, main.platform.Timers());
     for (const CLine* beam : main.field.Lines) PrintBeam(out, main.field, *beam);
     out << "dying ";
     PrintPlaces(out, main.field, main.field.DyingLines, ' ');
     out << '\n';
-}
-
-void PrintElements(std::ostream& out, const VMain& main) {
-    std::vector<Element*> shown;
-    std::ranges::copy_if(main.window.elements, std::back_inserter(shown),
-                         [](Element* element) { return IsShown(*element); });
-    std::ranges::sort(shown, {}, [](const Element* element) { return element->name; });
-    for (const Element* element : shown) PrintElement(out, *element);
-}
-
-void PrintSettings(std::ostream& out, const VMain& main, std::int64_t time) {
-    out << "settings start=" << main.settings.StartLevel << " gamestart=" << main.GameStartLevel
-        << " music=" << Flag(main.settings.Music) << " effects=" << Flag(main.settings.SoundEffects)
-        << " first=" << Flag(main.settings.PlayFirstTime) << " time=" << time << '\n';
-    int number = 0;
-    for (const ScoreRow& row : main.settings.Scores)
-        out << "row " << ++number << ' ' << row.score << ' ' << row.startLevel << ' ' << row.endLevel << '\n';
-}
-
-void PrintStore(std::ostream& out, const HeadlessPlatform& platform) {
-    for (const auto& [name, text] : platform.Store()) out << name.first << ' ' << name.second << ' ' << text << '\n';
 }
 
 }  // namespace prismfall

@@ -1,18 +1,22 @@
-// The timers by name, in print order.
+// The timers of the game by name.
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
-#include "platform/TimerControl.h"
-
 namespace prismfall {
+
+// In the order in which those that fall due at the same moment fire.
+enum class Timer { LineDeleter, LineExtender, LineCreator, TimerMulti, TimerA, TimerPlayIntro };
+constexpr std::size_t kTimerCount = 6;
 
 struct TimerName {
     Timer timer;
     std::string_view name;
 };
 
+// In the order in which they are printed.
 inline constexpr std::array<TimerName, kTimerCount> kTimerNames = {{
     {Timer::LineCreator, "LineCreator"},
     {Timer::LineExtender, "LineExtender"},

@@ -1,0 +1,62 @@
+#include "game/GameRecorder.h"
+
+#include <cmath>
+#include <utility>
+
+#include "game/GameStart.h"
+#include "game/Modes.h"
+#include "game/StateDump.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr int kSeedBits = 53;  // of one random number
+
+std::string HeadLines(VMain& main, GameKind kind, std::uint64_t seed) {
+    return "recording 1\nprogram " PRISMFALL_VERSION "\n" + StartLines(main, kind) + "seed " + std::to_string(seed) +
+           '\n';
+}
+
+}  // namespace
+
+GameRecorder::GameRecorder(VMain& main, std::function<void(const PlayedGame& game)> keepGame)
+    : game(main),
+      recorder(main.platform.Timers(), [&main](std::ostream& out) { PrintDump(out, main); }),
+      keep(std::move(keepGame)) {
+    game.log = this;
+    game.platform.Timers().SetListener(&recorder);
+    game.platform.Input().SetListener(&recorder);
+}
+
+GameRecorder::~GameRecorder() {
+    game.log = &noGameLog;
+    game.platform.Timers().SetListener(nullptr);
+    game.platform.Input().SetListener(nullptr);
+}
+
+void GameRecorder::Begins(VMain& main, GameKind kind) {
+    Ends(main, GameEnding::Left);
+    begunAs = kind;
+    const auto seed = static_cast<std::uint64_t>(std::ldexp(main.platform.Random(), kSeedBits));
+    main.platform.BeginRandom(seed);
+    recorder.Begin(HeadLines(main, kind, seed));
+}
+
+void GameRecorder::Ends(VMain& main, GameEnding ending) {
+    if (!recorder.IsRecording()) return;
+    if (main.GameMode == Mode::SolutionReplay) return recorder.Drop();
+    const std::int64_t length = recorder.Moment();
+    recorder.End(EndingWords(main, ending));
+    if (keep) keep({recorder.Text(), begunAs, ending, main.CurrentPuzzle, main.Score, main.Level, length});
+}
+
+std::string GameRecorder::TextSoFar() const { return recorder.IsRecording() ? recorder.Text() : std::string(); }
+
+std::string EndingWords(const VMain& main, GameEnding ending) {
+    if (ending == GameEnding::Left) return "left";
+    if (!RowOf(main.GameMode).isScored) return ending == GameEnding::Solved ? "solved" : "failed";
+    return "score " + std::to_string(main.Score) + " level " + std::to_string(main.Level);
+}
+
+}  // namespace prismfall

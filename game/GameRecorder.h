@@ -1,0 +1,47 @@
+// Records every game that is played, from the click that starts it to its end or to leaving it.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "game/GameLog.h"
+#include "game/VMain.h"
+#include "recording/Recorder.h"
+
+namespace prismfall {
+
+// A game that has ended, and what it came to.
+struct PlayedGame {
+    std::string recording;
+    GameKind kind{};
+    GameEnding ending{};
+    std::int16_t puzzle = 0;
+    std::int16_t score = 0;
+    std::int16_t level = 0;
+    std::int64_t length = 0;  // milliseconds
+};
+
+// One for a run of the program: it listens to the machine from its making to its end, and `main` must outlive it. A
+// solution that the program plays is no game, unless the player takes it over.
+class GameRecorder final : public GameLog {
+  public:
+    GameRecorder(VMain& main, std::function<void(const PlayedGame& game)> keepGame);
+    ~GameRecorder() override;
+
+    void Begins(VMain& main, GameKind kind) override;
+    void Ends(VMain& main, GameEnding ending) override;
+
+    // Of the game that is being played, as far as it has come; empty if there is none.
+    std::string TextSoFar() const;
+
+  private:
+    VMain& game;
+    Recorder recorder;
+    std::function<void(const PlayedGame& game)> keep;
+    GameKind begunAs{};
+};
+
+// The words behind the moment in the line of an end.
+std::string EndingWords(const VMain& main, GameEnding ending);
+
+}  // namespace prismfall

@@ -1,0 +1,13 @@
+// The state of a game as text: two games that print the same here go on in the same way.
+#pragma once
+
+#include <ostream>
+
+#include "game/VMain.h"
+
+namespace prismfall {
+
+// A line of state, one of timers, one for each beam, and one of the beams that are dying.
+void PrintDump(std::ostream& out, const VMain& main);
+
+}  // namespace prismfall

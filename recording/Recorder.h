@@ -1,0 +1,71 @@
+// Writes down a game while it is played: everything that reaches a handler, with its moment, and every five seconds a
+// fingerprint of the game's state and of all lines before it. Playing the lines again writes the same text again, on
+// any machine; where the texts part is where the games do.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <ostream>
+#include <streambuf>
+#include <string>
+#include <string_view>
+
+#include "platform/HandlerListener.h"
+#include "platform/TimerWheel.h"
+
+namespace prismfall {
+
+// A 32-bit fingerprint (FNV-1a) of all that is written to it. It allocates nothing.
+class Fingerprint : public std::streambuf {
+  public:
+    void Add(std::string_view text) { xsputn(text.data(), static_cast<std::streamsize>(text.size())); }
+    std::uint32_t Value() const { return value; }
+    void Begin(std::uint32_t from = kBasis) { value = from; }
+
+  protected:
+    int_type overflow(int_type letter) override;
+    std::streamsize xsputn(const char* letters, std::streamsize count) override;
+
+  private:
+    static constexpr std::uint32_t kBasis = 2166136261U;
+    std::uint32_t value = kBasis;
+};
+
+class Recorder final : public HandlerListener {
+  public:
+    // `dump` prints the state of the game. The wheel tells the moments, and must outlive this.
+    Recorder(const TimerWheel& timers, std::function<void(std::ostream&)> dump)
+        : wheel(timers), printState(std::move(dump)) {}
+
+    // A game begins at the moment of the running handler. `head` are the lines about its start, each with its end.
+    void Begin(std::string_view head);
+    // It ends at that moment: the last check, and a line `end MOMENT how`. What comes after that is not recorded.
+    void End(std::string_view how);
+    // Forgets what has been recorded.
+    void Drop();
+
+    bool IsRecording() const { return isRecording; }
+    // So far, or of the game that has ended.
+    const std::string& Text() const { return text; }
+    // Milliseconds since the game began.
+    std::int64_t Moment() const { return wheel.MomentInMilliseconds() - origin; }
+
+    void BeforeTick(std::int64_t moment) override;
+    void BeforeInput(const InputEvent& event) override;
+    void MomentRenewed(std::int64_t moment) override;
+
+  private:
+    void CheckBefore(std::int64_t moment);
+    void WriteCheck(std::int64_t moment);
+    void Write(std::string_view line);
+
+    const TimerWheel& wheel;
+    std::function<void(std::ostream&)> printState;
+    std::string text;
+    Fingerprint ofLines;
+    std::int64_t origin = 0;
+    std::int64_t nextCheck = 0;
+    bool isRecording = false;
+};
+
+}  // namespace prismfall

@@ -1,0 +1,68 @@
+// One game as it was played, as a text of a command a line: how it began, what reached the handlers at which moment of
+// the game, and how it ended. docs/RECORDINGS.md has the whole format.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/HandlerListener.h"
+#include "platform/Timer.h"
+
+namespace prismfall {
+
+constexpr std::int64_t kMostRecordedTime = 36'000'000;  // milliseconds
+constexpr std::size_t kMostRecordedBytes = 2'000'000;
+
+// A number of the state that a game begins with, by the name that it has in the text.
+struct StartValue {
+    std::string name;
+    std::int64_t value = 0;
+};
+
+struct StartTimer {
+    Timer timer{};
+    int interval = 0;                       // milliseconds
+    std::optional<std::int64_t> remaining;  // milliseconds until it is due, if it is on
+};
+
+struct RecordedEvent {
+    std::int64_t moment = 0;  // milliseconds since the game began
+    bool isRenewal = false;   // of the running handler's moment; otherwise an input:
+    InputKind kind{};         //
+    std::string element;      // its name, for PressElement and Click
+    MouseButton button{};     //
+    float x = 0;              // game pixels, in the window or in the element
+    float y = 0;              //
+    std::int16_t code = 0;    // of a key
+};
+
+struct Recording {
+    std::string program;  // the version that wrote it
+    std::string kind;     // how the game began, and its numbers
+    std::vector<StartValue> values;
+    std::vector<StartTimer> timers;
+    std::uint64_t seed = 0;  // of all chance in it
+    std::vector<RecordedEvent> events;
+    std::int64_t length = 0;  // milliseconds
+    std::string text;
+    std::size_t headBytes = 0;  // of the text, up to and with the line of the seed
+};
+
+// Why a text is no recording, for people to read.
+struct RecordingFault {
+    int line = 0;  // from 1
+    std::string reason;
+};
+
+// Takes a text apart. It may come from anywhere: whatever is wrong with it, the fault tells the first line that is.
+std::optional<RecordingFault> ReadRecording(std::string_view text, Recording& recording);
+
+// The line of an event, without its end; empty for input that changes no game, such as a press on a button, which
+// counts only when it becomes a click.
+std::string EventLine(std::int64_t moment, const InputEvent& event);
+std::string RenewalLine(std::int64_t moment);
+
+}  // namespace prismfall

@@ -1,0 +1,151 @@
+#include "replay/Replay.h"
+
+#include <algorithm>
+
+#include "game/GameRecorder.h"
+#include "game/GameStart.h"
+#include "game/StateDump.h"
+
+namespace prismfall {
+
+namespace {
+
+// Ticks, each with the beams it looks at: far more than a player plays in ten hours, and less than a second.
+constexpr std::int64_t kMostWork = 20'000'000;
+
+int LineAt(const std::string& text, std::size_t place) {
+    return 1 + static_cast<int>(std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(place), '\n'));
+}
+
+}  // namespace
+
+Replay::Replay(HeadlessPlatform& playedOn, VMain& played, const Recording& recorded)
+    : machine(playedOn),
+      main(played),
+      recording(recorded),
+      recorder(machine.Timers(), [this](std::ostream& out) { PrintDump(out, main); }),
+      start(machine.Now()) {
+    main.log = this;
+    machine.Timers().SetListener(this);
+    machine.Input().SetListener(this);
+    machine.Follow(this);
+    std::string reason;
+    machine.Timers().HandleAt(start, [&] { reason = StartRecordedGame(main, recording); });
+    if (!reason.empty()) Stop({.line = 3, .reason = reason});
+}
+
+Replay::~Replay() {
+    main.log = &noGameLog;
+    machine.Timers().SetListener(nullptr);
+    machine.Input().SetListener(nullptr);
+    machine.Follow(nullptr);
+}
+
+std::int64_t Replay::Moment() const { return (machine.Now() - start) / std::chrono::milliseconds(1); }
+
+void Replay::PlayUntil(std::int64_t moment) {
+    while (!IsOver() && next < recording.events.size() && recording.events[next].moment <= moment) LetNextHappen();
+    if (IsOver()) return;
+    const Nanoseconds end = InMachineTime(std::min(moment, recording.length));
+    machine.TickThrough(end);
+    if (!IsOver()) machine.MoveClockTo(end);
+    Compare();
+    if (moment >= recording.length && !IsOver()) {
+        recorder.End("left");  // by the program's end
+        Compare();
+    }
+}
+
+void Replay::Play() { PlayUntil(recording.length); }
+
+bool Replay::LetNextHappen() {
+    if (IsOver() || next == recording.events.size()) return false;
+    const RecordedEvent& event = recording.events[next++];
+    const Nanoseconds moment = InMachineTime(event.moment);
+    machine.TickThrough(moment);
+    if (IsOver()) return false;
+    machine.MoveClockTo(moment);
+    machine.Timers().HandleAt(moment, [&] { Do(event); });
+    Compare();
+    return !IsOver();
+}
+
+std::optional<Nanoseconds> Replay::TakeRenewal() {
+    if (next == recording.events.size() || !recording.events[next].isRenewal) return std::nullopt;
+    return InMachineTime(recording.events[next++].moment);
+}
+
+void Replay::Do(const RecordedEvent& event) {
+    Window* const front = machine.Input().Front();
+    if (front == nullptr) return;
+    // One that belongs to no handler of this game is of a dialog before it.
+    if (event.isRenewal) return machine.Timers().RenewMoment();
+    switch (event.kind) {
+        case InputKind::Press:
+            return machine.Input().PressSurface(*front, event.button, event.x, event.y);
+        case InputKind::DoubleClick:
+            return machine.Input().DoubleClickSurface(*front);
+        case InputKind::Key:
+            return machine.Input().Key(*front, event.code);
+        case InputKind::Minimise:
+        case InputKind::Restore:
+            return machine.Input().Resize(main.window, event.kind == InputKind::Minimise);
+        case InputKind::CloseBox:
+            return machine.Input().UseCloseBox(*front);
+        case InputKind::PressElement:
+        case InputKind::Click:
+            return Press(*front, event);
+    }
+}
+
+void Replay::Press(Window& window, const RecordedEvent& event) {
+    Element* const element = window.Find(event.element);
+    if (element == nullptr) return;
+    if (event.kind == InputKind::Click) return machine.Input().PressAndClick(window, *element);
+    machine.Input().PressOn(window, *element, event.button, event.x, event.y);
+}
+
+void Replay::BeforeTick(std::int64_t moment) {
+    recorder.BeforeTick(moment);
+    work += 1 + static_cast<std::int64_t>(main.field.Lines.size());
+    if (work > kMostWork) Stop({.line = 1, .moment = Moment(), .reason = "the game takes too long to play"});
+}
+
+void Replay::BeforeInput(const InputEvent& event) { recorder.BeforeInput(event); }
+
+void Replay::MomentRenewed(std::int64_t moment) { recorder.MomentRenewed(moment); }
+
+void Replay::Begins(VMain& begun, GameKind) {
+    if (recorder.IsRecording()) return Ends(begun, GameEnding::Left);
+    recorder.Begin(std::string_view(recording.text).substr(0, recording.headBytes));
+}
+
+void Replay::Ends(VMain& ended, GameEnding ending) {
+    if (!recorder.IsRecording()) return;
+    recorder.End(EndingWords(ended, ending));
+    Compare();
+    if (fault) return;
+    isOver = true;
+    machine.Follow(nullptr);
+    if (whenOver) whenOver();
+}
+
+void Replay::Compare() {
+    if (IsOver()) return;
+    const std::string& anew = recorder.Text();
+    const auto [mine, theirs] =
+        std::mismatch(anew.begin() + static_cast<std::ptrdiff_t>(compared), anew.end(),
+                      recording.text.begin() + static_cast<std::ptrdiff_t>(compared), recording.text.end());
+    compared = static_cast<std::size_t>(mine - anew.begin());
+    if (mine == anew.end()) return;
+    Stop({.line = LineAt(recording.text, compared), .moment = Moment(), .reason = {}});
+}
+
+void Replay::Stop(ReplayFault found) {
+    if (IsOver()) return;
+    fault = std::move(found);
+    machine.Timers().StopAll();
+    machine.Follow(nullptr);
+}
+
+}  // namespace prismfall

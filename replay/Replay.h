@@ -1,0 +1,74 @@
+// Plays a recorded game again on a headless machine, as far as wanted, and compares it with its recording on the way.
+// The game is recorded anew meanwhile: two texts that are the same are two games that were the same.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "backends/headless/HeadlessPlatform.h"
+#include "game/GameLog.h"
+#include "game/VMain.h"
+#include "recording/Recorder.h"
+#include "recording/Recording.h"
+
+namespace prismfall {
+
+// Where a game differs from its recording, or why it cannot be played.
+struct ReplayFault {
+    int line = 0;             // of the recording, from 1
+    std::int64_t moment = 0;  // milliseconds since the game began
+    std::string reason;
+};
+
+class Replay final : private HeadlessScript, private HandlerListener, private GameLog {
+  public:
+    // `main` is a program that runs on `machine`, in its main menu. Both must outlive this.
+    Replay(HeadlessPlatform& machine, VMain& main, const Recording& recording);
+    ~Replay() override;
+
+    // Plays on until that moment of the game, in milliseconds since it began, or further if a dialog is open then. Not
+    // beyond the game's end or a fault.
+    void PlayUntil(std::int64_t moment);
+    // To the end.
+    void Play();
+
+    std::int64_t Moment() const;
+    bool IsOver() const { return isOver || fault; }
+    const std::optional<ReplayFault>& Fault() const { return fault; }
+
+    // Called as the game ends, before what comes after it is shown.
+    std::function<void()> whenOver;
+
+  private:
+    bool LetNextHappen() override;
+    std::optional<Nanoseconds> TakeRenewal() override;
+
+    void BeforeTick(std::int64_t moment) override;
+    void BeforeInput(const InputEvent& event) override;
+    void MomentRenewed(std::int64_t moment) override;
+
+    void Begins(VMain& main, GameKind kind) override;
+    void Ends(VMain& main, GameEnding ending) override;
+
+    Nanoseconds InMachineTime(std::int64_t moment) const { return start + std::chrono::milliseconds(moment); }
+    void Do(const RecordedEvent& event);
+    void Press(Window& window, const RecordedEvent& event);
+    // Compares what has been recorded anew since the last call.
+    void Compare();
+    void Stop(ReplayFault found);
+
+    HeadlessPlatform& machine;
+    VMain& main;
+    const Recording& recording;
+    Recorder recorder;
+    Nanoseconds start{0};
+    std::size_t next = 0;      // event
+    std::size_t compared = 0;  // bytes
+    std::int64_t work = 0;     // beams moved
+    bool isOver = false;
+    std::optional<ReplayFault> fault;
+};
+
+}  // namespace prismfall

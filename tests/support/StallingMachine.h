@@ -1,0 +1,65 @@
+// A machine that no player should have: its clock moves with every look, and stalls.
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <random>
+
+#include "backends/headless/HeadlessPlatform.h"
+
+namespace prismfall {
+
+// Prints as a headless machine does, on the timers and the game time of a real one.
+class StallingMachine : public HeadlessPlatform {
+  public:
+    StallingMachine(std::ostream& events, std::uint32_t seed) : HeadlessPlatform(events), random(seed) {}
+
+    template <typename Handler>
+    void Handle(Handler handler) {
+        timers.Handle(handler);
+    }
+    void ComeRound() { timers.TickDue(); }
+
+    std::function<void()> whileDialog;  // again and again, while one is open
+
+    TimerWheel& Timers() override { return timers; }
+    bool ShowModally(Window& dialog) override {
+        if (!whileDialog) return HeadlessPlatform::ShowModally(dialog);
+        Open(dialog);
+        if (dialog.on.activate) dialog.on.activate();
+        while (Input().GoesOn(dialog)) {
+            ComeRound();
+            whileDialog();
+        }
+        timers.RenewMoment();
+        const bool wasHidden = !dialog.visible;
+        dialog.visible = false;
+        Input().Close(dialog);
+        return wasHidden;
+    }
+    void LetEventsRun() override {
+        timers.LetEventsRun([] { return false; });
+    }
+    std::int64_t Clock() override { return Look() / std::chrono::milliseconds(1); }
+    void PlayWave(Wave wave, bool wait) override {
+        HeadlessPlatform::PlayWave(wave, wait);
+        const GameTime::Standstill sound(time);
+        if (wait) clock += std::chrono::milliseconds(700);
+    }
+
+  private:
+    Nanoseconds Look() {
+        const auto upTo = [this](Nanoseconds most) {
+            return Nanoseconds(std::uniform_int_distribution<std::int64_t>(1, most.count())(random));
+        };
+        const bool stalls = upTo(Nanoseconds(100)).count() == 1;
+        return clock += upTo(std::chrono::milliseconds(stalls ? 500 : 3));
+    }
+
+    std::mt19937 random;
+    Nanoseconds clock{0};
+    GameTime time{[this] { return Look(); }};
+    TimerWheel timers{time};
+};
+
+}  // namespace prismfall
