@@ -99,6 +99,7 @@ void LinkPair(CLine& a, CLine& b) {
 
 void StartPuzzleGame(VMain& main, bool nextPuzzle, bool Solution) {
     if (nextPuzzle && main.CurrentPuzzle < kPuzzleCount) ++main.CurrentPuzzle;
+    BeginAtPace(main);
     main.log->Begins(main, Solution ? GameKind::Solution : GameKind::Puzzle);
     if (!Solution) main.TutorialActive = main.CurrentPuzzle == kTutorialPuzzle;
     ShowPuzzleScreen(main, Solution ? Mode::SolutionReplay : Mode::PuzzleGame);

@@ -38,8 +38,8 @@ class HandlerListener {
 
     // A timer is about to tick. Moments are game time in whole milliseconds.
     virtual void BeforeTick(std::int64_t moment) = 0;
-    // A handler of a window is about to run, at the moment that TimerWheel has. Error boxes are left out: what happens
-    // in them is no part of the game.
+    // A handler of a window is about to run, at the moment that TimerWheel has. Error boxes and dialogs that stop time
+    // are left out: what happens in them is no part of the game.
     virtual void BeforeInput(const InputEvent& event) = 0;
     // The moment of the running handler is a new one: it has let events run, or a dialog that it had opened has closed.
     virtual void MomentRenewed(std::int64_t moment) = 0;

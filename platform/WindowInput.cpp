@@ -34,7 +34,7 @@ bool WindowInput::HasInput(const Window& window) const {
 }
 
 void WindowInput::Tell(const Window& window, const InputEvent& event) const {
-    if (listener != nullptr && !window.isErrorBox) listener->BeforeInput(event);
+    if (listener != nullptr && !window.isErrorBox && !window.stopsTime) listener->BeforeInput(event);
 }
 
 void WindowInput::Move(Window& window, float x, float y) const {

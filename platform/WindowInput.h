@@ -73,7 +73,6 @@ class WindowInput {
         bool isFirst = false;  // the first press of a possible double click
     };
 
-    bool HasInput(const Window& window) const;
     void Tell(const Window& window, const InputEvent& event) const;
     bool IsNearLast(const Window& window, const PressPlace& place) const;
     void Click(const Window& window, Element& element) const;

@@ -55,7 +55,7 @@ MainElements::MainElements() {
     CommandNext.shortcut = Key::PageDown;
     CmdStart.shortcut = kStart.shortcut;
     cmdPause.shortcut = kPause.shortcut;
-    ImagePrismfall.spoken = "Prismfall";
+    ImagePrismfall.accessibleName = "Prismfall";
     LabelPuzzlePage.picture = {};
 }
 

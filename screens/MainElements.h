@@ -35,7 +35,7 @@ inline Element MakeButton(std::string_view name, int left, int top, int width, i
 struct ButtonMeaning {
     ButtonFaces faces;
     std::string_view tag;
-    std::string_view spoken;
+    std::string_view accessibleName;
     Key shortcut = Key::None;
 };
 
@@ -49,7 +49,7 @@ inline void SetMeaning(Element& button, const ButtonMeaning& meaning) {
     button.faces = meaning.faces;
     button.picture = meaning.faces.up;
     button.tag = meaning.tag;
-    button.spoken = meaning.spoken;
+    button.accessibleName = meaning.accessibleName;
     button.shortcut = meaning.shortcut;
 }
 

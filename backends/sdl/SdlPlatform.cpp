@@ -121,7 +121,12 @@ void SdlPlatform::SurfaceClear() { desktop.Layer().Clear(); }
 bool SdlPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (!OpenDialog(dialog)) return false;
-    loop.RunWhile([&] { return Input().GoesOn(dialog); });
+    const auto goesOn = [&] { return Input().GoesOn(dialog); };
+    if (dialog.stopsTime) {
+        loop.StandStillWhile(goesOn);
+    } else {
+        loop.RunWhile(goesOn);
+    }
     return CloseDialog(dialog);
 }
 

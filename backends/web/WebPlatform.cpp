@@ -179,6 +179,7 @@ void WebPlatform::SendSurface() {
     FollowChoice(*main, KeyReach::Surface);
     looks.Mark(PlaceToMark(*main, comfort.ringsAtPointer));
     looks.TakeDamage(damage);
+    Merge(damage);
     for (const PixelBox& box : damage) {
         const int width = box.right - box.left;
         pixels.clear();
@@ -215,7 +216,11 @@ bool WebPlatform::ShowModally(Window& dialog) {
     if (ended) return false;
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     if (dialog.on.activate) dialog.on.activate();
+    Present();  // a screen reader begins to read what is there
+    std::optional<GameTime::Standstill> standstill;
+    if (dialog.stopsTime) standstill.emplace(time);
     for (Work(); !ended && input.GoesOn(dialog); Work()) Rest();
+    standstill.reset();
     timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();

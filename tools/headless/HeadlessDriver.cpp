@@ -11,6 +11,7 @@
 #include "game/Modes.h"
 #include "game/PuzzleStart.h"
 #include "game/StateDump.h"
+#include "platform/KeyInput.h"
 #include "simulation/BeamRemoval.h"
 #include "tools/headless/Listings.h"
 
@@ -115,11 +116,7 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
          [](Driver& driver, Arguments&) { driver.platform.Input().DoubleClickSurface(driver.main->window); }},
         {"click", 1, 1, true, [](Driver& driver, Arguments& words) { driver.Click(words); }},
         {"picture", 4, 4, true, [](Driver& driver, Arguments& words) { driver.PressPicture(words); }},
-        {"key", 1, 1, true,
-         [](Driver& driver, Arguments& words) {
-             const std::int16_t code = words.ShortNumber();
-             if (words.IsGood()) driver.platform.Input().Key(driver.main->window, code);
-         }},
+        {"key", 1, 1, true, [](Driver& driver, Arguments& words) { driver.PressKeyOf(words); }},
         {"minimise", 0, 0, true,
          [](Driver& driver, Arguments&) { driver.platform.Input().Resize(driver.main->window, true); }},
         {"restore", 0, 0, true,

@@ -137,6 +137,11 @@ void SdlDesktop::Close(const Window& window) {
     wantedPlaces.erase(&window);
 }
 
+void SdlDesktop::SetComfort(const Comfort& comfort) {
+    ringsAtPointer = comfort.ringsAtPointer;
+    looks.Recolour(comfort.recolourings);
+}
+
 void SdlDesktop::Refresh() {
     for (const Shown& shown : windows) FollowChoice(shown.real->Data());
     if (!windows.empty()) looks.Mark(PlaceToMark(windows.front().real->Data(), ringsAtPointer));
@@ -187,13 +192,9 @@ void SdlDesktop::Handle(const SDL_Event& event) {
 
 // In a dialog Esc is its close box.
 void SdlDesktop::HandleKey(const SDL_KeyboardEvent& event) {
-    Shown& shown = windows.back();
-    Window& window = shown.real->Data();
+    Window& window = windows.back().real->Data();
     if (event.keysym.sym == SDLK_F11 || IsAltEnter(event)) return windows.front().real->ToggleFullScreen();
-    if (window.isDialog && (event.keysym.sym == SDLK_ESCAPE || IsCloseKey(event))) {
-        shown.closeBoxUsed = true;
-        return;
-    }
+    if (window.isDialog && (event.keysym.sym == SDLK_ESCAPE || IsCloseKey(event))) return input.UseCloseBox(window);
     if (event.keysym.sym == SDLK_ESCAPE) return input.Key(window, kEscapeKey);
     if (const Key key = KeyOf(event.keysym); key != Key::None) PressKey(input, window, key);
 }
@@ -217,6 +218,7 @@ void SdlDesktop::HandleWindowEvent(const SDL_WindowEvent& event) {
     Shown* shown = FindById(event.windowID);
     if (shown == nullptr) return;
     if (event.event == SDL_WINDOWEVENT_FOCUS_GAINED) HandleFocus(*shown);
+    if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) HandleFocusLoss(*shown);
     if (event.event == SDL_WINDOWEVENT_CLOSE) input.UseCloseBox(shown->real->Data());
 }
 
@@ -226,6 +228,12 @@ void SdlDesktop::HandleFocus(Shown& shown) {
     if (&shown != &windows.back()) return;
     const Window& window = shown.real->Data();
     if (window.on.activate) window.on.activate();
+}
+
+// Not where the focus goes to a dialog of ours.
+void SdlDesktop::HandleFocusLoss(const Shown& shown) {
+    const Window& window = shown.real->Data();
+    if (&shown == &windows.back() && window.takesInput && window.on.deactivate) window.on.deactivate();
 }
 
 bool SdlDesktop::DeliverMinimised() {

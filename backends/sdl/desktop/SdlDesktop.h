@@ -28,6 +28,7 @@ class SdlDesktop {
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();
 
+    void SetComfort(const Comfort& comfort);
     WindowInput& Input() { return input; }
     Surface& Layer() { return layer; }
     Display& Screen() { return display; }
@@ -65,6 +66,7 @@ class SdlDesktop {
     Shown* FindById(std::uint32_t id);
     void HandleWindowEvent(const SDL_WindowEvent& event);
     void HandleFocus(Shown& shown);
+    void HandleFocusLoss(const Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
     void HandleKey(const SDL_KeyboardEvent& event);
     bool AsksForEnd(const SDL_Event& event) const;

@@ -84,14 +84,14 @@ export class Elements {
         if (isNew('enabled') && node instanceof HTMLButtonElement) node.disabled = !record.enabled;
         if (image) {
             this.pictures.show(image, record.picture);
-            if (isNew('spoken')) image.alt = record.spoken;
+            if (isNew('accessibleName')) image.alt = record.accessibleName;
         }
         if (input) {
             // A browser marks what is clicked by itself.
             input.checked = record.checked;
             input.disabled = !record.enabled;
         }
-        if (unseen && isNew('spoken')) unseen.textContent = record.spoken && `${record.spoken} `;
+        if (unseen && isNew('accessibleName')) unseen.textContent = record.accessibleName && `${record.accessibleName} `;
         if (words && isNew('text', ...looksOfText)) setText(node, words, record);
         this.speak(element, record);
     }

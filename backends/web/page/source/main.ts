@@ -55,7 +55,7 @@ async function start(): Promise<void> {
     const windows = new Windows(layout, pictures, surface, notices, waiting, input, find('picture', HTMLElement));
     const sounds = new Sounds(notices);
     const music = new Music(notices);
-    const keys = new Keys(windows, waiting, input, surface.canvas);
+    const keys = new Keys(windows, waiting, input, surface.node);
     const back = connectBack(windows, waiting, input);
     const end = (sentence?: string) => {
         music.close();

@@ -2,6 +2,7 @@
 // while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
 // second build that unwinds its own stack and rewinds it.
 import { build } from './build';
+import { Frames } from './frames';
 import type { Keys } from './keys';
 import type { Music } from './music';
 import type { Notices } from './notices';

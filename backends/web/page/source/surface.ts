@@ -1,6 +1,15 @@
-// The painted layer of the main window: a canvas of one pixel for each of the game's, whatever its size on the page.
-const spoken =
+// The painted layer of the main window: a pixel for each of the game's, whatever its size on the page. Nearly all of it is
+// the playfield, where the background is black. That part is a canvas of its own that nothing shines through, which
+// browsers put on the screen with far less work; the canvas beneath it shows what is painted around it.
+import { add, make } from './elements';
+
+const accessibleName =
     'Playfield. The arrow keys and Tab choose the end of a beam, Space bends it, Enter runs it forward. Shift and Tab leave the playfield.';
+
+const field = { left: 16, top: 18, right: 668, bottom: 584 };
+
+// What is painted this near to the field's edge is on both canvases, since at some scales both can be seen there.
+const seam = 4;
 
 export class Surface {
     /** Both canvases, one on the other. */
@@ -9,13 +18,12 @@ export class Surface {
     private readonly above: CanvasRenderingContext2D | null;
 
     constructor(width: number, height: number) {
-        this.canvas.width = width;
-        this.canvas.height = height;
         // Keys play on it: see keys.ts.
-        this.canvas.tabIndex = 0;
-        this.canvas.setAttribute('role', 'application');
-        this.canvas.setAttribute('aria-label', spoken);
-        this.context = this.canvas.getContext('2d', { willReadFrequently: true });
+        this.node.tabIndex = 0;
+        this.node.setAttribute('role', 'application');
+        this.node.setAttribute('aria-label', accessibleName);
+        this.below = this.addCanvas(0, 0, width, height, true);
+        this.above = this.addCanvas(field.left, field.top, field.right - field.left, field.bottom - field.top, false);
     }
 
     show(pixels: Uint8ClampedArray<ArrayBuffer>, left: number, top: number, width: number): void {
