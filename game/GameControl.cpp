@@ -169,7 +169,8 @@ void Form_Resize(VMain& main, bool isMinimised) {
 }
 
 void Form_Deactivate(VMain& main) {
-    if (main.settings.extras.PauseAway != 0 && main.GameRunning) cmdPause_Click(main);
+    if (main.settings.extras.PauseAway != 0 && main.GameRunning)
+        main.platform.Input().Click(main.window, main.cmdPause);
 }
 
 void Form_Activate(VMain& main) {

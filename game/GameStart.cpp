@@ -80,7 +80,7 @@ void RestoreTimers(VMain& main, const Recording& recording) {
 }
 
 std::string RestoreNumber(VMain& main, const StartValue& value) {
-    const auto* const member = std::ranges::find(kMembers, std::string_view(value.name), &StartMember::name);
+    const auto member = std::ranges::find(kMembers, std::string_view(value.name), &StartMember::name);
     if (member == kMembers.end()) return "no such number: " + value.name;
     if (value.value < member->lowest || value.value > member->highest) return "out of range: " + value.name;
     member->set(main, static_cast<std::int16_t>(value.value));

@@ -64,6 +64,8 @@ class WindowInput {
     void PressOn(const Window& window, Element& element, MouseButton button, float x, float y) const;
     // Left button, press and release. Does nothing, not even a press, if the element has no click.
     void PressAndClick(const Window& window, Element& element) const;
+    // Without the press, and so without a sound.
+    void Click(const Window& window, Element& element) const;
 
   private:
     struct Reached {
@@ -75,7 +77,6 @@ class WindowInput {
 
     void Tell(const Window& window, const InputEvent& event) const;
     bool IsNearLast(const Window& window, const PressPlace& place) const;
-    void Click(const Window& window, Element& element) const;
 
     std::uint32_t doubleClickTime;
     std::vector<Window*> windows;
