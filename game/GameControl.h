@@ -29,7 +29,7 @@ void Form_Resize(VMain& main, bool isMinimised);
 // Another program's window has got the keys: a game that runs is paused, if the player wants that.
 void Form_Deactivate(VMain& main);
 
-// In the very first run: the About page, then the tutorial.
+// In the very first run, shows About, then the tutorial.
 void Form_Activate(VMain& main);
 
 }  // namespace prismfall

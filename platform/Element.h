@@ -89,7 +89,7 @@ struct Element {
     std::string_view group = {};  // of all radio buttons with the same group, one is checked
     std::array<PressSpot, 2> spots = {};  // of a PressPicture
     Key shortcut = Key::None;             // the key that clicks it; Enter for the OK of a dialog
-    const Element* panel = nullptr;       // the element that this one lies in and is hidden with
+    const Element* panel = nullptr;       // the element that contains this one and hides it when hidden
 
     bool operator==(const Element&) const = default;
 };

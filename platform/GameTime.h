@@ -1,6 +1,6 @@
-// Game time: the machine's clock less all stalls. A stall is a time in which the game could not or should not go on.
-// With stalls left out the game as a whole takes longer, but nothing in it is lost and nothing speeds up to catch up.
-// For a player who wants more time all of it can pass more slowly.
+// Game time: the machine's clock minus all stalls. A stall is a period in which the game could not or should not go on.
+// Leaving out stalls makes the game as a whole take longer, but nothing is lost and nothing speeds up to catch up. For
+// a player who wants more time all of it can pass more slowly.
 #pragma once
 
 #include <chrono>
@@ -26,7 +26,7 @@ class GameTime {
     }
     // How long the machine's clock takes for a length of game time.
     Nanoseconds ByClock(Nanoseconds length) const { return length * 100 / percent; }
-    // Leaves out a time that has just passed. `length` is 0 or more.
+    // Leaves out a period that has just passed. `length` is 0 or more.
     void Stall(Nanoseconds length) { stalls += length; }
 
     bool StandsStill() const { return standstills > 0; }

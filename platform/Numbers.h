@@ -9,7 +9,7 @@
 
 namespace prismfall {
 
-// The nearest value that fits 16 bits.
+// The nearest 16-bit value.
 constexpr std::int16_t Saturated(std::int64_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));

@@ -22,8 +22,8 @@ class TimerControl : public Facet {
     // Starting a running timer changes nothing; a stopped one is due one interval from now.
     void StartTimer(Timer timer) { Timers().Start(timer); }
     void StopTimer(Timer timer) { Timers().Stop(timer); }
-    // A new interval makes a running timer due one new interval from now; the same one changes nothing. A timer of
-    // interval 0 never ticks.
+    // A different interval makes a running timer due one new interval from now; the same interval changes nothing. A
+    // timer with interval 0 never ticks.
     void SetTimerInterval(Timer timer, int milliseconds) { Timers().SetInterval(timer, milliseconds); }
 };
 

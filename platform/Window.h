@@ -79,8 +79,8 @@ struct Window {
     std::string_view title;
     int innerWidth = 0;  // game pixels
     int innerHeight = 0;
-    std::string_view background;  // a picture laid at the top left and cut off at the edges
-    bool isDialog = false;        // a small frame without minimise and maximise boxes
+    std::string_view background;  // a picture placed at the top left and cut off at the edges
+    bool isDialog = false;        // has a small frame without minimise and maximise buttons
     bool stopsTime = false;       // of a dialog: game time stands still while it is open, and the game notices nothing
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box

@@ -12,9 +12,9 @@ class WindowHost : public Facet {
   public:
     // The machine's way from pointer and keys to the handlers of its windows.
     virtual WindowInput& Input() = 0;
-    // Shows a dialog, which then is the only window that gets input, runs its `activate`, and returns when a handler
-    // has hidden it or its close box was used; timers go on meanwhile. True if it was hidden, false if it was closed.
-    // Returns true at once if the dialog is already open.
+    // Shows a dialog, which is then the only window that gets input, runs its `activate`, and returns when a handler
+    // has hidden it (true) or its close box was used (false); timers keep running. Returns true at once if the dialog
+    // is already open.
     virtual bool ShowModally(Window& dialog) = 0;
     // The size including the desktop's frame, the size inside it, and the position of the frame's top left corner on
     // the desktop. For a dialog that is not open yet, the expected frame is used.

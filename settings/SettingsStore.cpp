@@ -102,7 +102,7 @@ Extras ReadExtras(const TextReader& read) {
     return extras;
 }
 
-// Reads from the store, and remembers what was read.
+// Reads from the store and remembers what was read.
 TextReader ReaderOf(SettingsKeeper& store, StoreMemory& memory) {
     return [&](std::string_view section, std::string_view key, const std::string& fallback) {
         std::string text = store.ReadSetting(kApplication, section, key, fallback);

@@ -16,7 +16,7 @@ CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y);
 // in Lines. One whose head lies exactly on that of an earlier beam is left out, since a press there reaches the other.
 std::vector<const CLine*> ReachableHeads(const Field& field);
 
-// Turns a beam in the entry zone round on the spot: what was drawn of it is erased, and it runs on the other way.
+// Turns a beam in the entry zone around on the spot: erases what was drawn of it and reverses its direction.
 void BendLine(Field& field, CLine& oLine);
 
 // Runs a beam forward to its end, painting as it goes; each bounce off a wall starts a new segment of its chain. If it

@@ -37,7 +37,7 @@ void HeadlessPlatform::RenewMoment() {
     timers.RenewMoment();
 }
 
-// Handlers that let events run may have moved it further already.
+// Handlers that let events run may already have moved it further.
 void HeadlessPlatform::MoveClockTo(Nanoseconds moment) { clock = std::max(clock, moment); }
 
 void HeadlessPlatform::TickUntil(Nanoseconds moment) {

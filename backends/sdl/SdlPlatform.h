@@ -76,7 +76,7 @@ class SdlPlatform final : public Platform {
     void CloseProgram();
     void TellOfUnsavedSettings(const std::string& failure);
     bool OpenDialog(Window& dialog);
-    // Whether the dialog had been hidden already.
+    // Whether the dialog was already hidden.
     bool CloseDialog(Window& dialog);
 
     SdlDesktop desktop;
@@ -85,7 +85,7 @@ class SdlPlatform final : public Platform {
     SettingsFile settings;
     RandomNumbers random;
     Window* main = nullptr;
-    std::atomic<bool> isEndedBySystem = false;  // events are noted on the thread that they come from
+    std::atomic<bool> isEndedBySystem = false;  // set on whichever thread the event comes from
     std::atomic<bool> isSaving = false;         // the end may break in on that
     bool isFailedSaveTold = false;
 };

@@ -62,7 +62,7 @@ function processorTime() {
 }
 
 async function bytes(density) {
-    // Before the sounds come, which are the first that can wait.
+    // Before the sounds, which are the first files that can wait.
     const note = `addEventListener('DOMContentLoaded', () => {
         const loading = document.getElementById('loading');
         new MutationObserver(() => {

@@ -65,8 +65,8 @@ TEST(TimerWheel, APaceStretchesGameTimeFromWhereItIs) {
     EXPECT_EQ(bench.At(170), "E");
 }
 
-TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsMadeUpFor) {
-    using Looks = std::vector<std::pair<int, const char*>>;  // at what time of the clock, and what ticks
+TEST(TimerWheel, LatenessOfAnIntervalIsAStallAndLessIsCaughtUp) {
+    using Looks = std::vector<std::pair<int, const char*>>;  // clock time, and what ticks then
     for (const auto& [deleter, extender, looks] : {std::tuple{0, 10, Looks{{9, ""}, {10, "E"}, {19, ""}, {20, "E"}}},
                                                    {0, 10, Looks{{19, "E"}, {20, "E"}, {20, ""}, {30, "E"}}},
                                                    {0, 10, Looks{{20, "E"}, {29, ""}, {30, "E"}}},

@@ -7,7 +7,7 @@ import { sleep, startBrowser } from './browsers.mjs';
 
 const PATIENCE = 180_000; // ms; a solution is played in a third of that on an idle machine
 
-/** A browser, and the page served to it until the tests are over, but for the paths that are said to be missing. */
+/** A browser, and the page served to it until the tests are over, except for the paths given as missing. */
 export async function startTests(name, isMissing) {
     const [site, browser] = await Promise.all([serve('build/web', isMissing), startBrowser(name)]);
     after(async () => {

@@ -54,7 +54,7 @@ class SdlDesktop {
   private:
     struct Shown {
         std::unique_ptr<SdlWindow> real;
-        bool awaitsFirstFocus = true;  // its showing counts as an activation, the focus that follows does not
+        bool awaitsFirstFocus = true;  // showing it counts as an activation, the focus that follows does not
     };
 
     static int SDLCALL NoteExposure(void* self, SDL_Event* event);
@@ -85,7 +85,7 @@ class SdlDesktop {
     Surface layer;
     Looks looks{layer};
     bool ringsAtPointer = false;
-    float scaleToAskFor = 1;  // points a game pixel, for the first window
+    float scaleToAskFor = 1;  // points per game pixel, for the first window
     bool scaleChosen = false;
     bool frameAwaited = false;
     bool minimisedAsTold = false;

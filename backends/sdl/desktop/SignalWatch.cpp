@@ -1,4 +1,4 @@
-// A thread that sleeps until a signal comes. A signal handler could not do it: pushing an event takes a lock, and a
+// A thread that sleeps until a signal arrives. A signal handler could not do this: pushing an event takes a lock, and a
 // flag alone would not wake the loop. Only a main thread that hangs is met by a handler. It is found waiting for the
 // display, where no lock is held that saving needs; if one is held all the same, the signal's own effect is left.
 #include "backends/sdl/desktop/SignalWatch.h"
@@ -22,7 +22,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kGracePeriod = 2s;     // for an end in good order
+constexpr auto kGracePeriod = 2s;     // for an orderly end
 constexpr auto kNextBreakIn = 100ms;  // on a main thread that hangs
 constexpr int kBreakIns = 8;
 constexpr int kBreakInSignal = SIGUSR1;

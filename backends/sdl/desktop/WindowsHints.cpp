@@ -50,7 +50,8 @@ LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM word, LPARAM 
 
 }  // namespace
 
-// SDL makes SDL_QUIT of nothing that Windows sends a program with windows; WhenSessionEnds serves for all of it.
+// SDL turns none of the messages that Windows sends a program with windows into SDL_QUIT; WhenSessionEnds handles them
+// all.
 void PrepareDesktop() {
     // Libraries come from beside the program or from Windows: never from the current folder, nor from the path.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);

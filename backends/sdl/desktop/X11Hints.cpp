@@ -214,7 +214,7 @@ void EndWithWayland() {
     dlclose(library);
 }
 
-// Quarters: desktops offer no finer steps, and dots per inch are seldom exact.
+// In quarters: desktops offer no finer steps, and dots per inch are seldom exact.
 float ScaleOf(float dotsPerInch) {
     if (!(dotsPerInch > 0)) return 1;
     return std::clamp(std::round(dotsPerInch / kPlainDotsPerInch * 4) / 4, 1.0F, kLargestScale);
@@ -237,7 +237,7 @@ bool OpenDisplay(std::string& failure) {
         failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
         return false;
     }
-    // On X11 the window's own pixels are by far the lightest way; elsewhere there may be no such way.
+    // On X11 the window's own pixels are by far the cheapest way; elsewhere this may not exist.
     if (IsDesktop("x11")) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     if (IsDesktop("wayland")) EndWithWayland();
     DeliverEarlySignal();

@@ -1,6 +1,6 @@
-// The new text is written beside the old one under a name that nobody else uses, brought to the disk, and then takes
-// the old one's name. The lock is on the folder, so it leaves no file behind. A save that was killed leaves what it had
-// written; the next save removes it.
+// The new text is written next to the old file under a unique name, flushed to disk, and then renamed over the old
+// file. The lock is on the folder, so it leaves no file behind. A save that was killed leaves what it had written; the
+// next save removes it.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <fcntl.h>

@@ -1,6 +1,6 @@
-// The new text is written beside the old one, brought to the disk, and then takes the old one's name. Runs of the game
-// wait for each other by a mutex, which Windows releases when its holder is ended. What a save that was ended has left
-// is removed by the next one.
+// The new text is written next to the old file, flushed to disk, and then renamed over it. Runs of the game wait for
+// each other with a mutex, which Windows releases when its holder ends. What a save that was ended has left is removed
+// by the next one.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <windows.h>

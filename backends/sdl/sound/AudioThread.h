@@ -21,8 +21,8 @@ class AudioThread {
     AudioThread& operator=(const AudioThread&) = delete;
     ~AudioThread();
 
-    // Runs a task as soon as those before it are done. The thread begins with the first one. False if the system gives
-    // none, or after `Finish`: the task is forgotten then.
+    // Runs a task as soon as those before it are done. The first one starts the thread. False if the system gives none,
+    // or after `Finish`: the task is forgotten then.
     bool Post(Task task);
     // Runs a task likewise and returns true when it is done, or false if it is not done within `limit`; it may be done
     // later then, so what it refers to must last.

@@ -28,7 +28,7 @@ class SdlAudio {
     void DoWithMusic(std::function<void(SdlMusic&)> action);
     // Of the volumes that the game asks for, in percent.
     void SetShares(int musicPercent, int effectsPercent);
-    // Some device has gone. If it was the one in use, music plays on as soon as there is another one.
+    // A device has disappeared. If it was the one in use, music resumes as soon as there is another one.
     void DeviceLost();
     // Stops all sound and ends the audio thread. Returns false if the sound server hangs; then only ending the process
     // helps.

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kFullVolume = 1000;
 constexpr int kTailsPerSecond = 10;  // as much silence has SDL's resampler give out all that it holds back
-constexpr int kDecodedAhead = 12;    // times what is asked for; many frames at once cost half of what single ones do
+constexpr int kDecodedAhead = 12;    // times the requested amount; many frames at once cost half as much as single ones
 
 }  // namespace
 

@@ -56,7 +56,7 @@ class SdlMusic {
 
     AudioDevice& device;
     std::atomic<int> sharePercent = 100;
-    // Locked by the device, as SDL's thread uses them too:
+    // Protected by the device's lock, since SDL's thread uses them too:
     MusicFile file;
     std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's format to the device's; null at first
     SDL_AudioSpec streamForm{};                           // the device's format, as the stream knows it

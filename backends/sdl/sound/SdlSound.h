@@ -30,7 +30,7 @@ class SdlSound {
   private:
     AudioDevice& device;
     std::atomic<int> sharePercent = 100;
-    std::vector<std::uint8_t> sound;  // in the device's form; locked by the device, as `place` is
+    std::vector<std::uint8_t> sound;  // in the device's format; protected by the device's lock, like `place`
     std::size_t place = 0;
 };
 

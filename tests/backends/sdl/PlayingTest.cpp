@@ -111,7 +111,7 @@ TEST_F(PlayingTest, MusicPlaysToItsEndOnADeviceOfAnotherRate) {
     unsetenv("SDL_AUDIO_FREQUENCY");
 }
 
-TEST_F(PlayingTest, VolumeIsAShareOfTheTracksOwn) {
+TEST_F(PlayingTest, VolumeScalesTheTracksOwn) {
     ASSERT_EQ(music.Open(kTrack), "");
     const auto energy = [&](int volume) {
         music.SetVolume(volume);
