@@ -1,4 +1,5 @@
-// Is told where each game begins and ends, whoever plays it. Games are recorded there; this one does nothing.
+// Is notified when a game begins and ends, no matter who plays it. Recording games implements it; this one does
+// nothing.
 #pragma once
 
 #include <cstdint>
@@ -17,10 +18,10 @@ class GameLog {
     GameLog& operator=(const GameLog&) = delete;
     virtual ~GameLog() = default;
 
-    // Before the first thing that the game does; a solution is a game that the player may take over. A game that is in
-    // progress is left by it.
+    // Called before the game does anything; a solution is a game that the player may take over. A game in progress
+    // counts as left.
     virtual void Begins(VMain&, GameKind) {}
-    // With beams, score and level as the game has ended. A menu that is left is no game, and then nothing has begun.
+    // Called with beams, score and level as they are at the end. Leaving a menu ends no game, since none has begun.
     virtual void Ends(VMain&, GameEnding) {}
 };
 

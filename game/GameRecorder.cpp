@@ -11,7 +11,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr int kSeedBits = 53;  // of one random number
+constexpr int kSeedBits = 53;  // in one random number
 
 std::string HeadLines(VMain& main, GameKind kind, std::uint64_t seed) {
     return "recording 1\nprogram " PRISMFALL_VERSION "\n" + StartLines(main, kind) + "seed " + std::to_string(seed) +

@@ -10,7 +10,7 @@
 
 namespace prismfall {
 
-// A game that has ended, and what it came to.
+// A finished game and its result.
 struct PlayedGame {
     std::string recording;
     GameKind kind{};
@@ -21,8 +21,8 @@ struct PlayedGame {
     std::int64_t length = 0;  // milliseconds
 };
 
-// One for a run of the program: it listens to the machine from its making to its end, and `main` must outlive it. A
-// solution that the program plays is no game, unless the player takes it over.
+// One per run of the program: it listens to the machine as long as it exists, and `main` must outlive it. A solution
+// that the program plays is not a game, unless the player takes it over.
 class GameRecorder final : public GameLog {
   public:
     GameRecorder(VMain& main, std::function<void(const PlayedGame& game)> keepGame);
@@ -31,7 +31,7 @@ class GameRecorder final : public GameLog {
     void Begins(VMain& main, GameKind kind) override;
     void Ends(VMain& main, GameEnding ending) override;
 
-    // Of the game that is being played, as far as it has come; empty if there is none.
+    // The recording so far of the game in progress; empty if there is none.
     std::string TextSoFar() const;
 
   private:
@@ -41,7 +41,7 @@ class GameRecorder final : public GameLog {
     GameKind begunAs{};
 };
 
-// The words behind the moment in the line of an end.
+// The words after the moment in the line of an end.
 std::string EndingWords(const VMain& main, GameEnding ending);
 
 }  // namespace prismfall

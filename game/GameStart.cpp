@@ -51,7 +51,7 @@ constexpr auto kMembers = std::to_array<StartMember>({
     Number<&VMain::LevelLineCount>("count", 0, kLowest, kHighest),
     Number<&VMain::TutorialActive>("tutorial", 0, 0, 1),
     Number<&VMain::TutorialStep>("step", 0, 0, kTutorialPictureCount),
-    // A pop-up of the game before may still be floating.
+    // A pop-up from the previous game may still be floating.
     Number<&VMain::MultiTicks>("ticks", 0, 0, kHighest),
     Number<&VMain::MultiColor>("color", 0, 0, 3),
     Number<&VMain::MultiDirection>("heading", 1, 1, 2),

@@ -1,5 +1,5 @@
-// How a game begins, as the head of its recording tells it: the kind of game, and every number that the program has
-// from before and that the game can meet.
+// How a game begins, as described by the head of its recording: the kind of game, and every number left from before
+// that can affect the game.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@
 
 namespace prismfall {
 
-// The line of the kind and its numbers, then one for each timer that is on or has an interval of its own, each with its
-// end. Numbers that a program has when it starts are left out.
+// The line of the kind and its numbers, then one for each timer that is on or has a changed interval, each with a
+// newline. Numbers that have their start-up values are left out.
 std::string StartLines(VMain& main, GameKind kind);
 
 // Brings a program in its main menu to the state that the recording begins with, and begins the game. Returns why that
-// cannot be, or nothing.
+// is impossible, or nothing.
 std::string StartRecordedGame(VMain& main, const Recording& recording);
 
 }  // namespace prismfall

@@ -1,5 +1,5 @@
-// What the player may change about how the game is shown, heard and paced. The rules of the game know nothing of it,
-// and with every value at its default a machine does what it does without.
+// What the player may change about how the game looks, sounds and runs. The rules of the game know nothing of it, and
+// with all values at their defaults nothing changes.
 #pragma once
 
 #include <vector>
@@ -9,22 +9,22 @@
 
 namespace prismfall {
 
-// How a colour is laid out along a beam. Beams run diagonally, so that a row of pixels is a place along any of them.
+// How a colour is distributed along a beam. Beams run diagonally, so each row of pixels is one place along a beam.
 enum class Pattern { Solid, Dashes, Dots, DashDots };
 
 // How pixels of the surface that were painted in one colour are shown.
 struct Recolouring {
     Colour painted = kBlack;
     Colour shown = kBlack;
-    Pattern pattern = Pattern::Solid;  // between its parts the colour is dim
+    Pattern pattern = Pattern::Solid;  // the colour is dim in its gaps
 
     bool operator==(const Recolouring&) const = default;
 };
 
 struct Comfort {
-    std::vector<Recolouring> recolourings = {};  // all others are shown as they were painted
+    std::vector<Recolouring> recolourings = {};  // all other colours are shown as painted
     bool ringsAtPointer = false;                 // marks what a press would reach
-    int musicPercent = 100;                      // of the volume that the game asks for
+    int musicPercent = 100;                      // of the volume that the game sets
     int effectsPercent = 100;
 };
 

@@ -10,8 +10,8 @@ namespace prismfall {
 
 namespace {
 
-constexpr float kFollowReach = 4;  // game pixels; a beam's head goes on this near to where it was bent
-constexpr float kAsideWeight = 2;  // how much worse a pixel aside is than one in the arrow's direction
+constexpr float kFollowReach = 4;  // game pixels; after a bend the new head is at most this far away
+constexpr float kAsideWeight = 2;  // how much more a pixel sideways counts than one in the arrow's direction
 
 // Something that can be chosen and pressed.
 struct Target {
@@ -22,7 +22,7 @@ struct Target {
 };
 
 struct Targets {
-    std::vector<Target> list;  // in the order of Tab
+    std::vector<Target> list;  // in Tab order
     bool haveKeysAlone = false;
 };
 
@@ -66,7 +66,7 @@ void AddControl(Element& element, Targets& targets) {
                             .element = &element});
 }
 
-// Pictures that ask for a press come first: the game waits for it.
+// Pictures that ask for a press come first, since the game waits for it.
 Targets TargetsOf(const Window& window, KeyReach reach) {
     Targets targets;
     AddSurface(window, targets);
@@ -82,7 +82,7 @@ float Distance(const KeyChoice& a, const KeyChoice& b) {
     return std::hypot(MiddleX(a) - MiddleX(b), MiddleY(a) - MiddleY(b));
 }
 
-// The target that was chosen before, or what goes on where it was.
+// The previously chosen target, or what continues in its place.
 const Target* Chosen(const Targets& targets, const KeyChoice& choice) {
     if (choice.what == nullptr) return nullptr;
     const std::vector<Target>& list = targets.list;
@@ -133,7 +133,7 @@ const Target* NextInOrder(const Targets& targets, const Target* from, Key key) {
     return &targets.list[(place + steps) % count];
 }
 
-// Moves the choice; without one it begins at the first target.
+// Moves the choice; if there is none, it starts at the first target.
 void MoveChoice(Window& window, const Targets& targets, const Target* chosen, Key key) {
     if (targets.list.empty()) return Choose(window, nullptr);
     if (chosen == nullptr) return Choose(window, &targets.list.front());

@@ -9,7 +9,7 @@ namespace prismfall {
 namespace {
 
 constexpr std::uint32_t kMarkPixel = 0xFFFFFFFF;
-constexpr std::uint32_t kShadowPixel = 0xFF000000;  // beside the mark, so that it is seen on any colour
+constexpr std::uint32_t kShadowPixel = 0xFF000000;  // next to the mark, so that it is visible on any colour
 
 // Game pixels. The ring leaves the head itself free.
 constexpr int kRingReach = 12;
@@ -32,8 +32,7 @@ PixelBox BoxOf(const KeyChoice& mark) {
 
 std::size_t Index(int x, int y) { return static_cast<std::size_t>(y) * Surface::kWidth + static_cast<std::size_t>(x); }
 
-// Rows of pixels: a pattern's period and which of its rows are lit, from the first on, in turns with those that are
-// dim.
+// Rows of pixels: a pattern's period, and how many of its rows are alternately lit and dim, starting with lit ones.
 struct Rhythm {
     int period = 1;
     std::array<int, 4> turns{};  // lit, dim, lit, dim
@@ -53,10 +52,10 @@ bool IsLit(Pattern pattern, int y) {
     return isLit;
 }
 
-// A quarter of the light.
+// A quarter of the brightness.
 std::uint32_t Dimmed(std::uint32_t pixel) { return 0xFF000000 | (pixel >> 2 & 0x3F3F3F); }
 
-// What a ring puts at this distance from its middle, or nothing.
+// What a ring paints at this distance from its center, or nothing.
 std::uint32_t RingPixel(float distance) {
     if (distance >= kRingInner && distance <= kRingOuter) return kMarkPixel;
     const bool isBeside = distance >= kRingInner - kShadow && distance <= kRingOuter + kShadow;

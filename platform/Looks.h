@@ -1,6 +1,6 @@
-// What is shown of the painted layer. The game's rules paint on a Surface and know nothing of this; whatever makes the
-// picture easier to see or to use is laid over its pixels here, for all backends alike. Without any of it the pixels
-// are the surface's own.
+// How the painted layer is shown. The game's rules paint on a Surface and know nothing of this; whatever makes the
+// picture easier to see or to use is applied to its pixels here, for all backends. Without any of it the pixels are the
+// surface's own.
 #pragma once
 
 #include <cstdint>
@@ -20,14 +20,14 @@ class Looks {
     Looks(const Looks&) = delete;
     Looks& operator=(const Looks&) = delete;
 
-    // Shows colours of the surface in others from now on.
+    // From now on shows some colours of the surface as others.
     void Recolour(const std::vector<Recolouring>& wanted);
 
-    // Marks the place that the player has chosen by keys, if it is on the surface and is to be shown: the head of a
-    // beam with a ring, anything else with a frame.
+    // Marks the place that the player has chosen with keys, if it is on the surface and to be shown: the head of a beam
+    // with a ring, anything else with a frame.
     void Mark(const KeyChoice& choice);
 
-    // As Surface.h has them, of what is shown. Rows are valid until the next call of TakeDamage.
+    // As in Surface.h, for what is shown. Rows are valid until the next call of TakeDamage.
     void TakeDamage(std::vector<PixelBox>& boxes);
     const std::uint32_t* Row(int y) const;
 
@@ -49,7 +49,7 @@ class Looks {
     Surface& surface;
     std::vector<Colours> colours;
     KeyChoice mark;
-    std::vector<PixelBox> lost;         // what looks different since the last call of TakeDamage
+    std::vector<PixelBox> lost;         // what has changed its look since the last call of TakeDamage
     std::vector<std::uint32_t> pixels;  // empty while the surface's own are shown
 };
 

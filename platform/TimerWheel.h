@@ -23,7 +23,7 @@ class TimerWheel {
     TimerWheel& operator=(const TimerWheel&) = delete;
 
     void SetTickHandler(std::function<void(Timer)> handler) { tick = std::move(handler); }
-    // Null for none. It must outlive the wheel, or be taken away.
+    // Null for none. It must outlive the wheel, or be removed first.
     void SetListener(HandlerListener* newListener) { listener = newListener; }
 
     // The operations of TimerControl.h. Outside of all handlers they count from game time.
@@ -81,13 +81,13 @@ class TimerWheel {
     void TickFirst();
     // The same, but the tick's moment is its due time, even if that has passed.
     void TickFirstAtItsTime() { Tick(*First(), *NextDue()); }
-    // Runs a handler at a moment that is known, such as that of a recorded input. What was due by then has ticked.
+    // Runs a handler at a known moment, such as that of a recorded input. What was due by then has already ticked.
     template <typename Call>
     void HandleAt(Nanoseconds moment, Call handler) {
         const Running handling(*this, moment);
         handler();
     }
-    // Puts a timer into a known state: an interval in milliseconds and, if it is on, the time until it is due.
+    // Sets a timer's state: an interval in milliseconds and, if it is on, the time until it is due.
     void Restore(Timer timer, int interval, std::optional<std::int64_t> remaining);
     // Calls a timer's handler at game time, whether or not it is due; it counts as running, and its due time stays.
     void Fire(Timer timer) { CallHandler(timer, time.Now()); }

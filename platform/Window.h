@@ -17,7 +17,7 @@ namespace prismfall {
 
 // A place on the surface that keys can choose and press.
 struct SurfaceSpot {
-    const void* what = nullptr;  // tells it from others, also after it has moved; it is compared and no more
+    const void* what = nullptr;  // identifies it, even after it has moved; only compared
     float x = 0;                 // where to press, game pixels
     float y = 0;
     float width = 0;  // of what is there, around that place; 0 for the head of a beam
@@ -25,11 +25,11 @@ struct SurfaceSpot {
 };
 
 struct SurfaceSpots {
-    std::vector<SurfaceSpot> list;  // in the order in which Tab goes through them
-    bool haveKeysAlone = false;     // a game is being played: keys are for the surface and not for the elements
+    std::vector<SurfaceSpot> list;  // in Tab order
+    bool haveKeysAlone = false;     // a game is being played: keys are for the surface, not for the elements
 };
 
-// The place that the player has chosen by keys, in the window.
+// The place in the window that the player has chosen with keys.
 struct KeyChoice {
     const void* what = nullptr;  // null for none
     bool isShown = false;        // keys are in use, so the place is marked
@@ -57,14 +57,14 @@ constexpr std::int16_t kEscapeKey = 27;
 // of the window's inner area for the window's own events, of the element for an element's.
 struct WindowHandlers {
     std::function<void()> activate;                                       // the window has come to the front
-    std::function<void()> deactivate;                                     // another program's window gets the keys
+    std::function<void()> deactivate;                                     // another program's window gets the focus
     std::function<void(float x, float y)> mouseMove;                      // over the surface, not over an element
     std::function<void(MouseButton button, float x, float y)> mouseDown;  // on the surface
     std::function<void()> doubleClick;  // the second press of a double click, instead of mouseDown
     std::function<void(std::int16_t code)> keyDown;
     std::function<void(SurfaceSpots& spots)> spots;  // adds what keys can choose on the surface now
     std::function<std::optional<SurfaceSpot>(float x, float y)> reached;  // the head that a press would reach
-    std::function<void(Key key)> command;                                 // a key that is no shortcut of an element
+    std::function<void(Key key)> command;                                 // a key that is not an element's shortcut
     std::function<void(bool minimised)> resize;
     std::function<void()> queryUnload;  // the window may be about to close; can come more than once, e.g. when a hidden
                                         // page may never be seen again

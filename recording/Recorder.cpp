@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int64_t kCheckEvery = 5000;  // milliseconds
 constexpr std::uint32_t kPrime = 16777619U;
-constexpr std::size_t kUsualBytes = 8192;  // of a game of some minutes
+constexpr std::size_t kUsualBytes = 8192;  // for a game of a few minutes
 
 }  // namespace
 
@@ -67,8 +67,8 @@ void Recorder::MomentRenewed(std::int64_t moment) {
     if (isRecording) Write(RenewalLine(moment - origin));
 }
 
-// The state after all that came before the last full five seconds. If nothing has happened for longer, one check
-// stands for all.
+// The state after everything before the last full five seconds. If nothing has happened for longer, one check covers it
+// all.
 void Recorder::CheckBefore(std::int64_t moment) {
     const std::int64_t last = moment / kCheckEvery * kCheckEvery;
     WriteCheck(last);

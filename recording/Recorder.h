@@ -1,6 +1,6 @@
-// Writes down a game while it is played: everything that reaches a handler, with its moment, and every five seconds a
-// fingerprint of the game's state and of all lines before it. Playing the lines again writes the same text again, on
-// any machine; where the texts part is where the games do.
+// Records a game while it is played: everything that reaches a handler, with its moment, and every five seconds a
+// fingerprint of the game's state and of all lines before it. Playing the lines again records the same text, on any
+// machine; where two texts differ, the games differ.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@
 
 namespace prismfall {
 
-// A 32-bit fingerprint (FNV-1a) of all that is written to it. It allocates nothing.
+// A 32-bit fingerprint (FNV-1a) of everything written to it. Allocates nothing.
 class Fingerprint : public std::streambuf {
   public:
     void Add(std::string_view text) { xsputn(text.data(), static_cast<std::streamsize>(text.size())); }
@@ -33,11 +33,12 @@ class Fingerprint : public std::streambuf {
 
 class Recorder final : public HandlerListener {
   public:
-    // `dump` prints the state of the game. The wheel tells the moments, and must outlive this.
+    // `dump` prints the state of the game. The wheel provides the moments, and must outlive this.
     Recorder(const TimerWheel& timers, std::function<void(std::ostream&)> dump)
         : wheel(timers), printState(std::move(dump)) {}
 
-    // A game begins at the moment of the running handler. `head` are the lines about its start, each with its end.
+    // A game begins at the moment of the running handler. `head` are the lines that describe its start, each with a
+    // newline.
     void Begin(std::string_view head);
     // It ends at that moment: the last check, and a line `end MOMENT how`. What comes after that is not recorded.
     void End(std::string_view how);
@@ -45,7 +46,7 @@ class Recorder final : public HandlerListener {
     void Drop();
 
     bool IsRecording() const { return isRecording; }
-    // So far, or of the game that has ended.
+    // The text so far, or that of the game that has ended.
     const std::string& Text() const { return text; }
     // Milliseconds since the game began.
     std::int64_t Moment() const { return wheel.MomentInMilliseconds() - origin; }

@@ -19,7 +19,7 @@ constexpr std::int64_t kFormat = 1;
 struct EventWord {
     std::string_view word;
     InputKind kind;
-    std::size_t words;  // behind it
+    std::size_t words;  // after it
 };
 
 constexpr auto kEventWords = std::to_array<EventWord>({
@@ -36,7 +36,7 @@ constexpr std::string_view kRenewalWord = "goon";
 
 constexpr std::string_view kPictureName = "PictTut";  // the tutorial's pictures are elements PictTut1, PictTut2 ...
 
-// The shortest text that reads as the same number again.
+// The shortest text that parses to the same number.
 std::string Exact(float number) {
     std::array<char, 32> text{};
     return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr};
@@ -48,7 +48,7 @@ std::string ButtonAndPlace(MouseButton button, const std::string& x, const std::
 
 std::string WordsOf(const InputEvent& event) {
     switch (event.kind) {
-        case InputKind::Press:  // beams are met in whole pixels
+        case InputKind::Press:  // beams are hit in whole pixels
             return ButtonAndPlace(event.button, std::to_string(Rounded(event.x)), std::to_string(Rounded(event.y)));
         case InputKind::PressElement:
             return std::string(event.element->name.substr(kPictureName.size())) + ' ' +
@@ -78,7 +78,7 @@ class Reader {
     }
 
   private:
-    // The words of the next line. There is always one: a fault is one without words.
+    // The words of the next line. There always is one: after an error, a line without words.
     Arguments NextLine() {
         ++line;
         const std::size_t end = text.find('\n', at);
@@ -103,7 +103,7 @@ class Reader {
         if (!fault) fault = RecordingFault{line, reason};
     }
 
-    // A line of this name with exactly so many words behind it.
+    // A line with this name and exactly that many words after it.
     Arguments Expect(std::string_view name, std::size_t words) {
         Arguments arguments = NextLine();
         if (arguments.Name() == name && arguments.Left() == words) return arguments;
@@ -121,7 +121,7 @@ class Reader {
         return number;
     }
 
-    // Moments never go back.
+    // Moments never decrease.
     std::int64_t Moment(Arguments& arguments) {
         recording.length = Number(arguments, recording.length, kMostRecordedTime);
         return recording.length;
@@ -174,7 +174,7 @@ class Reader {
         if (arguments.Left() < 2) return Fail("too few words");
         if (arguments.Name() == "at") return ReadEvent(arguments);
         if (arguments.Name() != "check" && arguments.Name() != "end") return Fail("no such line: " + arguments.Name());
-        // What follows their moments is compared as a text when the game has been played again.
+        // What follows their moments is compared as text when the game is played again.
         Moment(arguments);
         isAtEnd = arguments.Name() == "end";
     }

@@ -1,5 +1,5 @@
-// One game as it was played, as a text of a command a line: how it began, what reached the handlers at which moment of
-// the game, and how it ended. docs/RECORDINGS.md has the whole format.
+// A recorded game, as a text with one command per line: how it began, what reached the handlers at which moment of the
+// game, and how it ended. docs/RECORDINGS.md describes the format.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@ namespace prismfall {
 constexpr std::int64_t kMostRecordedTime = 36'000'000;  // milliseconds
 constexpr std::size_t kMostRecordedBytes = 2'000'000;
 
-// A number of the state that a game begins with, by the name that it has in the text.
+// A number of the state that a game begins with, by its name in the text.
 struct StartValue {
     std::string name;
     std::int64_t value = 0;
@@ -44,24 +44,24 @@ struct Recording {
     std::string kind;     // how the game began, and its numbers
     std::vector<StartValue> values;
     std::vector<StartTimer> timers;
-    std::uint64_t seed = 0;  // of all chance in it
+    std::uint64_t seed = 0;  // for all its randomness
     std::vector<RecordedEvent> events;
     std::int64_t length = 0;  // milliseconds
     std::string text;
-    std::size_t headBytes = 0;  // of the text, up to and with the line of the seed
+    std::size_t headBytes = 0;  // of the text, up to and including the seed's line
 };
 
-// Why a text is no recording, for people to read.
+// Why a text is not a recording, for people to read.
 struct RecordingFault {
     int line = 0;  // from 1
     std::string reason;
 };
 
-// Takes a text apart. It may come from anywhere: whatever is wrong with it, the fault tells the first line that is.
+// Parses a text. It may come from anywhere: whatever is wrong with it, the fault names the first bad line.
 std::optional<RecordingFault> ReadRecording(std::string_view text, Recording& recording);
 
-// The line of an event, without its end; empty for input that changes no game, such as a press on a button, which
-// counts only when it becomes a click.
+// The line of an event, without its newline; empty for input that does not change a game, such as a press on a button,
+// which counts only when it becomes a click.
 std::string EventLine(std::int64_t moment, const InputEvent& event);
 std::string RenewalLine(std::int64_t moment);
 

@@ -10,7 +10,7 @@ namespace prismfall {
 
 namespace {
 
-// Ticks, each with the beams it looks at: far more than a player plays in ten hours, and less than a second.
+// Counts ticks with the beams they look at: far more than a player causes in ten hours, and less than a second of work.
 constexpr std::int64_t kMostWork = 20'000'000;
 
 int LineAt(const std::string& text, std::size_t place) {
@@ -51,7 +51,7 @@ void Replay::PlayUntil(std::int64_t moment) {
     if (!IsOver()) machine.MoveClockTo(end);
     Compare();
     if (moment >= recording.length && !IsOver()) {
-        recorder.End("left");  // by the program's end
+        recorder.End("left");  // when the program ended
         Compare();
     }
 }
@@ -78,7 +78,7 @@ std::optional<Nanoseconds> Replay::TakeRenewal() {
 void Replay::Do(const RecordedEvent& event) {
     Window* const front = machine.Input().Front();
     if (front == nullptr) return;
-    // One that belongs to no handler of this game is of a dialog before it.
+    // One that belongs to no handler of this game is from a dialog before it.
     if (event.isRenewal) return machine.Timers().RenewMoment();
     switch (event.kind) {
         case InputKind::Press:

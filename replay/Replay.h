@@ -1,5 +1,5 @@
-// Plays a recorded game again on a headless machine, as far as wanted, and compares it with its recording on the way.
-// The game is recorded anew meanwhile: two texts that are the same are two games that were the same.
+// Plays a recorded game again on a headless machine, as far as requested, and compares it with its recording on the
+// way. To do so it records the game again: if the texts are the same, the games were the same.
 #pragma once
 
 #include <cstdint>
@@ -28,8 +28,8 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     Replay(HeadlessPlatform& machine, VMain& main, const Recording& recording);
     ~Replay() override;
 
-    // Plays on until that moment of the game, in milliseconds since it began, or further if a dialog is open then. Not
-    // beyond the game's end or a fault.
+    // Continues until that moment of the game, in milliseconds since it began, or further if a dialog is open then, but
+    // not beyond the game's end or a difference.
     void PlayUntil(std::int64_t moment);
     // To the end.
     void Play();
@@ -55,7 +55,7 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     Nanoseconds InMachineTime(std::int64_t moment) const { return start + std::chrono::milliseconds(moment); }
     void Do(const RecordedEvent& event);
     void Press(Window& window, const RecordedEvent& event);
-    // Compares what has been recorded anew since the last call.
+    // Compares what has been recorded again since the last call.
     void Compare();
     void Stop(ReplayFault found);
 

@@ -1,4 +1,4 @@
-// Plays recordings of games again and says whether they are what happened.
+// Plays recordings of games again and says whether they are genuine.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ namespace prismfall {
 
 struct Verdict {
     bool isTrue = false;
-    // What the game came to, as in "Arcade, 1230 points, level 4, 3:12"; or where it differs, or why the text is no
+    // The game's result, as in "Arcade, 1230 points, level 4, 3:12"; or where it differs, or why the text is not a
     // recording.
     std::string words;
 };

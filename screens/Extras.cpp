@@ -28,7 +28,7 @@ constexpr std::array<Frame, 5> kFrames = {{
     {"FrameGamepad", "Gamepad", 280, 264, 256, 88},
 }};
 
-// A check box is set if its value is 1; of the radio buttons of a group that one is set whose number the value has.
+// A check box is set if its value is 1; in a group of radio buttons, the one whose number is the value is set.
 struct Choice {
     std::string_view name;
     std::string_view text;
@@ -137,7 +137,7 @@ void Mark(Window& dialog, const Extras& extras) {
     for (const Choice& choice : kChoices) dialog[choice.name].checked = extras.*choice.value == choice.number;
 }
 
-// A check box that is clicked changes, a radio button is set.
+// Clicking toggles a check box and sets a radio button.
 void Take(const Choice& choice, Extras& extras) {
     std::int16_t& value = extras.*choice.value;
     value = choice.group.empty() && value == choice.number ? std::int16_t{0} : choice.number;

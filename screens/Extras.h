@@ -1,5 +1,5 @@
-// The dialog VExtras: how the game looks, sounds and runs for players who want it otherwise, and the list of all keys.
-// What is chosen acts at once; game time stands still meanwhile.
+// The dialog VExtras: options for how the game looks, sounds and runs, and the list of all keys. Changes take effect at
+// once; game time is stopped while it is open.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@
 
 namespace prismfall {
 
-// Shows the dialog, which is made at its first use and kept in `VExtras`; returns when it has closed. `apply` is called
+// Shows the dialog, which is built on first use and kept in `VExtras`; returns when it has closed. `apply` is called
 // after each change of `extras`.
 void ShowExtras(const DialogHost& host, std::unique_ptr<Window>& VExtras, Extras& extras, std::function<void()> apply);
 

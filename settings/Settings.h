@@ -24,14 +24,14 @@ struct StoreMemory {
     std::vector<ScoreRow> gamesEntered;  // after the clearing, if there was one
 };
 
-// What the player may change about how the game is shown, heard and paced. Kept in a section of its own, and only where
-// it is not the default. Switches are 0 or 1.
+// What the player may change about how the game looks, sounds and runs. Stored in a separate section, and only if not
+// the default. Switches are 0 or 1.
 struct Extras {
-    std::int16_t Palette = 0;        // colours that can be told apart without some of the eye's three
+    std::int16_t Palette = 0;        // colours that colour-blind players can tell apart
     std::int16_t Patterns = 0;       // along the beams, a different one for each colour
     std::int16_t Rings = 0;          // around the head that a press would reach
     std::int16_t Pace = 100;         // percent: 100, 80, 60 or 40
-    std::int16_t PauseAway = 0;      // pause when another window gets the keys
+    std::int16_t PauseAway = 0;      // pause when another window gets the focus
     std::int16_t MusicVolume = 100;  // percent: 100, 75, 50 or 25
     std::int16_t EffectsVolume = 100;
     std::int16_t Mute = 0;

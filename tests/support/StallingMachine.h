@@ -1,4 +1,4 @@
-// A machine that no player should have: its clock moves with every look, and stalls.
+// A terrible machine: its clock advances with every reading, and stalls.
 #pragma once
 
 #include <functional>
@@ -9,7 +9,7 @@
 
 namespace prismfall {
 
-// Prints as a headless machine does, on the timers and the game time of a real one.
+// Prints like a headless machine, but has the timers and the game time of a real one.
 class StallingMachine : public HeadlessPlatform {
   public:
     StallingMachine(std::ostream& events, std::uint32_t seed) : HeadlessPlatform(events), random(seed) {}
@@ -20,7 +20,7 @@ class StallingMachine : public HeadlessPlatform {
     }
     void ComeRound() { timers.TickDue(); }
 
-    std::function<void()> whileDialog;  // again and again, while one is open
+    std::function<void()> whileDialog;  // called repeatedly while one is open
 
     TimerWheel& Timers() override { return timers; }
     bool ShowModally(Window& dialog) override {
