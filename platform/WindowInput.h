@@ -31,7 +31,8 @@ class WindowInput {
     // Null for none. It must outlive this, or be taken away.
     void SetListener(HandlerListener* newListener) { listener = newListener; }
 
-    // --- The open windows, the latest in front. Only that one gets input, as long as it is visible and takes it.
+    // --- The open windows, the latest in front. Only the front window gets input, as long as it is visible and takes
+    // it.
 
     void Open(Window& window);
     void Close(const Window& window);

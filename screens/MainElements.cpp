@@ -50,7 +50,7 @@ MainElements::MainElements() {
         PictTut[i].accessibleName = picture.accessibleName;
         PictTut[i].visible = false;
     }
-    CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to leaf through the pages
+    CommandPrevious.fastPresses = CommandNext.fastPresses = true;  // to turn pages quickly
     CommandPrevious.shortcut = Key::PageUp;
     CommandNext.shortcut = Key::PageDown;
     CmdStart.shortcut = kStart.shortcut;

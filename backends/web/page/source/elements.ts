@@ -21,7 +21,7 @@ class Shown {
     readonly words: HTMLElement | undefined;
     readonly unseen: HTMLElement | undefined;
     record: Partial<ElementRecord> = {};
-    spokenLast = '';
+    lastAnnounced = '';
 
     constructor(record: ElementRecord, place: number) {
         switch (record.kind) {
