@@ -91,7 +91,8 @@ export class Elements {
             input.checked = record.checked;
             input.disabled = !record.enabled;
         }
-        if (unseen && isNew('accessibleName')) unseen.textContent = record.accessibleName && `${record.accessibleName} `;
+        if (unseen && isNew('accessibleName'))
+            unseen.textContent = record.accessibleName && `${record.accessibleName} `;
         if (words && isNew('text', ...looksOfText)) setText(node, words, record);
         this.speak(element, record);
     }
