@@ -1,4 +1,4 @@
-# Sets release_date, and release_notes in paragraphs of AppStream, from what CHANGELOG.md says of PROJECT_VERSION.
+# Sets release_date, and release_notes as AppStream paragraphs, from the section of PROJECT_VERSION in CHANGELOG.md.
 file(READ ${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog)
 string(REPLACE "." "\\." number "${PROJECT_VERSION}")
 if(NOT changelog MATCHES "\n## ${number} - ([0-9-]+)\n")
