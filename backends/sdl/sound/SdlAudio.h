@@ -33,6 +33,7 @@ class SdlAudio {
 
   private:
     void PlanAhead();
+    void Silence();
 
     AudioDevice device;
     SdlMusic music;

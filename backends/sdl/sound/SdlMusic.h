@@ -34,6 +34,9 @@ class SdlMusic {
     bool AwaitsDevice();
     // Plays on where it fell silent, if there is a device now.
     void TakeUp();
+    // To be called before the device is closed, with which SDL's streams may go. Samples that have not been heard yet
+    // are decoded again.
+    void Release();
 
     // Adds what is to be heard next, in the device's form. To be called with the device locked.
     void MixInto(std::span<std::uint8_t> samples);
