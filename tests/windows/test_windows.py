@@ -144,7 +144,9 @@ class Player(WindowsTest):
         run = self.play(folder / "prismfall.exe", settings)
         dialog = run.open_dialog("CmdOptions", layout.OPTIONS)
         run.press("CommandExit")  # which is behind the dialog
-        dialog.click(*layout.middle("Option8", layout.OPTIONS))
+        width, height = layout.SIZES[layout.OPTIONS]
+        self.assertEqual(dialog.place()[2:], (width + 6, height + 22), "the frame of a tool window")
+        game.click_in(dialog, layout.OPTIONS, "Option8")
         run.answer_dialog(layout.OPTIONS)
         run.press("CommandArcade")
         run.wait_for_motion()

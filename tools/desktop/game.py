@@ -21,6 +21,14 @@ def still(look, seconds):
     return holds_for(lambda: look() == before, seconds)
 
 
+def click_in(dialog, title, element):
+    """Clicks an element of a dialog, whose frame may be a part of the window, as it is with Windows' small ones."""
+    (width, height), (_, _, outer_width, outer_height) = layout.SIZES[title], dialog.place()
+    edge = (outer_width - width) // 2
+    x, y = layout.middle(element, title)
+    dialog.click(x + edge, y + outer_height - height - edge)
+
+
 class Settings:
     """A folder for the test's own settings."""
 
@@ -153,6 +161,6 @@ class Game:
         wait_for(lambda: not self.desktop.windows(title), 5, f"the end of {title!r}")
 
     def answer_dialog(self, title, button=None, seconds=5):
-        """Clicks a button of a dialog, by default OK, and waits until the dialog is gone."""
-        self.desktop.window(title, seconds).click(*layout.middle(button or layout.OK[title], title))
+        """Clicks a button of a dialog, OK if none is named, and waits until it is gone."""
+        click_in(self.desktop.window(title, seconds), title, button or layout.OK[title])
         self.wait_for_close(title)

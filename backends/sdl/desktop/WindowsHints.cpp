@@ -45,7 +45,27 @@ LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM word, LPARAM va
 // to another program.
 LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM word, LPARAM value) {
     if (message == WM_SHOWWINDOW && value == 0) EnableWindow(GetWindow(window, GW_OWNER), word == 0);
+    // SDL would keep the whole window to the size that it has with a plain frame.
+    if (message == WM_GETMINMAXINFO) return DefWindowProcW(window, message, word, value);
     return PassOn(window, message, word, value);
+}
+
+// A small title without an icon. SDL takes the frame for a plain one when it counts the size of the whole window, and
+// takes the place that was meant for the frame for that of what is inside.
+void SetToolFrame(SDL_Window* dialog, HWND handle) {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    SDL_GetWindowPosition(dialog, &left, &top);
+    SDL_GetWindowSize(dialog, &width, &height);
+    SetWindowLongPtrW(handle, GWL_STYLE, GetWindowLongPtrW(handle, GWL_STYLE) & ~static_cast<LONG_PTR>(WS_MINIMIZEBOX));
+    SetWindowLongPtrW(handle, GWL_EXSTYLE, GetWindowLongPtrW(handle, GWL_EXSTYLE) | WS_EX_TOOLWINDOW);
+    constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED;
+    SetWindowPos(handle, nullptr, left, top, width, height, quietly);
+    RECT inner{};
+    GetClientRect(handle, &inner);
+    SetWindowPos(handle, nullptr, left, top, 2 * width - inner.right, 2 * height - inner.bottom, quietly);
 }
 
 }  // namespace
@@ -81,18 +101,9 @@ void SetMainFrame(SDL_Window* window) {
 void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner) {
     const HWND handle = HandleOf(dialog);
     if (handle == nullptr) return;
-    SetWindowLongPtrW(handle, GWL_STYLE, GetWindowLongPtrW(handle, GWL_STYLE) & ~static_cast<LONG_PTR>(WS_MINIMIZEBOX));
-    if (owner == nullptr) return;
-    SetWindowLongPtrW(handle, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(HandleOf(owner)));
     SeeMessagesFirst(handle, DialogProcedure);
-    // Here SDL has applied the position meant for the frame to the inner area.
-    int left = 0;
-    int top = 0;
-    int frameLeft = 0;
-    int frameTop = 0;
-    SDL_GetWindowPosition(dialog, &left, &top);
-    SDL_GetWindowBordersSize(dialog, &frameTop, &frameLeft, nullptr, nullptr);
-    SDL_SetWindowPosition(dialog, left + frameLeft, top + frameTop);
+    SetToolFrame(dialog, handle);
+    if (owner != nullptr) SetWindowLongPtrW(handle, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(HandleOf(owner)));
 }
 
 }  // namespace prismfall

@@ -10,6 +10,7 @@ namespace prismfall {
 std::string MusicFile::Open(const std::string& path) {
     const auto failure = [&path](const char* reason) { return "Couldn't play " + path + ": " + reason; };
     int error = MPG123_OK;
+    block = {};
     decoder.reset(mpg123_new(nullptr, &error));
     if (!decoder) return failure(mpg123_plain_strerror(error));
     mpg123_param(decoder.get(), MPG123_ADD_FLAGS, MPG123_QUIET | MPG123_GAPLESS, 0);
@@ -36,15 +37,23 @@ std::span<const std::byte> MusicFile::Read() {
     int result = MPG123_OK;
     while (bytes == 0 && (result == MPG123_OK || result == MPG123_NEW_FORMAT))
         result = mpg123_decode_frame(decoder.get(), nullptr, &samples, &bytes);
-    return std::as_bytes(std::span(samples, bytes));
+    block = std::as_bytes(std::span(samples, bytes));
+    return block;
 }
 
-void MusicFile::Rewind() { mpg123_seek(decoder.get(), 0, SEEK_SET); }
+void MusicFile::Rewind() { Seek(0); }
 
+// The decoder's place is where the block that it has just given begins.
 void MusicFile::StepBack(int samples) {
-    auto place = mpg123_tell(decoder.get()) - samples;
+    const auto given = static_cast<std::int64_t>(block.size()) / (channels * static_cast<int>(sizeof(std::int16_t)));
+    std::int64_t place = mpg123_tell(decoder.get()) + given - samples;
     if (place < 0) place += mpg123_length(decoder.get());
-    mpg123_seek(decoder.get(), std::max<decltype(place)>(place, 0), SEEK_SET);
+    Seek(std::max<std::int64_t>(place, 0));
+}
+
+void MusicFile::Seek(std::int64_t sample) {
+    mpg123_seek(decoder.get(), static_cast<off_t>(sample), SEEK_SET);
+    block = {};
 }
 
 void MusicFile::Free::operator()(mpg123_handle_struct* done) const { mpg123_delete(done); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -28,11 +29,14 @@ class MusicFile {
     int Channels() const { return channels; }
 
   private:
+    void Seek(std::int64_t sample);
+
     struct Free {
         void operator()(mpg123_handle_struct* done) const;
     };
 
     std::unique_ptr<mpg123_handle_struct, Free> decoder;
+    std::span<const std::byte> block;  // what the last reading has given
     int rate = 0;
     int channels = 0;
 };

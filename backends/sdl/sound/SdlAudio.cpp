@@ -61,8 +61,7 @@ void SdlAudio::DeviceLost() {
     if (!used) return;
     thread.Post([this] {
         if (!device.IsLost()) return;
-        sound.Release();
-        device.Close();
+        Silence();
         music.TakeUp();
         PlanAhead();
     });
@@ -81,17 +80,21 @@ void SdlAudio::PlanAhead() {
     if (!device.IsOpen() || (music.IsSounding() && music.IsLooping())) return thread.RunLater(std::nullopt, {});
     thread.RunLater(kSilenceBeforeClosing, [this] {
         if (music.IsSounding() || sound.IsSounding()) return PlanAhead();
-        sound.Release();
-        device.Close();
+        Silence();
     });
+}
+
+void SdlAudio::Silence() {
+    sound.Release();
+    music.Release();
+    device.Close();
 }
 
 bool SdlAudio::Finish() {
     if (!used) return true;
     thread.Post([this] {
-        sound.Release();
         music.Close();
-        device.Close();
+        Silence();
     });
     return thread.Finish(kLongestWait);
 }

@@ -36,6 +36,7 @@ class SdlAudio {
 
   private:
     void PlanAhead();
+    void Silence();
 
     AudioDevice device;
     SdlMusic music;

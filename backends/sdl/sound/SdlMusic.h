@@ -37,6 +37,9 @@ class SdlMusic {
     bool AwaitsDevice();
     // Resumes where it fell silent, if there is a device now.
     void TakeUp();
+    // To be called before the device is closed, with which SDL's streams may go. Samples that have not been heard yet
+    // are decoded again.
+    void Release();
 
     // Mixes in the next samples, in the device's format. Call it with the device locked.
     void MixInto(std::span<std::uint8_t> samples);

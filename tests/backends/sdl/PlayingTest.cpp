@@ -85,6 +85,7 @@ TEST_F(PlayingTest, MusicLoopsWithoutASeamAndPlaysOnFromWhereItPaused) {
     music.Pause();
     EXPECT_TRUE(IsSilence(Take(music, kChunk)));
     EXPECT_FALSE(music.IsSounding());
+    music.Release();
     device.Close();
     music.Resume();
     const Samples rest = Take(music, size);
@@ -218,9 +219,12 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndResumesInTheFormatOfTheNext) {
     audio.DoWithMusic([](SdlMusic& player) { player.PlayLooping(); });
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     setenv("SDL_AUDIODRIVER", "disk", 1);
-    ASSERT_TRUE(WaitFor([&] { return size(first) > 300'000; })) << "a device has appeared";
-    audio.DeviceLost();  // but that was a different one
-    ASSERT_TRUE(WaitFor([] { return SDL_HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE; }));
+    ASSERT_TRUE(WaitFor([&] { return size(first) > 300'000; })) << "a device has come";
+    audio.DeviceLost();  // but that was not this one
+    ASSERT_TRUE(WaitFor([] {
+        SDL_PumpEvents();
+        return SDL_HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE;
+    }));
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
     setenv("SDL_DISKAUDIOFILE", second.c_str(), 1);
     setenv("SDL_AUDIO_FREQUENCY", "88200", 1);
