@@ -44,6 +44,7 @@ void AudioDevice::Close() {
     if (!IsOpen()) return;
     SDL_CloseAudioDevice(id);
     id = 0;
+    if (whenClosed) whenClosed();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 

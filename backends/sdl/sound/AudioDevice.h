@@ -28,6 +28,9 @@ class AudioDevice {
     // Opens the device if it is closed. Returns false if there is no usable one.
     bool Open();
     void Close();
+    // Called when an open device has been closed. Whatever SDL has made for its samples has to be freed now: an SDL2
+    // that is a layer over SDL3 frees it itself with the audio subsystem.
+    void WhenClosed(std::function<void()> action) { whenClosed = std::move(action); }
     bool IsOpen() const { return id != 0; }
     // It was open and has disappeared: it was unplugged, or its sound server has ended. `Fill` is no longer called.
     bool IsLost() const { return IsOpen() && SDL_GetAudioDeviceStatus(id) == SDL_AUDIO_STOPPED; }
@@ -48,6 +51,7 @@ class AudioDevice {
     static void Callback(void* self, std::uint8_t* samples, int bytes);
 
     Fill fill;
+    std::function<void()> whenClosed;
     SDL_AudioDeviceID id = 0;
     SDL_AudioSpec form{};
     std::optional<std::chrono::steady_clock::time_point> failedAt;

@@ -3,7 +3,9 @@
 #include <mpg123.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <utility>
 
 namespace prismfall {
 
@@ -36,13 +38,17 @@ std::span<const std::byte> MusicFile::Read() {
     int result = MPG123_OK;
     while (bytes == 0 && (result == MPG123_OK || result == MPG123_NEW_FORMAT))
         result = mpg123_decode_frame(decoder.get(), nullptr, &samples, &bytes);
+    lastRead = static_cast<int>(bytes / sizeof(std::int16_t)) / channels;
     return std::as_bytes(std::span(samples, bytes));
 }
 
-void MusicFile::Rewind() { mpg123_seek(decoder.get(), 0, SEEK_SET); }
+void MusicFile::Rewind() {
+    mpg123_seek(decoder.get(), 0, SEEK_SET);
+    lastRead = 0;
+}
 
 void MusicFile::StepBack(int samples) {
-    auto place = mpg123_tell(decoder.get()) - samples;
+    auto place = mpg123_tell(decoder.get()) + std::exchange(lastRead, 0) - samples;
     if (place < 0) place += mpg123_length(decoder.get());
     mpg123_seek(decoder.get(), std::max<decltype(place)>(place, 0), SEEK_SET);
 }

@@ -33,6 +33,7 @@ class MusicFile {
     };
 
     std::unique_ptr<mpg123_handle_struct, Free> decoder;
+    int lastRead = 0;  // samples of each channel, which the decoder still takes for unread
     int rate = 0;
     int channels = 0;
 };

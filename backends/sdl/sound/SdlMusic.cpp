@@ -42,21 +42,25 @@ void SdlMusic::Play(State newState) {
     if (hasDevice) FitStream();
 }
 
-// A stream that fits is kept, since it may contain samples that have not been played yet. Otherwise they are decoded
-// again.
+// A stream that fits is kept, since it may contain samples that have not been played yet.
 void SdlMusic::FitStream() {
     const SDL_AudioSpec& form = device.Form();
     if (stream && streamForm.format == form.format && streamForm.channels == form.channels &&
         streamForm.freq == form.freq)
         return;
-    if (stream) {
-        const int frame = SDL_AUDIO_BITSIZE(streamForm.format) / 8 * streamForm.channels;
-        const std::int64_t unheard = SDL_AudioStreamAvailable(stream.get()) / frame;
-        file.StepBack(static_cast<int>(unheard * file.Rate() / streamForm.freq));
-    }
+    FreeStream();
     streamForm = form;
     stream.reset(SDL_NewAudioStream(AUDIO_S16SYS, static_cast<std::uint8_t>(file.Channels()), file.Rate(), form.format,
                                     form.channels, form.freq));
+}
+
+// Samples in it that have not been played yet will be decoded again.
+void SdlMusic::FreeStream() {
+    if (!stream) return;
+    const int frame = SDL_AUDIO_BITSIZE(streamForm.format) / 8 * streamForm.channels;
+    const std::int64_t unheard = SDL_AudioStreamAvailable(stream.get()) / frame;
+    file.StepBack(static_cast<int>(unheard * file.Rate() / streamForm.freq));
+    stream.reset();
 }
 
 void SdlMusic::PlayLooping() {

@@ -18,7 +18,12 @@ namespace prismfall {
 
 class SdlMusic {
   public:
-    explicit SdlMusic(AudioDevice& soundDevice) : device(soundDevice) {}
+    explicit SdlMusic(AudioDevice& soundDevice) : device(soundDevice) {
+        device.WhenClosed([this] { FreeStream(); });
+    }
+    SdlMusic(const SdlMusic&) = delete;
+    SdlMusic& operator=(const SdlMusic&) = delete;
+    ~SdlMusic() { device.WhenClosed({}); }
 
     // Returns nothing if the file can be played, else its path and the decoder's reason.
     std::string Open(const std::string& path);
@@ -43,7 +48,7 @@ class SdlMusic {
 
   private:
     enum class State { Stopped, Looping, PlayingOnce, Paused, Over };  // Over: played to its end once
-    struct FreeStream {
+    struct Free {
         void operator()(SDL_AudioStream* done) const { SDL_FreeAudioStream(done); }
     };
 
@@ -51,6 +56,7 @@ class SdlMusic {
     bool PlaysOnce();
     void Play(State newState);
     void FitStream();
+    void FreeStream();
     void DecodeAhead(int wanted);
     void GiveOutRest();
 
@@ -58,8 +64,8 @@ class SdlMusic {
     std::atomic<int> sharePercent = 100;
     // Locked by the device, as SDL's thread uses them too:
     MusicFile file;
-    std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's format to the device's; null at first
-    SDL_AudioSpec streamForm{};                           // the device's format, as the stream knows it
+    std::unique_ptr<SDL_AudioStream, Free> stream;  // from the file's format to the device's; null at first
+    SDL_AudioSpec streamForm{};                     // the device's format, as the stream knows it
     std::vector<std::uint8_t> next;
     bool isRestGivenOut = false;  // what the stream held back at the track's end
     State state = State::Stopped;
