@@ -122,7 +122,7 @@ class Desktop:
         own.update(HOME=str(self.folder), SDL_AUDIODRIVER="dummy", DBUS_SESSION_BUS_ADDRESS=f"unix:path={self.folder}/bus")
         self.environment = own
         read, write = os.pipe()
-        options = ["-screen", "0", f"{size}x24", "-fbdir", self.folder, "-nocursor", "-nolisten", "tcp", "-noreset"]
+        options = ["-screen", "0", f"{size}x24", "-fbdir", self.folder, "-nocursor", "-nolisten", "tcp", "-noreset", "-r"]
         self.start(["Xvfb", "-displayfd", str(write), *options], pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as told:

@@ -198,6 +198,9 @@ bool WaitFor(const std::function<bool()>& holds) {
 // SDL's disk driver stands in for a device that can be unplugged: its device disappears when the file reaches its size
 // limit.
 TEST_F(PlayingTest, MusicWaitsForADeviceAndResumesInTheFormatOfTheNext) {
+    SDL_version linked;
+    SDL_GetVersion(&linked);
+    if (linked.patch >= 50) GTEST_SKIP() << "SDL2 over SDL3, which finds another device itself and tells of none";
     const Samples track = WholeTrack();
     const fs::path folder = fs::path(testing::TempDir()) / ("devices-" + std::to_string(getpid()));
     fs::create_directories(folder);
