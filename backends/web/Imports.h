@@ -62,6 +62,8 @@ struct ElementRecord {
     std::int32_t italic = 0;
     std::int32_t wraps = 0;
     std::int32_t fitHeight = 0;
+    std::int32_t row = 0;  // of the window's table, from 1; 0 for none
+    std::int32_t column = 0;
     Text family;
     Text picture;
     Text accessibleName;

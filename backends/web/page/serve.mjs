@@ -14,6 +14,7 @@ const types = {
     '.css': 'text/css; charset=utf-8',
     '.wasm': 'application/wasm',
     '.png': 'image/png',
+    '.webp': 'image/webp',
     '.wav': 'audio/wav',
     '.mp3': 'audio/mpeg',
     '.webmanifest': 'application/manifest+json',

@@ -62,6 +62,8 @@ class Shown {
 export class Elements {
     private readonly shown: Shown[] = [];
     private readonly groups = new Map<string, HTMLElement>();
+    private readonly rows = new Map<number, HTMLElement>();
+    private table: HTMLElement | undefined;
 
     constructor(
         private readonly root: HTMLElement,
@@ -103,9 +105,31 @@ export class Elements {
 
     private make(place: number, record: ElementRecord): Shown {
         const element = new Shown(record, place);
-        const parent = this.shown[record.panel]?.node ?? this.groupOf(record) ?? this.root;
+        const parent = this.shown[record.panel]?.node ?? this.groupOf(record) ?? this.rowOf(record) ?? this.root;
         parent.append(element.node);
+        if (record.row > 0) makeCell(element.node, record);
         return element;
+    }
+
+    /** The cells of a table lie in nodes that tell a screen reader so. */
+    private rowOf({ row }: ElementRecord): HTMLElement | undefined {
+        if (row === 0) return undefined;
+        let node = this.rows.get(row);
+        if (!node) {
+            this.table ??= this.makeTable();
+            node = add(this.table, make('div'));
+            node.setAttribute('role', 'row');
+            this.rows.set(row, node);
+        }
+        return node;
+    }
+
+    /** A dialog with a table is not read as one long sentence. */
+    private makeTable(): HTMLElement {
+        const table = add(this.root, make('div'));
+        table.setAttribute('role', 'table');
+        this.root.closest('dialog')?.removeAttribute('aria-describedby');
+        return table;
     }
 
     /** Radio buttons of one group lie in a node that tells a screen reader so. */
@@ -148,6 +172,11 @@ function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): 
         size = Math.ceil(size) - 1;
         node.style.fontSize = `${size}px`;
     }
+}
+
+function makeCell(node: HTMLElement, { row, column }: ElementRecord): void {
+    node.setAttribute('role', row === 1 ? 'columnheader' : column === 1 ? 'rowheader' : 'cell');
+    node.setAttribute('aria-colindex', String(column));
 }
 
 /** Pointers press the picture itself; this is for keys. */

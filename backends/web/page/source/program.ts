@@ -6,6 +6,7 @@ import { Frames } from './frames';
 import type { Keys } from './keys';
 import type { Music } from './music';
 import type { Notices } from './notices';
+import { canSuspend, programFile } from './programFile';
 import { checkRecords, decodeText, readElement, readWindow, writeEvent } from './records';
 import type { Settings } from './settings';
 import type { Sounds } from './sound';
@@ -51,15 +52,9 @@ export interface Program {
     run(machine: Machine): Promise<void>;
 }
 
-/** The build is the browser's choice, unless the address asks for one: `?build=asyncify`. */
-function canSuspend(): boolean {
-    return 'Suspending' in WebAssembly && new URLSearchParams(location.search).get('build') !== 'asyncify';
-}
-
 export async function loadProgram(): Promise<Program> {
-    const suspends = canSuspend();
-    const module = await compile(`${build.folder}/${suspends ? 'prismfall' : 'prismfall-asyncify'}.wasm`);
-    return { run: (machine) => (suspends ? runSuspending(module, machine) : runUnwinding(module, machine)) };
+    const module = await compile(`${build.folder}/${programFile()}`);
+    return { run: (machine) => (canSuspend() ? runSuspending(module, machine) : runUnwinding(module, machine)) };
 }
 
 /** Browsers compile a file while it comes only if the server tells its type; not every server does. */

@@ -114,6 +114,8 @@ export interface ElementRecord {
     readonly italic: boolean;
     readonly wraps: boolean;
     readonly fitHeight: number;
+    readonly row: number;
+    readonly column: number;
     readonly family: string;
     readonly picture: string;
     readonly accessibleName: string;
@@ -163,6 +165,8 @@ function elementFrom(field: FieldReader): ElementRecord {
         italic: field.flag(),
         wraps: field.flag(),
         fitHeight: field.whole(),
+        row: field.whole(),
+        column: field.whole(),
         family: field.text(),
         picture: field.text(),
         accessibleName: field.text(),
