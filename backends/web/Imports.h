@@ -135,6 +135,8 @@ PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t el
 PAGE_IMPORT("showPixels")
 void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
                 std::int32_t height);
+// The places on the surface that can be pressed, with names, instead of those before.
+PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t count);
 // Whether a game is being played, so that Tab and the arrows choose beams and not what the page offers.
 PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t toField);
 // Shows one line about saving below the picture. An empty one removes it.

@@ -56,6 +56,15 @@ void Merge(std::vector<PixelBox>& boxes) {
     boxes.erase(end, boxes.end());
 }
 
+page::SpotRecord RecordOf(const SurfaceSpot& spot) {
+    return {.left = spot.x - spot.width / 2,
+            .top = spot.y - spot.height / 2,
+            .width = spot.width,
+            .height = spot.height,
+            .button = static_cast<std::int32_t>(MouseButton::Left),
+            .accessibleName = std::string_view(spot.accessibleName)};
+}
+
 std::string StoredSettings() {
     std::string text(page::OpenSettings(), '\0');
     page::ReadSettings(text.data());
@@ -164,15 +173,21 @@ void WebPlatform::DeliverMinimised() {
 
 void WebPlatform::Present() {
     if (ended) return;
-    TellOfKeys();
+    SendSpots();
     SendSurface();
     for (const auto& window : shown) window->Refresh();
 }
 
-void WebPlatform::TellOfKeys() {
+void WebPlatform::SendSpots() {
     SurfaceSpots spots;
     if (main->on.spots) main->on.spots(spots);
     if (std::exchange(fieldHasKeys, spots.haveKeysAlone) != fieldHasKeys) page::GiveKeys(fieldHasKeys ? 1 : 0);
+    std::erase_if(spots.list, [](const SurfaceSpot& spot) { return spot.accessibleName.empty(); });
+    if (spots.list == shownSpots) return;
+    shownSpots = std::move(spots.list);
+    std::vector<page::SpotRecord> records(shownSpots.size());
+    std::ranges::transform(shownSpots, records.begin(), RecordOf);
+    page::ShowSpots(records.data(), static_cast<std::int32_t>(records.size()));
 }
 
 void WebPlatform::SendSurface() {
@@ -217,8 +232,6 @@ bool WebPlatform::ShowModally(Window& dialog) {
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     if (dialog.on.activate) dialog.on.activate();
     Present();  // a screen reader begins to read what is there
-    std::optional<GameTime::Standstill> standstill;
-    if (dialog.stopsTime) standstill.emplace(time);
     for (Work(); !ended && input.GoesOn(dialog); Work()) Rest();
     standstill.reset();
     timers.RenewMoment();

@@ -21,7 +21,7 @@ class Shown {
     readonly words: HTMLElement | undefined;
     readonly unseen: HTMLElement | undefined;
     record: Partial<ElementRecord> = {};
-    spokenLast = '';
+    lastAnnounced = '';
 
     constructor(record: ElementRecord, place: number) {
         switch (record.kind) {
@@ -179,8 +179,8 @@ function makeCell(node: HTMLElement, { row, column }: ElementRecord): void {
     node.setAttribute('aria-colindex', String(column));
 }
 
-/** Pointers press the picture itself; this is for keys. */
-function makeSpot(spot: SpotRecord): HTMLButtonElement {
+/** Pointers press what is below; this is for keys. */
+export function makeSpot(spot: SpotRecord): HTMLButtonElement {
     const node = make('button', 'spot');
     for (const side of ['left', 'top', 'width', 'height'] as const) node.style[side] = `${spot[side]}px`;
     node.setAttribute('aria-label', spot.accessibleName);

@@ -1,6 +1,7 @@
 // Starts the game: loads the program and the pictures of the main menu, shows the progress if that takes a while, runs the
 // program, and then fetches what can wait.
 import { connectControls } from './controls';
+import { Focus } from './focus';
 import { Input } from './input';
 import { gameHeight, gameWidth, Layout } from './layout';
 import { Keys } from './keys';
@@ -55,6 +56,7 @@ async function start(): Promise<void> {
     const windows = new Windows(layout, pictures, surface, notices, waiting, input, find('picture', HTMLElement));
     const sounds = new Sounds(notices);
     const music = new Music(notices);
+    const focus = new Focus(find('picture', HTMLElement), surface.node);
     const keys = new Keys(windows, waiting, input, surface.node);
     const back = connectBack(windows, waiting, input);
     const end = (sentence?: string) => {
@@ -63,7 +65,7 @@ async function start(): Promise<void> {
         windows.end(sentence);
         back.noteEnd();
     };
-    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, end };
+    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, focus, end };
     const button = (id: string) => find(id, HTMLButtonElement);
     connectControls(input, keys, button('right'), button('extras'), button('full'));
     const run = (await program).run(machine);

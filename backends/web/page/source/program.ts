@@ -2,12 +2,13 @@
 // while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
 // second build that unwinds its own stack and rewinds it.
 import { build } from './build';
+import type { Focus } from './focus';
 import { Frames } from './frames';
 import type { Keys } from './keys';
 import type { Music } from './music';
 import type { Notices } from './notices';
 import { canSuspend, programFile } from './programFile';
-import { checkRecords, decodeText, readElement, readWindow, writeEvent } from './records';
+import { checkRecords, decodeText, readElement, readSpots, readWindow, writeEvent } from './records';
 import type { Settings } from './settings';
 import type { Sounds } from './sound';
 import type { Surface } from './surface';
@@ -23,6 +24,7 @@ export interface Machine {
     readonly settings: Settings;
     readonly notices: Notices;
     readonly keys: Keys;
+    readonly focus: Focus;
     /** The program has ended. */
     readonly end: () => void;
 }
@@ -105,10 +107,13 @@ async function instantiate(
     machine: Machine,
     suspending: (wait: Wait) => WebAssembly.ImportValue,
 ): Promise<Exports> {
-    const { waiting, windows, surface, sounds, music, settings, notices, keys, end } = machine;
+    const { waiting, windows, surface, sounds, music, settings, notices, keys, focus, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
     const frames = new Frames(
-        () => program.present(),
+        () => {
+            program.present();
+            focus.keep();
+        },
         (error) => waiting.fail(error),
     );
     const wait = suspending((until, forInput) => {
@@ -131,6 +136,7 @@ async function instantiate(
             windows.show(window, element, readElement(memory, record)),
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
+        showSpots: (spots: number, count: number) => windows.showSpots(readSpots(memory, spots, count)),
         giveKeys: (toField: number) => (keys.areForField = toField !== 0),
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),

@@ -143,6 +143,11 @@ function readSpot(field: FieldReader): SpotRecord {
     };
 }
 
+export function readSpots(memory: WebAssembly.Memory, address: number, count: number): SpotRecord[] {
+    const field = new FieldReader(memory, address);
+    return Array.from({ length: count }, () => readSpot(field));
+}
+
 export function readElement(memory: WebAssembly.Memory, address: number): ElementRecord {
     return elementFrom(new FieldReader(memory, address));
 }
