@@ -232,6 +232,8 @@ bool WebPlatform::ShowModally(Window& dialog) {
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     if (dialog.on.activate) dialog.on.activate();
     Present();  // a screen reader begins to read what is there
+    std::optional<GameTime::Standstill> standstill;
+    if (dialog.stopsTime) standstill.emplace(time);
     for (Work(); !ended && input.GoesOn(dialog); Work()) Rest();
     standstill.reset();
     timers.RenewMoment();
@@ -306,7 +308,7 @@ bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
 void WebPlatform::TellOfSaving(bool isWritten) {
     if (isWritten && !isFailedSaveTold) return;
     isFailedSaveTold = !isWritten;
-    constexpr std::string_view kNotice = "This browser does not let the game keep settings and scores.";
+    constexpr std::string_view kNotice = "This browser does not let the game save settings and scores.";
     page::ShowNotice(kNotice.data(), isWritten ? 0 : static_cast<std::uint32_t>(kNotice.size()));
 }
 

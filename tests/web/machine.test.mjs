@@ -224,7 +224,7 @@ test('missing files and storage are reported in a sentence, and the game goes on
     await game.page.key('Escape');
     await game.page.key('Escape');
     await game.click('Exit');
-    await notice(game, 'does not let the game keep');
+    await notice(game, 'does not let the game save');
     await game.click('Play again');
     await sleep(1000);
     await game.click('Arcade');

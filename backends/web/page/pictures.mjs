@@ -1,5 +1,5 @@
-// Makes the page's picture files from the drawn ones. A picture at single size keeps every pixel; of those at double size the
-// few large ones lose what nobody sees. What was made before is kept and used again.
+// Makes the page's picture files from the drawn ones. At single size they keep every pixel; at double size the few large ones
+// are compressed with losses that nobody sees. Files made before are kept and used again.
 import { execFile } from 'node:child_process';
 import { createHash } from 'node:crypto';
 import { copyFileSync, existsSync, mkdirSync, readdirSync, readFileSync, renameSync, statSync } from 'node:fs';

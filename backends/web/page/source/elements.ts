@@ -93,7 +93,8 @@ export class Elements {
             input.checked = record.checked;
             input.disabled = !record.enabled;
         }
-        if (unseen && isNew('accessibleName')) unseen.textContent = record.accessibleName && `${record.accessibleName} `;
+        if (unseen && isNew('accessibleName'))
+            unseen.textContent = record.accessibleName && `${record.accessibleName} `;
         if (words && isNew('text', ...looksOfText)) setText(node, words, record);
         this.speak(element, record);
     }
@@ -111,7 +112,7 @@ export class Elements {
         return element;
     }
 
-    /** The cells of a table lie in nodes that tell a screen reader so. */
+    /** The cells of a table lie in rows, for screen readers. */
     private rowOf({ row }: ElementRecord): HTMLElement | undefined {
         if (row === 0) return undefined;
         let node = this.rows.get(row);
@@ -124,7 +125,7 @@ export class Elements {
         return node;
     }
 
-    /** A dialog with a table is not read as one long sentence. */
+    /** A dialog with a table is not read out as one long sentence. */
     private makeTable(): HTMLElement {
         const table = add(this.root, make('div'));
         table.setAttribute('role', 'table');
@@ -145,7 +146,7 @@ export class Elements {
         return node;
     }
 
-    /** Numbers that change and pictures that tell something are said when they come. */
+    /** Numbers that change and pictures that explain something are announced when they appear. */
     private speak(element: Shown, record: ElementRecord): void {
         const tells = (record.kind === Kind.Label && record.accessibleName !== '') || record.kind === Kind.PressPicture;
         const words = tells && record.visible ? `${record.accessibleName} ${record.text}` : '';

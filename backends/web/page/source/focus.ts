@@ -1,5 +1,5 @@
-// What has the keyboard's focus may be hidden by the program, as a button is by the screen that it leads to. The focus would
-// be nowhere then; it goes to what can be pressed on the playfield, or to the playfield itself.
+// The program may hide whatever has the focus, as with a button that leads to another screen. The focus would be lost then;
+// instead it moves to the first place on the playfield that can be pressed, or to the playfield itself.
 export class Focus {
     private last: Element | undefined;
 
@@ -12,7 +12,7 @@ export class Focus {
         });
     }
 
-    /** To be called when the picture may have changed. */
+    /** Call this when the picture may have changed. */
     keep(): void {
         const { last } = this;
         if (!last || isShown(last) || document.querySelector('dialog[open]')) return;

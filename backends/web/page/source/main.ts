@@ -28,7 +28,7 @@ async function start(): Promise<void> {
     const progress = find('progress', HTMLProgressElement);
     const notices = new Notices(find('notice', HTMLElement), find('voice', HTMLElement));
     if (!('WebAssembly' in globalThis)) {
-        loading.textContent = 'Prismfall cannot run in this browser, since it lacks WebAssembly.';
+        loading.textContent = 'Prismfall cannot run in this browser, which lacks WebAssembly.';
         return;
     }
     holdVersion();
@@ -72,7 +72,7 @@ async function start(): Promise<void> {
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {
         console.error(error);
-        end('Prismfall has stopped because something went wrong in it.');
+        end('Prismfall has stopped because of an error.');
     });
 }
 
@@ -85,5 +85,5 @@ async function fetchTheRest(pictures: Pictures, sounds: Sounds, music: Music): P
 start().catch((error: unknown) => {
     console.error(error);
     const loading = document.getElementById('loading');
-    if (loading) loading.textContent = 'Prismfall cannot run in this browser. A newer one may help.';
+    if (loading) loading.textContent = 'Prismfall cannot run in this browser. A newer browser may help.';
 });

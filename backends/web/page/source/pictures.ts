@@ -1,5 +1,5 @@
-// The picture files, at single or double size, whichever suits the page. Those of the main menu come before the game
-// starts, the others as soon as it has.
+// The picture files, at single or double size, whichever suits the page. Those of the main menu are loaded before the game
+// starts, the others right after.
 import { build } from './build';
 import type { Layout } from './layout';
 
@@ -23,12 +23,12 @@ export class Pictures {
         layout.whenChanged(() => this.choose(layout.density > 1 ? '2x' : '1x'));
     }
 
-    /** Reports each picture of the main menu as it comes, and comes back when all have, or could not be had. */
+    /** Reports each picture of the main menu as it arrives, and returns when all have arrived or failed. */
     async loadFirst(report: () => void): Promise<void> {
         await Promise.all(first.map((name) => this.load(name).then(report)));
     }
 
-    /** So that a button's other face, or a dialog, is there when it is to be shown. */
+    /** So that a button's other face, or a dialog, is ready when it is needed. */
     async loadOthers(): Promise<void> {
         const { size } = this;
         for (const key of files.keys()) {

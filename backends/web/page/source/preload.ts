@@ -1,5 +1,5 @@
-// Part of the page itself: the program is fetched while the other script still comes. Only a script can say which build
-// this browser runs.
+// Embedded in the page: starts fetching the program while the main script is still on its way. It takes a script to find out
+// which build this browser runs.
 import { programFile } from './programFile';
 
 const folder = document.currentScript?.dataset['folder'];

@@ -1,4 +1,4 @@
-// Which build of the program a browser runs, as a file in the folder of a version.
+// Which build of the program this browser runs: a file in the folder of a version.
 
 /** Whether the browser can suspend a program. `?build=asyncify` in the address makes any browser take the other build. */
 export function canSuspend(): boolean {

@@ -3,13 +3,8 @@
 // browsers put on the screen with far less work; the canvas beneath it shows what is painted around it.
 import { add, make } from './elements';
 
-const field = { left: 16, top: 18, right: 668, bottom: 584 };
-
-// What is painted this near to the field's edge is on both canvases, since at some scales both can be seen there.
-const seam = 4;
-
 const accessibleName =
-    'Playfield. The arrow keys and Tab choose the end of a beam, Space bends it, Enter runs it forward. Shift and Tab leave the playfield.';
+    'Playfield. The arrow keys and Tab choose the end of a beam, Space bends it, Enter runs it forward. Shift+Tab leaves the playfield.';
 
 const field = { left: 16, top: 18, right: 668, bottom: 584 };
 

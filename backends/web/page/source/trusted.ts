@@ -1,5 +1,5 @@
-// Addresses of scripts, for browsers that want to be told by a policy that one is the page's own. The page has a single one
-// that it hands over by itself, the service worker's.
+// Browsers that enforce Trusted Types take the address of a script only from a named policy. The page has one such address,
+// the service worker's.
 const serviceWorker = 'service-worker.js';
 
 interface Policy {
