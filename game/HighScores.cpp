@@ -37,6 +37,11 @@ Element MakeLabel(std::string_view name, int left, int top, int width, int heigh
             .font = {.points = 12}};
 }
 
+Element InCell(Element label, std::size_t row, int column) {
+    label.cell = {.row = static_cast<int>(row), .column = column};
+    return label;
+}
+
 Element MakeHeading(std::string_view name, int left, int top, int width, int height, std::string text) {
     Element heading = MakeLabel(name, left, top, width, height);
     heading.text = std::move(text);
@@ -46,16 +51,18 @@ Element MakeHeading(std::string_view name, int left, int top, int width, int hei
 }
 
 void AddRow(std::vector<Element>& table, std::size_t row) {
-    table.push_back(MakeHeading(kNumberNames[row], 24, kRowY[row], 33, kRowHeight, std::to_string(row + 1)));
-    table.push_back(MakeLabel(kScoreNames[row], 96, kRowY[row], 105, kRowHeight));
-    table.push_back(MakeLabel(kLevelNames[row], 208, kLevelRowY[row], 49, kRowHeight));
-    table.push_back(MakeLabel(kEndLevelNames[row], 272, kLevelRowY[row], 49, kRowHeight));
+    const std::string number = std::to_string(row + 1);
+    const std::size_t line = row + 2;  // below the headings
+    table.push_back(InCell(MakeHeading(kNumberNames[row], 24, kRowY[row], 33, kRowHeight, number), line, 1));
+    table.push_back(InCell(MakeLabel(kScoreNames[row], 96, kRowY[row], 105, kRowHeight), line, 2));
+    table.push_back(InCell(MakeLabel(kLevelNames[row], 208, kLevelRowY[row], 49, kRowHeight), line, 3));
+    table.push_back(InCell(MakeLabel(kEndLevelNames[row], 272, kLevelRowY[row], 49, kRowHeight), line, 4));
 }
 
 std::vector<Element> MakeElements() {
-    std::vector<Element> table = {MakeHeading("Label11", 96, 16, 81, 17, "Score"),
-                                  MakeHeading("Label12", 200, 4, 60, 37, "Start Level"),
-                                  MakeHeading("Label13", 264, 5, 50, 36, "End Level")};
+    std::vector<Element> table = {InCell(MakeHeading("Label11", 96, 16, 81, 17, "Score"), 1, 2),
+                                  InCell(MakeHeading("Label12", 200, 4, 60, 37, "Start Level"), 1, 3),
+                                  InCell(MakeHeading("Label13", 264, 5, 50, 36, "End Level"), 1, 4)};
     for (std::size_t row = 0; row < kScoreRows; ++row) AddRow(table, row);
     table.push_back(MakeButton("Command3", 22, 374, 191, 40, {"ClearPuzzleProgressUp", "ClearPuzzleProgressDown"},
                                "Clear puzzle progress"));

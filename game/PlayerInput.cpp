@@ -1,6 +1,7 @@
 #include "game/PlayerInput.h"
 
 #include <cmath>
+#include <string>
 
 #include "audio/SoundEffects.h"
 #include "game/Modes.h"
@@ -91,9 +92,17 @@ void ListHeads(const Field& field, SurfaceSpots& spots) {
     for (const CLine* beam : ReachableHeads(field)) spots.list.push_back(SpotOf(*beam));
 }
 
+std::string NameOfPreview(const VMain& main, std::int16_t puzzle) {
+    std::string name = "Puzzle " + std::to_string(puzzle);
+    if (puzzle == 1) name += ", tutorial";
+    if (main.settings.SolvedPuzzles[static_cast<std::size_t>(puzzle - 1)]) name += ", solved";
+    return name;
+}
+
 void ListPreviews(const VMain& main, SurfaceSpots& spots) {
     for (int cell = 0; cell < kPuzzlesPerPage; ++cell) {
-        if (PuzzleInCell(main.PuzzlePage, cell) > kPuzzleCount) return;
+        const std::int16_t puzzle = PuzzleInCell(main.PuzzlePage, cell);
+        if (puzzle > kPuzzleCount) return;
         const PreviewBox box = PreviewBoxOf(cell);
         const auto width = static_cast<float>(box.width);
         const auto height = static_cast<float>(box.height);
@@ -101,7 +110,8 @@ void ListPreviews(const VMain& main, SurfaceSpots& spots) {
                               .x = static_cast<float>(box.left) + width / 2,
                               .y = static_cast<float>(box.top) + height / 2,
                               .width = width,
-                              .height = height});
+                              .height = height,
+                              .accessibleName = NameOfPreview(main, puzzle)});
     }
 }
 

@@ -55,6 +55,15 @@ struct PressSpot {
     bool operator==(const PressSpot&) const = default;
 };
 
+// A label's place in the table that its window shows, for players who have it read to them. Row 1 holds the headings of
+// the columns, column 1 those of the rows.
+struct TableCell {
+    int row = 0;  // 0 for a label that is in no table
+    int column = 0;
+
+    bool operator==(const TableCell&) const = default;
+};
+
 // The two pictures of a button.
 struct ButtonFaces {
     std::string_view up = {};
@@ -89,6 +98,7 @@ struct Element {
     std::string_view group = {};  // of all radio buttons with the same group, one is checked
     std::array<PressSpot, 2> spots = {};  // of a PressPicture
     Key shortcut = Key::None;             // the key that clicks it; Enter for the OK of a dialog
+    TableCell cell = {};                  // of a label
     const Element* panel = nullptr;       // the element that contains this one and hides it when hidden
 
     bool operator==(const Element&) const = default;

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,6 +23,9 @@ struct SurfaceSpot {
     float y = 0;
     float width = 0;  // of what is there, around that place; 0 for the head of a beam
     float height = 0;
+    std::string accessibleName = {};  // empty for the head of a beam
+
+    bool operator==(const SurfaceSpot&) const = default;
 };
 
 struct SurfaceSpots {

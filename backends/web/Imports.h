@@ -62,6 +62,8 @@ struct ElementRecord {
     std::int32_t italic = 0;
     std::int32_t wraps = 0;
     std::int32_t fitHeight = 0;
+    std::int32_t row = 0;  // of the window's table, from 1; 0 for none
+    std::int32_t column = 0;
     Text family;
     Text picture;
     Text accessibleName;
@@ -133,6 +135,8 @@ PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t el
 PAGE_IMPORT("showPixels")
 void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
                 std::int32_t height);
+// The places on the surface that can be pressed, with names, instead of those before.
+PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t count);
 // Whether a game is being played, so that Tab and the arrows choose beams and not what the page offers.
 PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t toField);
 // Shows one line about saving below the picture. An empty one removes it.

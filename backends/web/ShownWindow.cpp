@@ -60,6 +60,8 @@ void ShownWindow::Send(std::size_t place) const {
     record.italic = element.font.italic ? 1 : 0;
     record.wraps = element.wraps ? 1 : 0;
     record.fitHeight = element.fitHeight;
+    record.row = element.cell.row;
+    record.column = element.cell.column;
     record.family = element.font.family;
     record.picture = element.picture;
     record.accessibleName = element.accessibleName;

@@ -56,6 +56,15 @@ void Merge(std::vector<PixelBox>& boxes) {
     boxes.erase(end, boxes.end());
 }
 
+page::SpotRecord RecordOf(const SurfaceSpot& spot) {
+    return {.left = spot.x - spot.width / 2,
+            .top = spot.y - spot.height / 2,
+            .width = spot.width,
+            .height = spot.height,
+            .button = static_cast<std::int32_t>(MouseButton::Left),
+            .accessibleName = std::string_view(spot.accessibleName)};
+}
+
 std::string StoredSettings() {
     std::string text(page::OpenSettings(), '\0');
     page::ReadSettings(text.data());
@@ -164,15 +173,21 @@ void WebPlatform::DeliverMinimised() {
 
 void WebPlatform::Present() {
     if (ended) return;
-    TellOfKeys();
+    SendSpots();
     SendSurface();
     for (const auto& window : shown) window->Refresh();
 }
 
-void WebPlatform::TellOfKeys() {
+void WebPlatform::SendSpots() {
     SurfaceSpots spots;
     if (main->on.spots) main->on.spots(spots);
     if (std::exchange(fieldHasKeys, spots.haveKeysAlone) != fieldHasKeys) page::GiveKeys(fieldHasKeys ? 1 : 0);
+    std::erase_if(spots.list, [](const SurfaceSpot& spot) { return spot.accessibleName.empty(); });
+    if (spots.list == shownSpots) return;
+    shownSpots = std::move(spots.list);
+    std::vector<page::SpotRecord> records(shownSpots.size());
+    std::ranges::transform(shownSpots, records.begin(), RecordOf);
+    page::ShowSpots(records.data(), static_cast<std::int32_t>(records.size()));
 }
 
 void WebPlatform::SendSurface() {
@@ -293,7 +308,7 @@ bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
 void WebPlatform::TellOfSaving(bool isWritten) {
     if (isWritten && !isFailedSaveTold) return;
     isFailedSaveTold = !isWritten;
-    constexpr std::string_view kNotice = "This browser does not let the game keep settings and scores.";
+    constexpr std::string_view kNotice = "This browser does not let the game save settings and scores.";
     page::ShowNotice(kNotice.data(), isWritten ? 0 : static_cast<std::uint32_t>(kNotice.size()));
 }
 

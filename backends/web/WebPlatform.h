@@ -80,7 +80,7 @@ class WebPlatform final : public Platform {
     void DeliverMinimised();
     void Open(Window& window, Place place);
     void SendSurface();
-    void TellOfKeys();
+    void SendSpots();
     void TellOfSaving(bool isWritten);
 
     Surface layer;
@@ -101,6 +101,7 @@ class WebPlatform final : public Platform {
     std::optional<SettingsValues> readValues;  // of the store, until it changes
     bool isFailedSaveTold = false;
     bool ended = false;
+    std::vector<SurfaceSpot> shownSpots;
     bool fieldHasKeys = false;  // as the page was last told
     bool hidden = false;        // as the page was last seen
     bool minimised = false;     // as the main window was last told

@@ -32,21 +32,23 @@ async function openGame({
     return new Game(page).open(site.address);
 }
 
-const focused = () => {
+/** What has the focus, or whether that is named so. */
+const focused = (words) => {
     const { ariaLabel, type, firstElementChild } = document.activeElement;
-    return ariaLabel ?? firstElementChild?.alt ?? type;
+    const name = ariaLabel ?? firstElementChild?.alt ?? type;
+    return words === undefined ? name : name === words;
 };
 
 async function tabTo(game, words) {
-    for (let i = 0; i < 20; ++i) {
-        if ((await game.page.evaluate(focused)) === words) return;
+    for (let i = 0; i < 30; ++i) {
+        if (await game.page.evaluate(focused, words)) return;
         await game.page.key('Tab');
     }
     assert.fail(`no way to ${words} by the keyboard`);
 }
 
 test('all buttons can be reached and pressed with keys, and options outlast the page', async () => {
-    const game = await openGame();
+    const game = await openGame({ settings: 'Music=False\n[SolvedPuzzles]\nPuzzle2=True\n' });
     await tabTo(game, 'Options');
     await game.page.key('Enter');
     await game.dialog('Options');
@@ -65,8 +67,16 @@ test('all buttons can be reached and pressed with keys, and options outlast the 
     );
     assert.deepEqual(checked, ['Level 7']);
     await game.click('OK');
-    await game.click('Puzzle');
-    await game.press(120, 120);
+    await game.noDialog();
+    await tabTo(game, 'Puzzle');
+    await game.page.key('Enter');
+    await game.until('the focus on the first puzzle', focused, 'Puzzle 1, tutorial');
+    await tabTo(game, 'Puzzle 2, solved');
+    await game.page.key('Enter');
+    await game.until('puzzle 2', () => /Puzzle 2/.test(document.getElementById('picture').textContent));
+    await game.page.key('Escape');
+    await tabTo(game, 'Puzzle 1, tutorial');
+    await game.page.key('Enter');
     for (const words of ['Start', 'OK', 'The end of the red beam', 'OK', 'The end of the blue beam', 'OK']) {
         await game.placeOf(words);
         await tabTo(game, words);
@@ -77,8 +87,8 @@ test('all buttons can be reached and pressed with keys, and options outlast the 
 test('a puzzle is picked and played by keys, and Tab is the game’s only while it is played', async () => {
     const game = await openGame();
     const white = () => {
-        const canvas = document.querySelector('canvas');
-        const { data } = canvas.getContext('2d').getImageData(0, 0, canvas.width, canvas.height);
+        const field = [...document.querySelectorAll('canvas')].at(-1);
+        const { data } = field.getContext('2d').getImageData(0, 0, field.width, field.height);
         return new Uint32Array(data.buffer).filter((pixel) => pixel === 0xffffffff).length;
     };
     await tabTo(game, 'Puzzle');
@@ -97,6 +107,18 @@ test('a puzzle is picked and played by keys, and Tab is the game’s only while 
     await tabTo(game, 'Resume');
 });
 
+const cellsOfFirst = () =>
+    [...document.querySelectorAll('[role=table] > [role=row]:nth-child(2) > *')].map(({ role, innerText }) => [
+        role,
+        innerText.trim(),
+    ]);
+const firstScore = [
+    ['rowheader', '1'],
+    ['cell', '340'],
+    ['cell', '1'],
+    ['cell', '1'],
+];
+
 test('screen readers meet no obstacle', async () => {
     const axe = readFileSync('node_modules/axe-core/axe.min.js', 'utf8');
     const game = await openGame();
@@ -112,11 +134,18 @@ test('screen readers meet no obstacle', async () => {
         await game.click(button);
         await game.dialog(title);
         await check(title);
+        if (title === 'Highscore') assert.deepEqual(await game.page.evaluate(cellsOfFirst), firstScore);
         await game.click('OK');
         await game.noDialog();
     }
-    await game.click('Arcade');
+    await game.click('Puzzle');
+    await game.placeOf('Puzzle 9');
+    await check('puzzle menu');
+    await game.page.key('Escape');
+    await tabTo(game, 'Arcade');
+    await game.page.key('Enter');
     await game.untilMoved();
+    assert.match(await game.page.evaluate(focused), /^Playfield/);
     await check('Arcade');
     assert.match(
         await game.page.evaluate(() => document.getElementById('voice').textContent),
@@ -195,7 +224,7 @@ test('missing files and storage are reported in a sentence, and the game goes on
     await game.page.key('Escape');
     await game.page.key('Escape');
     await game.click('Exit');
-    await notice(game, 'does not let the game keep');
+    await notice(game, 'does not let the game save');
     await game.click('Play again');
     await sleep(1000);
     await game.click('Arcade');

@@ -77,3 +77,11 @@ test('fields and kinds come in the same order in the program and the page', asyn
     const written = [view.getFloat64(0, true), ...[8, 12, 16].map((at) => view.getInt32(at, true))];
     assert.deepEqual([...written, view.getFloat32(20, true), view.getFloat32(24, true)], [1, 2, 3, 4, 5, 6]);
 });
+
+test('all configurations of servers send the same headers', () => {
+    const headers = (file, pattern) =>
+        [...readFileSync(`packaging/web/${file}`, 'utf8').matchAll(pattern)].map(([, name, value]) => [name, value]);
+    const ofNginx = headers('nginx.conf', /add_header (\S+) "(.*)" always;/g);
+    assert.ok(ofNginx.length > 2);
+    assert.deepEqual(headers('apache.conf', /Header always set (\S+) "(.*)"/g), ofNginx);
+});

@@ -1,5 +1,5 @@
 // Puts the page together from the built program, the sources beside this file and the assets:
-//   node bundle.mjs BUILD_FOLDER_WITH_WASM OUTPUT_FOLDER
+//   node bundle.mjs BUILD_FOLDER_WITH_WASM OUTPUT_FOLDER FOLDER_FOR_MADE_PICTURES
 // What belongs to a version goes into a folder named after the contents, music into one of its own, so that no browser ever
 // mixes two versions and none fetches the same music twice.
 import { createHash } from 'node:crypto';
@@ -7,10 +7,11 @@ import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } f
 import { dirname, join, relative } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { build } from 'esbuild';
+import { makePictures } from './pictures.mjs';
 
 const here = dirname(fileURLToPath(import.meta.url));
 const root = join(here, '../../..');
-const [programs, output] = process.argv.slice(2);
+const [programs, output, kept] = process.argv.slice(2);
 
 /** All files of a folder, as paths from it. */
 function filesIn(folder, from = folder) {
@@ -34,17 +35,29 @@ function copy(from, to, ending) {
     for (const file of readdirSync(from)) if (file.endsWith(ending)) cpSync(join(from, file), join(to, file));
 }
 
+const bundling = { bundle: true, minify: true, target: 'es2022', logLevel: 'warning' };
+
 async function script(entry, file, known) {
     await build({
+        ...bundling,
         entryPoints: [join(here, 'source', entry)],
         outfile: join(output, file),
         define: { BUILD: JSON.stringify(known) },
-        bundle: true,
-        minify: true,
         format: 'esm',
-        target: 'es2022',
-        logLevel: 'warning',
     });
+}
+
+/** The page, with the script that is part of it, which is the one that the page's policy names. */
+async function page(folder) {
+    const entry = join(here, 'source/preload.ts');
+    const { outputFiles } = await build({ ...bundling, entryPoints: [entry], write: false, format: 'iife' });
+    const preload = outputFiles[0].text.trim();
+    const hash = createHash('sha256').update(preload).digest('base64');
+    const source = readFileSync(join(here, 'index.html'), 'utf8');
+    return source
+        .replaceAll('FOLDER', folder)
+        .replace('PRELOAD_HASH', hash)
+        .replace(/\s*PRELOAD;\s*/, () => preload);
 }
 
 rmSync(output, { recursive: true, force: true });
@@ -52,15 +65,15 @@ copy(join(root, 'assets/music'), join(output, 'music'), '.mp3');
 const music = `music-${hashOf([join(output, 'music')])}`;
 const staged = join(output, 'staged');
 copy(programs, staged, '.wasm');
-for (const size of ['1x', '2x']) copy(join(root, 'assets/pictures', size), join(staged, 'pictures', size), '.png');
+for (const size of ['1x', '2x'])
+    await makePictures(join(root, 'assets/pictures', size), join(staged, 'pictures', size), size === '2x', kept);
 copy(join(root, 'assets/sounds'), join(staged, 'sounds'), '.wav');
 copy(here, staged, '.css');
 const folder = `version-${hashOf([staged, join(here, 'source'), join(here, 'worker')])}`;
 copy(join(root, 'packaging/icons'), join(output, 'icons'), '.png');
 copy(here, output, '.webmanifest');
 
-const page = readFileSync(join(here, 'index.html'), 'utf8').replaceAll('FOLDER', folder);
-writeFileSync(join(output, 'index.html'), page);
+writeFileSync(join(output, 'index.html'), await page(folder));
 const tracks = readdirSync(join(output, 'music')).sort();
 cpSync(join(output, 'music'), join(output, music), { recursive: true });
 rmSync(join(output, 'music'), { recursive: true });

@@ -2,7 +2,7 @@
 //   node serve.mjs [FOLDER [open]]
 // prints the address, opens it in a browser if asked to and if there is one, and goes on until it is stopped.
 import { spawn } from 'node:child_process';
-import { createReadStream, existsSync, statSync } from 'node:fs';
+import { createReadStream, existsSync, readFileSync, statSync } from 'node:fs';
 import { createServer } from 'node:http';
 import { dirname, extname, join, normalize } from 'node:path';
 import { argv } from 'node:process';
@@ -14,10 +14,18 @@ const types = {
     '.css': 'text/css; charset=utf-8',
     '.wasm': 'application/wasm',
     '.png': 'image/png',
+    '.webp': 'image/webp',
     '.wav': 'audio/wav',
     '.mp3': 'audio/mpeg',
     '.webmanifest': 'application/manifest+json',
 };
+
+const root = join(dirname(fileURLToPath(import.meta.url)), '../../..');
+
+/** What every server should send, from the configuration of one. */
+const configuration = readFileSync(join(root, 'packaging/web/nginx.conf'), 'utf8');
+const listed = [...configuration.matchAll(/add_header (\S+) "(.*)" always;/g)];
+const headersForAll = Object.fromEntries(listed.map(([, name, value]) => [name, value]));
 
 /** A server on a free port, of a folder that may be changed meanwhile. `refuses` says which paths cannot be had. */
 export async function serve(folder, refuses = () => false) {
@@ -34,6 +42,7 @@ export async function serve(folder, refuses = () => false) {
         const first = range ? Number(range[1]) : 0;
         const last = range && range[2] !== '' ? Math.min(Number(range[2]), size - 1) : size - 1;
         const headers = {
+            ...headersForAll,
             'Content-Type': types[extname(file)] ?? 'application/octet-stream',
             'Content-Length': last - first + 1,
             'Accept-Ranges': 'bytes',
@@ -54,7 +63,6 @@ function openBrowser(address, [program, ...others] = ['xdg-open', 'x-www-browser
 }
 
 if (argv[1] === fileURLToPath(import.meta.url)) {
-    const root = join(dirname(fileURLToPath(import.meta.url)), '../../..');
     const { address } = await serve(argv[2] ?? join(root, 'build/web'));
     console.log(`Prismfall is at ${address} (Ctrl+C ends it)`);
     if (argv[3] === 'open') openBrowser(address);

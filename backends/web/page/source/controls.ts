@@ -29,6 +29,6 @@ export function connectControls(
         change.catch(() => (full.hidden = true));
     });
     document.addEventListener('fullscreenchange', () => {
-        full.textContent = document.fullscreenElement ? 'Leave full screen' : 'Full screen';
+        full.textContent = document.fullscreenElement ? 'Exit full screen' : 'Full screen';
     });
 }

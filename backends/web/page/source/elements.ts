@@ -62,6 +62,8 @@ class Shown {
 export class Elements {
     private readonly shown: Shown[] = [];
     private readonly groups = new Map<string, HTMLElement>();
+    private readonly rows = new Map<number, HTMLElement>();
+    private table: HTMLElement | undefined;
 
     constructor(
         private readonly root: HTMLElement,
@@ -104,9 +106,31 @@ export class Elements {
 
     private make(place: number, record: ElementRecord): Shown {
         const element = new Shown(record, place);
-        const parent = this.shown[record.panel]?.node ?? this.groupOf(record) ?? this.root;
+        const parent = this.shown[record.panel]?.node ?? this.groupOf(record) ?? this.rowOf(record) ?? this.root;
         parent.append(element.node);
+        if (record.row > 0) makeCell(element.node, record);
         return element;
+    }
+
+    /** The cells of a table lie in rows, for screen readers. */
+    private rowOf({ row }: ElementRecord): HTMLElement | undefined {
+        if (row === 0) return undefined;
+        let node = this.rows.get(row);
+        if (!node) {
+            this.table ??= this.makeTable();
+            node = add(this.table, make('div'));
+            node.setAttribute('role', 'row');
+            this.rows.set(row, node);
+        }
+        return node;
+    }
+
+    /** A dialog with a table is not read out as one long sentence. */
+    private makeTable(): HTMLElement {
+        const table = add(this.root, make('div'));
+        table.setAttribute('role', 'table');
+        this.root.closest('dialog')?.removeAttribute('aria-describedby');
+        return table;
     }
 
     /** Radio buttons of one group lie in a node that tells a screen reader so. */
@@ -122,7 +146,7 @@ export class Elements {
         return node;
     }
 
-    /** Numbers that change and pictures that tell something are said when they come. */
+    /** Numbers that change and pictures that explain something are announced when they appear. */
     private speak(element: Shown, record: ElementRecord): void {
         const tells = (record.kind === Kind.Label && record.accessibleName !== '') || record.kind === Kind.PressPicture;
         const words = tells && record.visible ? `${record.accessibleName} ${record.text}` : '';
@@ -151,8 +175,13 @@ function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): 
     }
 }
 
-/** Pointers press the picture itself; this is for keys. */
-function makeSpot(spot: SpotRecord): HTMLButtonElement {
+function makeCell(node: HTMLElement, { row, column }: ElementRecord): void {
+    node.setAttribute('role', row === 1 ? 'columnheader' : column === 1 ? 'rowheader' : 'cell');
+    node.setAttribute('aria-colindex', String(column));
+}
+
+/** Pointers press what is below; this is for keys. */
+export function makeSpot(spot: SpotRecord): HTMLButtonElement {
     const node = make('button', 'spot');
     for (const side of ['left', 'top', 'width', 'height'] as const) node.style[side] = `${spot[side]}px`;
     node.setAttribute('aria-label', spot.accessibleName);

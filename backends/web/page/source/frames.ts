@@ -1,5 +1,5 @@
-// When the picture changes: at most once in each of the browser's frames, however often the program has worked since the
-// last one. A hidden page has no frames; there it changes at once, so that nothing old is seen when it is shown again.
+// When the picture changes: at most once per frame of the browser, however often the program has worked since the last one. A
+// hidden page has no frames; there the picture changes at once, so that nothing old is seen when the page is shown again.
 export class Frames {
     private isAsked = false;
 

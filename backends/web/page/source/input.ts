@@ -78,10 +78,14 @@ export class Input {
         if (element instanceof HTMLLabelElement) event.preventDefault();
         const isOfPress = event.detail > 0 && this.pressSeen;
         this.pressSeen = false;
-        if (!target || !element || isOfPress) return;
+        if (!target || isOfPress) return;
+        if (target.className === 'spot') {
+            this.pressMiddle(target, held);
+            return;
+        }
+        if (!element) return;
         const place = Number(element.dataset['element']);
-        if (target.className === 'spot') this.pressMiddle(target, held);
-        else setTimeout(() => this.waiting.send(EventKind.Activate, held.window, place));
+        setTimeout(() => this.waiting.send(EventKind.Activate, held.window, place));
     }
 
     private pressMiddle(spot: HTMLElement, held: Held): void {

@@ -54,7 +54,7 @@ export class Keys {
         const focus = document.activeElement;
         const isOnField = focus === this.field || focus === document.body || focus === null;
         const arrow = arrows[key];
-        if (arrow !== undefined && (isOnField || this.areForField)) {
+        if (arrow !== undefined && (isOnField || this.areForField || focus.closest('.spots'))) {
             // What had the focus would be clicked by the press that follows.
             this.field.focus({ preventScroll: true });
             return arrow;

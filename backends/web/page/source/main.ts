@@ -1,6 +1,7 @@
 // Starts the game: loads the program and the pictures of the main menu, shows the progress if that takes a while, runs the
 // program, and then fetches what can wait.
 import { connectControls } from './controls';
+import { Focus } from './focus';
 import { Input } from './input';
 import { gameHeight, gameWidth, Layout } from './layout';
 import { Keys } from './keys';
@@ -27,7 +28,7 @@ async function start(): Promise<void> {
     const progress = find('progress', HTMLProgressElement);
     const notices = new Notices(find('notice', HTMLElement), find('voice', HTMLElement));
     if (!('WebAssembly' in globalThis)) {
-        loading.textContent = 'Prismfall cannot run in this browser, since it lacks WebAssembly.';
+        loading.textContent = 'Prismfall cannot run in this browser, which lacks WebAssembly.';
         return;
     }
     holdVersion();
@@ -55,6 +56,7 @@ async function start(): Promise<void> {
     const windows = new Windows(layout, pictures, surface, notices, waiting, input, find('picture', HTMLElement));
     const sounds = new Sounds(notices);
     const music = new Music(notices);
+    const focus = new Focus(find('picture', HTMLElement), surface.node);
     const keys = new Keys(windows, waiting, input, surface.node);
     const back = connectBack(windows, waiting, input);
     const end = (sentence?: string) => {
@@ -63,14 +65,14 @@ async function start(): Promise<void> {
         windows.end(sentence);
         back.noteEnd();
     };
-    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, end };
+    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, focus, end };
     const button = (id: string) => find(id, HTMLButtonElement);
     connectControls(input, keys, button('right'), button('extras'), button('full'));
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {
         console.error(error);
-        end('Prismfall has stopped because something went wrong in it.');
+        end('Prismfall has stopped because of an error.');
     });
 }
 
@@ -83,5 +85,5 @@ async function fetchTheRest(pictures: Pictures, sounds: Sounds, music: Music): P
 start().catch((error: unknown) => {
     console.error(error);
     const loading = document.getElementById('loading');
-    if (loading) loading.textContent = 'Prismfall cannot run in this browser. A newer one may help.';
+    if (loading) loading.textContent = 'Prismfall cannot run in this browser. A newer browser may help.';
 });

@@ -78,7 +78,7 @@ export class Music {
     /** A track that has arrived and still cannot be heard lacks a device, or is broken. */
     private tellFault(): void {
         const hasCome = this.player.error?.code === MediaError.MEDIA_ERR_DECODE;
-        this.tell(hasCome ? 'The music cannot be played here.' : 'The music cannot be loaded.');
+        this.tell(hasCome ? 'The music cannot be played in this browser.' : 'The music cannot be loaded.');
     }
 
     private tell(sentence: string): void {

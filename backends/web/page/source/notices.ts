@@ -1,6 +1,6 @@
-// What the page says by itself: one line below the picture, and words that only a screen reader speaks.
+// What the page itself says: one line below the picture, and words for screen readers alone.
 const wordsKept = 4;
-const wordsLast = 5000; // milliseconds; afterwards nobody finds them while reading through the page
+const wordsLast = 5000; // milliseconds; after that, nobody comes across them while reading the page
 
 export type Subject = 'music' | 'sounds' | 'saving' | 'end';
 

@@ -2,6 +2,7 @@
 // used from the next start on at which nobody plays the old one any more.
 import { build } from './build';
 import { cacheName, lockName } from './caches';
+import { serviceWorkerAddress } from './trusted';
 
 const takeOverLimit = 400; // milliseconds
 const takeOverPause = 100;
@@ -45,7 +46,7 @@ export function holdVersion(): void {
 export async function keepForOffline(musicPlayed: Promise<void>): Promise<void> {
     const workers = navigator.serviceWorker as ServiceWorkerContainer | undefined;
     if (!workers) return;
-    await workers.register('service-worker.js', { updateViaCache: 'none' });
+    await workers.register(serviceWorkerAddress(), { updateViaCache: 'none' });
     const { active } = await workers.ready;
     setTimeout(() => active?.postMessage('drop old versions'), dropPause);
     await musicPlayed;

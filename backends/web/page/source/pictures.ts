@@ -1,30 +1,39 @@
-// The picture files, at single or double size, whichever suits the page. Those of the main menu come before the game
-// starts, the others as soon as it has.
+// The picture files, at single or double size, whichever suits the page. Those of the main menu are loaded before the game
+// starts, the others right after.
 import { build } from './build';
 import type { Layout } from './layout';
+
+type Size = '1x' | '2x';
+
+/** The files of this version by size and name, as in "2x/Background". */
+const files = new Map<string, string>();
+for (const file of build.files) {
+    const name = /\/pictures\/(.*)\./.exec(file)?.[1];
+    if (name) files.set(name, file);
+}
 
 const first = ['Background', 'ImagePrismfall', 'PuzzleUp', 'ArcadeUp', 'OptionsUp', 'ScoresUp', 'AboutUp', 'ExitUp'];
 
 export class Pictures {
     private readonly shown = new Map<HTMLImageElement, string>();
     private readonly kept: HTMLImageElement[] = [];
-    private size: '1x' | '2x' = '1x';
+    private size: Size = '1x';
 
     constructor(layout: Layout) {
         layout.whenChanged(() => this.choose(layout.density > 1 ? '2x' : '1x'));
     }
 
-    /** Reports each picture of the main menu as it comes, and comes back when all have, or could not be had. */
+    /** Reports each picture of the main menu as it arrives, and returns when all have arrived or failed. */
     async loadFirst(report: () => void): Promise<void> {
         await Promise.all(first.map((name) => this.load(name).then(report)));
     }
 
-    /** So that a button's other face, or a dialog, is there when it is to be shown. */
+    /** So that a button's other face, or a dialog, is ready when it is needed. */
     async loadOthers(): Promise<void> {
-        const pattern = new RegExp(`/${this.size}/(\\w+)\\.png$`);
-        for (const file of build.files) {
-            const name = pattern.exec(file)?.[1];
-            if (name && !first.includes(name)) await this.load(name);
+        const { size } = this;
+        for (const key of files.keys()) {
+            const [keySize, name] = key.split('/');
+            if (name && keySize === size && !first.includes(name)) await this.load(name);
         }
     }
 
@@ -42,7 +51,7 @@ export class Pictures {
     private point(image: HTMLImageElement, name: string): void {
         image.hidden = name === '';
         if (name === '') image.removeAttribute('srcset');
-        else image.srcset = `${build.folder}/pictures/${this.size}/${name}.png ${this.size}`;
+        else image.srcset = `${files.get(`${this.size}/${name}`)} ${this.size}`;
     }
 
     private async load(name: string): Promise<void> {
@@ -52,7 +61,7 @@ export class Pictures {
         await image.decode().catch(() => undefined);
     }
 
-    private choose(size: '1x' | '2x'): void {
+    private choose(size: Size): void {
         if (size === this.size) return;
         this.size = size;
         for (const [image, name] of this.shown) this.point(image, name);

@@ -2,11 +2,13 @@
 // while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
 // second build that unwinds its own stack and rewinds it.
 import { build } from './build';
+import type { Focus } from './focus';
 import { Frames } from './frames';
 import type { Keys } from './keys';
 import type { Music } from './music';
 import type { Notices } from './notices';
-import { checkRecords, decodeText, readElement, readWindow, writeEvent } from './records';
+import { canSuspend, programFile } from './programFile';
+import { checkRecords, decodeText, readElement, readSpots, readWindow, writeEvent } from './records';
 import type { Settings } from './settings';
 import type { Sounds } from './sound';
 import type { Surface } from './surface';
@@ -22,6 +24,7 @@ export interface Machine {
     readonly settings: Settings;
     readonly notices: Notices;
     readonly keys: Keys;
+    readonly focus: Focus;
     /** The program has ended. */
     readonly end: () => void;
 }
@@ -51,15 +54,9 @@ export interface Program {
     run(machine: Machine): Promise<void>;
 }
 
-/** The build is the browser's choice, unless the address asks for one: `?build=asyncify`. */
-function canSuspend(): boolean {
-    return 'Suspending' in WebAssembly && new URLSearchParams(location.search).get('build') !== 'asyncify';
-}
-
 export async function loadProgram(): Promise<Program> {
-    const suspends = canSuspend();
-    const module = await compile(`${build.folder}/${suspends ? 'prismfall' : 'prismfall-asyncify'}.wasm`);
-    return { run: (machine) => (suspends ? runSuspending(module, machine) : runUnwinding(module, machine)) };
+    const module = await compile(`${build.folder}/${programFile()}`);
+    return { run: (machine) => (canSuspend() ? runSuspending(module, machine) : runUnwinding(module, machine)) };
 }
 
 /** Browsers compile a file while it comes only if the server tells its type; not every server does. */
@@ -110,10 +107,13 @@ async function instantiate(
     machine: Machine,
     suspending: (wait: Wait) => WebAssembly.ImportValue,
 ): Promise<Exports> {
-    const { waiting, windows, surface, sounds, music, settings, notices, keys, end } = machine;
+    const { waiting, windows, surface, sounds, music, settings, notices, keys, focus, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
     const frames = new Frames(
-        () => program.present(),
+        () => {
+            program.present();
+            focus.keep();
+        },
         (error) => waiting.fail(error),
     );
     const wait = suspending((until, forInput) => {
@@ -136,6 +136,7 @@ async function instantiate(
             windows.show(window, element, readElement(memory, record)),
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
+        showSpots: (spots: number, count: number) => windows.showSpots(readSpots(memory, spots, count)),
         giveKeys: (toField: number) => (keys.areForField = toField !== 0),
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),

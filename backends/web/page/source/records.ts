@@ -114,6 +114,8 @@ export interface ElementRecord {
     readonly italic: boolean;
     readonly wraps: boolean;
     readonly fitHeight: number;
+    readonly row: number;
+    readonly column: number;
     readonly family: string;
     readonly picture: string;
     readonly accessibleName: string;
@@ -141,6 +143,11 @@ function readSpot(field: FieldReader): SpotRecord {
     };
 }
 
+export function readSpots(memory: WebAssembly.Memory, address: number, count: number): SpotRecord[] {
+    const field = new FieldReader(memory, address);
+    return Array.from({ length: count }, () => readSpot(field));
+}
+
 export function readElement(memory: WebAssembly.Memory, address: number): ElementRecord {
     return elementFrom(new FieldReader(memory, address));
 }
@@ -163,6 +170,8 @@ function elementFrom(field: FieldReader): ElementRecord {
         italic: field.flag(),
         wraps: field.flag(),
         fitHeight: field.whole(),
+        row: field.whole(),
+        column: field.whole(),
         family: field.text(),
         picture: field.text(),
         accessibleName: field.text(),

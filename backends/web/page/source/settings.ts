@@ -1,5 +1,5 @@
-// Settings and scores: one text in the browser's storage, so that all of it is stored or none. What it says is the
-// program's business.
+// Settings and scores: one text in the browser's storage, so that all of it is stored or none. Its contents are up to the
+// program.
 const key = 'prismfall';
 
 export class Settings {

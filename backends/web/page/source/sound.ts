@@ -1,5 +1,5 @@
-// The sound effects' one voice: a new sound cuts off the old. The files come after the first picture; until one is there,
-// and where nothing can sound, it is silence. How long a sound takes is the program's business.
+// Plays sound effects, one at a time: a new one cuts off the last. The files are fetched after the first picture; until then,
+// and where no sound is possible, there is silence. How long the program waits for a sound is up to the program.
 import { build } from './build';
 import { onPress } from './gestures';
 import type { Notices } from './notices';
@@ -27,7 +27,7 @@ export class Sounds {
             const decoder = new OfflineAudioContext(1, 1, decodingRate);
             await Promise.all(build.sounds.map((id) => this.loadOne(decoder, id)));
         } catch {
-            this.notices.show('sounds', 'The sounds cannot be played here.');
+            this.notices.show('sounds', 'The sound effects cannot be played in this browser.');
         }
     }
 

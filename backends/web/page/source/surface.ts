@@ -4,7 +4,7 @@
 import { add, make } from './elements';
 
 const accessibleName =
-    'Playfield. The arrow keys and Tab choose the end of a beam, Space bends it, Enter runs it forward. Shift and Tab leave the playfield.';
+    'Playfield. The arrow keys and Tab choose the end of a beam, Space bends it, Enter runs it forward. Shift+Tab leaves the playfield.';
 
 const field = { left: 16, top: 18, right: 668, bottom: 584 };
 

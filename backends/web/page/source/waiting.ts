@@ -1,7 +1,7 @@
-// The one place where the program stands still: until a moment, an event, or the page's being hidden or shown.
+// The one place where the program pauses: until a given time, an event, or the page being hidden or shown.
 import { EventKind, type PageEvent } from './records';
 
-// Timers that are set by timers wait four milliseconds at least; those that are set by a message do not.
+// Browsers make a timer that another timer has set wait at least four milliseconds, but not one set by a message.
 const shortestNestedTimer = 4;
 
 interface Pause {

@@ -1,10 +1,10 @@
 // The windows: the main one is a part of the page, the others are its dialogs, with a frame, a title and a close box.
-import { add, Elements, make } from './elements';
+import { add, Elements, make, makeSpot } from './elements';
 import type { Input } from './input';
 import { type Layout, place } from './layout';
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
-import { type ElementRecord, EventKind, type WindowRecord } from './records';
+import { type ElementRecord, EventKind, type SpotRecord, type WindowRecord } from './records';
 import type { Surface } from './surface';
 import type { Waiting } from './waiting';
 
@@ -18,6 +18,7 @@ interface OpenWindow {
 
 export class Windows {
     private readonly windows = new Map<number, OpenWindow>();
+    private readonly spots = make('div', 'spots');
 
     constructor(
         private readonly layout: Layout,
@@ -42,7 +43,7 @@ export class Windows {
         background.alt = '';
         background.draggable = false;
         this.pictures.show(background, record.background);
-        if (!dialog) add(root, this.surface.node);
+        if (!dialog) root.append(this.surface.node, this.spots);
         const elements = new Elements(root, this.pictures, this.notices);
         const window = { record, elements, dialog };
         this.windows.set(number, window);
@@ -50,6 +51,11 @@ export class Windows {
         this.input.attach(root, number);
         dialog?.showModal();
         dialog?.focus();
+    }
+
+    /** The places on the surface that can be pressed, one button for each. */
+    showSpots(spots: readonly SpotRecord[]): void {
+        this.spots.replaceChildren(...spots.map(makeSpot));
     }
 
     show(number: number, element: number, record: ElementRecord): void {

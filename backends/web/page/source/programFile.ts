@@ -1,0 +1,10 @@
+// Which build of the program this browser runs: a file in the folder of a version.
+
+/** Whether the browser can suspend a program. `?build=asyncify` in the address makes any browser take the other build. */
+export function canSuspend(): boolean {
+    return 'Suspending' in WebAssembly && new URLSearchParams(location.search).get('build') !== 'asyncify';
+}
+
+export function programFile(): string {
+    return canSuspend() ? 'prismfall.wasm' : 'prismfall-asyncify.wasm';
+}
