@@ -81,7 +81,8 @@ struct Window {
     int innerHeight = 0;
     std::string_view background;  // a picture laid at the top left and cut off at the edges
     bool isDialog = false;        // a small frame without minimise and maximise boxes
-    bool stopsTime = false;       // of a dialog: game time stands still while it is open, and the game notices nothing
+    bool stopsTime =
+        false;  // of a dialog outside the game: game time stands still while it is open, no recording has it
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works

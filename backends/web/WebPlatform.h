@@ -101,7 +101,8 @@ class WebPlatform final : public Platform {
     std::optional<SettingsValues> readValues;  // of the store, until it changes
     bool isFailedSaveTold = false;
     bool ended = false;
-    bool fieldHasKeys = false;  // as the page was last told
+    bool canChoose = false;     // as the page was last told, on the surface
+    bool fieldHasKeys = false;  // likewise
     bool hidden = false;        // as the page was last seen
     bool minimised = false;     // as the main window was last told
 };

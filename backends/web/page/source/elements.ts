@@ -1,5 +1,6 @@
 // The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each is
 // at its place in game pixels; the window that holds them is scaled as a whole.
+import { panelLeft } from './layout';
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
 import { type ElementRecord, Kind, type SpotRecord } from './records';
@@ -21,7 +22,7 @@ class Shown {
     readonly words: HTMLElement | undefined;
     readonly unseen: HTMLElement | undefined;
     record: Partial<ElementRecord> = {};
-    spokenLast = '';
+    lastAnnounced = '';
 
     constructor(record: ElementRecord, place: number) {
         switch (record.kind) {
@@ -82,6 +83,7 @@ export class Elements {
         if (isNew('height')) node.style.height = `${record.height}px`;
         if (isNew('colour')) node.style.color = record.colour;
         if (isNew('enabled') && node instanceof HTMLButtonElement) node.disabled = !record.enabled;
+        if (isNew('left', 'panel')) node.classList.toggle('panel', record.panel < 0 && record.left >= panelLeft);
         if (image) {
             this.pictures.show(image, record.picture);
             if (isNew('accessibleName')) image.alt = record.accessibleName;
@@ -91,7 +93,8 @@ export class Elements {
             input.checked = record.checked;
             input.disabled = !record.enabled;
         }
-        if (unseen && isNew('accessibleName')) unseen.textContent = record.accessibleName && `${record.accessibleName} `;
+        if (unseen && isNew('accessibleName'))
+            unseen.textContent = record.accessibleName && `${record.accessibleName} `;
         if (words && isNew('text', ...looksOfText)) setText(node, words, record);
         this.speak(element, record);
     }

@@ -136,7 +136,10 @@ async function instantiate(
             windows.show(window, element, readElement(memory, record)),
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
-        giveKeys: (toField: number) => (keys.areForField = toField !== 0),
+        giveKeys: (canChoose: number, toField: number) => {
+            keys.canChoose = canChoose !== 0;
+            keys.areForField = toField !== 0;
+        },
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
         endProgram: () => end(),
