@@ -18,6 +18,14 @@ std::string HeadLines(VMain& main, GameKind kind, std::uint64_t seed) {
            '\n';
 }
 
+std::uint64_t SeedFor(VMain& main, GameKind kind) {
+    const bool isArcade = kind == GameKind::Arcade;
+    if (isArcade && main.settings.extras.SameBeams != 0 && main.ArcadeSeed) return *main.ArcadeSeed;
+    const auto seed = static_cast<std::uint64_t>(std::ldexp(main.platform.Random(), kSeedBits));
+    if (isArcade) main.ArcadeSeed = seed;
+    return seed;
+}
+
 }  // namespace
 
 GameRecorder::GameRecorder(VMain& main, std::function<void(const PlayedGame& game)> keepGame)
@@ -38,7 +46,7 @@ GameRecorder::~GameRecorder() {
 void GameRecorder::Begins(VMain& main, GameKind kind) {
     Ends(main, GameEnding::Left);
     begunAs = kind;
-    const auto seed = static_cast<std::uint64_t>(std::ldexp(main.platform.Random(), kSeedBits));
+    const std::uint64_t seed = SeedFor(main, kind);
     main.platform.BeginRandom(seed);
     recorder.Begin(HeadLines(main, kind, seed));
 }

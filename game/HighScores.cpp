@@ -90,7 +90,9 @@ void FillRows(Window& dialog, const ScoreTable& scores) {
 }  // namespace
 
 void SaveScore(VMain& main) {
-    if (main.EntersTable) EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level});
+    if (main.EntersTable) return EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level});
+    main.HighScore = main.settings.Scores.front().score;
+    ShowNumber(main.VHighScore, main.HighScore);
 }
 
 void ShowHighScores(VMain& main) {

@@ -55,7 +55,7 @@ void AddScore(VMain& main, const Hits& hits) {
     const std::int16_t points = PointsFor(hits.N);
     if (hits.N > 1) StartPopUp(main, hits, points);
     main.Score = Saturated(main.Score + points);
-    if (main.EntersTable && main.Score > main.HighScore) {
+    if (main.Score > main.HighScore) {
         main.HighScore = main.Score;
         ShowNumber(main.VHighScore, main.HighScore);
     }

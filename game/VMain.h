@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "audio/Audio.h"
 #include "game/GameLog.h"
@@ -46,7 +47,8 @@ struct VMain : MainElements {
     std::int16_t Level = 1;
     std::int16_t LevelLineCount = 0;  // collisions since the last level rise
     std::int16_t GameStartLevel = 0;
-    bool EntersTable = true;  // the score of the game that is played may enter the table
+    std::optional<std::uint64_t> ArcadeSeed;  // of the last Arcade game that was given one
+    bool EntersTable = true;                  // the score of the game that is played may enter the table
 
     std::int16_t CurrentPuzzle = 1;  // 1 to kPuzzleCount
     std::int16_t PuzzlePage = 1;     // of the puzzle menu, 1 to kPageCount

@@ -1,4 +1,4 @@
-// The keys that play, beside Esc, which a window's own keyDown handler gets.
+// The keys that play. Esc is a window's own: its keyDown handler gets it.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +10,7 @@ enum class Key : std::int16_t {
     None = 0,
     Tab = 9,
     Enter = 13,
+    Escape = 27,
     Space = 32,
     PageUp = 33,
     PageDown = 34,

@@ -22,8 +22,8 @@ struct Frame {
 
 constexpr std::array<Frame, 5> kFrames = {{
     {"FrameLooks", "Looks", 10, 10, 262, 100},
-    {"FramePace", "Pace", 10, 118, 262, 102},
-    {"FrameSound", "Sound", 10, 228, 262, 124},
+    {"FramePace", "Pace", 10, 116, 262, 122},
+    {"FrameSound", "Sound", 10, 244, 262, 110},
     {"FrameKeys", "Keys", 280, 10, 256, 246},
     {"FrameGamepad", "Gamepad", 280, 264, 256, 88},
 }};
@@ -38,7 +38,7 @@ struct Choice {
     std::string_view group = {};
 };
 
-constexpr std::array<Choice, 17> kChoices = {{
+constexpr std::array<Choice, 18> kChoices = {{
     {"Palette", "Colours that everyone can tell apart", 20, 32, 250, &Extras::Palette},
     {"Patterns", "A pattern for each colour", 20, 56, 250, &Extras::Patterns},
     {"Rings", "A ring around the end that a press reaches", 20, 80, 250, &Extras::Rings},
@@ -46,16 +46,17 @@ constexpr std::array<Choice, 17> kChoices = {{
     {"Pace80", "80 %", 84, 140, 58, &Extras::Pace, 80, "Pace"},
     {"Pace60", "60 %", 148, 140, 58, &Extras::Pace, 60, "Pace"},
     {"Pace40", "40 %", 212, 140, 58, &Extras::Pace, 40, "Pace"},
-    {"PauseAway", "Pause when another window is used", 20, 190, 250, &Extras::PauseAway},
-    {"Music100", "100 %", 72, 250, 54, &Extras::MusicVolume, 100, "Music volume"},
-    {"Music75", "75 %", 128, 250, 47, &Extras::MusicVolume, 75, "Music volume"},
-    {"Music50", "50 %", 176, 250, 47, &Extras::MusicVolume, 50, "Music volume"},
-    {"Music25", "25 %", 224, 250, 47, &Extras::MusicVolume, 25, "Music volume"},
-    {"Effects100", "100 %", 72, 282, 54, &Extras::EffectsVolume, 100, "Effects volume"},
-    {"Effects75", "75 %", 128, 282, 47, &Extras::EffectsVolume, 75, "Effects volume"},
-    {"Effects50", "50 %", 176, 282, 47, &Extras::EffectsVolume, 50, "Effects volume"},
-    {"Effects25", "25 %", 224, 282, 47, &Extras::EffectsVolume, 25, "Effects volume"},
-    {"Mute", "Mute (M)", 20, 316, 250, &Extras::Mute},
+    {"SameBeams", "Arcade: the beams of the last game again", 20, 190, 250, &Extras::SameBeams},
+    {"PauseAway", "Pause when another window is used", 20, 212, 250, &Extras::PauseAway},
+    {"Music100", "100 %", 72, 264, 54, &Extras::MusicVolume, 100, "Music volume"},
+    {"Music75", "75 %", 128, 264, 47, &Extras::MusicVolume, 75, "Music volume"},
+    {"Music50", "50 %", 176, 264, 47, &Extras::MusicVolume, 50, "Music volume"},
+    {"Music25", "25 %", 224, 264, 47, &Extras::MusicVolume, 25, "Music volume"},
+    {"Effects100", "100 %", 72, 294, 54, &Extras::EffectsVolume, 100, "Effects volume"},
+    {"Effects75", "75 %", 128, 294, 47, &Extras::EffectsVolume, 75, "Effects volume"},
+    {"Effects50", "50 %", 176, 294, 47, &Extras::EffectsVolume, 50, "Effects volume"},
+    {"Effects25", "25 %", 224, 294, 47, &Extras::EffectsVolume, 25, "Effects volume"},
+    {"Mute", "Mute (M)", 20, 324, 250, &Extras::Mute},
 }};
 
 struct Line {
@@ -66,8 +67,8 @@ struct Line {
 
 constexpr std::array<Line, 23> kLines = {{
     {"NotePace", "From the next game on; slower is not ranked.", 20, 166, 250},
-    {"NoteMusic", "Music", 20, 252, 58},
-    {"NoteEffects", "Effects", 20, 284, 58},
+    {"NoteMusic", "Music", 20, 266, 50},
+    {"NoteEffects", "Effects", 20, 296, 50},
     {"KeyArrows", "Arrows, Tab", 290, 32, 84},
     {"KeyArrowsDo", "choose the end of a beam", 376, 32, 156},
     {"KeySpace", "Space", 290, 54, 84},

@@ -31,6 +31,7 @@ struct Extras {
     std::int16_t Patterns = 0;       // along the beams, a different one for each colour
     std::int16_t Rings = 0;          // around the head that a press would reach
     std::int16_t Pace = 100;         // percent: 100, 80, 60 or 40
+    std::int16_t SameBeams = 0;      // the next Arcade game has the chance of the last one; not kept
     std::int16_t PauseAway = 0;      // pause when another window gets the focus
     std::int16_t MusicVolume = 100;  // percent: 100, 75, 50 or 25
     std::int16_t EffectsVolume = 100;

@@ -85,6 +85,7 @@ void SdlPlatform::Run(Window& mainWindow) {
         std::exit(EXIT_FAILURE);
     }
     mainWindow.visible = true;
+    Gamepads::Begin();  // after the first picture, since it asks the system for all devices
     loop.Timers().Handle([&mainWindow] {
         if (mainWindow.on.activate) mainWindow.on.activate();
     });
@@ -121,11 +122,11 @@ void SdlPlatform::SurfaceClear() { desktop.Layer().Clear(); }
 bool SdlPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (!OpenDialog(dialog)) return false;
-    const auto goesOn = [&] { return Input().GoesOn(dialog); };
+    const auto isOpen = [&] { return Input().GoesOn(dialog); };
     if (dialog.stopsTime) {
-        loop.StandStillWhile(goesOn);
+        loop.StandStillWhile(isOpen);
     } else {
-        loop.RunWhile(goesOn);
+        loop.RunWhile(isOpen);
     }
     return CloseDialog(dialog);
 }

@@ -137,8 +137,9 @@ void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top
                 std::int32_t height);
 // The places on the surface that can be pressed, with names, instead of those before.
 PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t count);
-// Whether a game is being played, so that Tab and the arrows choose beams and not what the page offers.
-PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t toField);
+// Whether there is something on the surface to choose by keys, and whether that is a game being played, so that Tab and
+// the arrows choose beams and not what the page offers.
+PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t canChoose, std::int32_t toField);
 // Shows one line about saving below the picture. An empty one removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
 // An error box. It stays open until the page reports Close for the window kMessageBox.

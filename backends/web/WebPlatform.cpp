@@ -181,7 +181,10 @@ void WebPlatform::Present() {
 void WebPlatform::SendSpots() {
     SurfaceSpots spots;
     if (main->on.spots) main->on.spots(spots);
-    if (std::exchange(fieldHasKeys, spots.haveKeysAlone) != fieldHasKeys) page::GiveKeys(fieldHasKeys ? 1 : 0);
+    const bool isSame = canChoose != spots.list.empty() && fieldHasKeys == spots.haveKeysAlone;
+    canChoose = !spots.list.empty();
+    fieldHasKeys = spots.haveKeysAlone;
+    if (!isSame) page::GiveKeys(canChoose ? 1 : 0, fieldHasKeys ? 1 : 0);
     std::erase_if(spots.list, [](const SurfaceSpot& spot) { return spot.accessibleName.empty(); });
     if (spots.list == shownSpots) return;
     shownSpots = std::move(spots.list);
@@ -231,12 +234,11 @@ bool WebPlatform::ShowModally(Window& dialog) {
     if (ended) return false;
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     if (dialog.on.activate) dialog.on.activate();
-    Present();  // a screen reader begins to read what is there
     std::optional<GameTime::Standstill> standstill;
     if (dialog.stopsTime) standstill.emplace(time);
+    Present();  // a screen reader begins to read what is there
     for (Work(); !ended && input.GoesOn(dialog); Work()) Rest();
-    standstill.reset();
-    timers.RenewMoment();
+    if (!dialog.stopsTime) timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();
     if (!wasHidden && dialog.on.unload) dialog.on.unload();

@@ -102,7 +102,8 @@ class WebPlatform final : public Platform {
     bool isFailedSaveTold = false;
     bool ended = false;
     std::vector<SurfaceSpot> shownSpots;
-    bool fieldHasKeys = false;  // as the page was last told
+    bool canChoose = false;     // as the page was last told, on the surface
+    bool fieldHasKeys = false;  // likewise
     bool hidden = false;        // as the page was last seen
     bool minimised = false;     // as the main window was last told
 };

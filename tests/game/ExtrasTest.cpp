@@ -1,6 +1,7 @@
 // The extras: chosen in their window, kept, and what a slower game does without.
 #include <gtest/gtest.h>
 
+#include "game/GameRecorder.h"
 #include "game/HighScores.h"
 #include "game/Scoring.h"
 #include "platform/KeyInput.h"
@@ -53,10 +54,28 @@ TEST(Extras, ASlowerGameSaysSoAndEntersNoTable) {
         player.Choose({isRanked ? "Pace40" : "Pace100"});  // for the next game
         AddScore(main, {.N = 4});
         SaveScore(main);
-        EXPECT_EQ(main.HighScore, isRanked ? 80 : 0);
+        EXPECT_EQ(main.HighScore, isRanked ? 80 : 0) << "no trace of the slower one";
         EXPECT_EQ(main.settings.Scores.front().score == 80, isRanked);
         main.window.on.keyDown(kEscapeKey);
     }
+}
+
+TEST(Extras, TheLastGamesBeamsComeAgainIfWanted) {
+    ExtrasPlayer player;
+    VMain& main = player.QuietStore().Load();
+    GameRecorder recorder(main, {});
+    const auto play = [&] {
+        player.Click("CommandArcade");
+        player.Machine().Run(9000);
+        std::string beams = InShort(main.field);
+        main.window.on.keyDown(kEscapeKey);
+        return beams;
+    };
+    const std::string first = play(), second = play();
+    EXPECT_NE(first, second);
+    player.Choose({"SameBeams"});
+    EXPECT_EQ(play(), second);
+    EXPECT_EQ(play(), second);
 }
 
 // What is painted, by row of the surface, and what is shown there; marks come and go without a trace.

@@ -22,10 +22,11 @@ struct KeyRow {
     Key key;
 };
 
-constexpr std::array<KeyRow, 14> kKeys = {{{SDLK_TAB, Key::Tab},
+constexpr std::array<KeyRow, 15> kKeys = {{{SDLK_TAB, Key::Tab},
                                            {SDLK_RETURN, Key::Enter},
                                            {SDLK_KP_ENTER, Key::Enter},
                                            {SDLK_SPACE, Key::Space},
+                                           {SDLK_ESCAPE, Key::Escape},
                                            {SDLK_PAGEUP, Key::PageUp},
                                            {SDLK_PAGEDOWN, Key::PageDown},
                                            {SDLK_LEFT, Key::Left},
@@ -187,16 +188,22 @@ void SdlDesktop::Handle(const SDL_Event& event) {
         NotePointer(front.Data(), place.x, place.y);
         return input.Move(front.Data(), place.x, place.y);
     }
-    if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) HandleButton(event.button);
+    if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) return HandleButton(event.button);
+    Press(gamepads.KeyOf(event));
+}
+
+void SdlDesktop::HandleKey(const SDL_KeyboardEvent& event) {
+    if (event.keysym.sym == SDLK_F11 || IsAltEnter(event)) return windows.front().real->ToggleFullScreen();
+    Press(IsCloseKey(event) ? Key::Escape : KeyOf(event.keysym));
 }
 
 // In a dialog Esc is its close box.
-void SdlDesktop::HandleKey(const SDL_KeyboardEvent& event) {
+void SdlDesktop::Press(Key key) {
     Window& window = windows.back().real->Data();
-    if (event.keysym.sym == SDLK_F11 || IsAltEnter(event)) return windows.front().real->ToggleFullScreen();
-    if (window.isDialog && (event.keysym.sym == SDLK_ESCAPE || IsCloseKey(event))) return input.UseCloseBox(window);
-    if (event.keysym.sym == SDLK_ESCAPE) return input.Key(window, kEscapeKey);
-    if (const Key key = KeyOf(event.keysym); key != Key::None) PressKey(input, window, key);
+    if (key == Key::None) return;
+    if (key != Key::Escape) return PressKey(input, window, key);
+    if (window.isDialog) return input.UseCloseBox(window);
+    input.Key(window, kEscapeKey);
 }
 
 void SdlDesktop::HandleButton(const SDL_MouseButtonEvent& event) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "backends/sdl/desktop/DesktopHints.h"
+#include "backends/sdl/desktop/Gamepads.h"
 #include "backends/sdl/desktop/SdlWindow.h"
 #include "backends/sdl/drawing/ElementPainter.h"
 #include "platform/Surface.h"
@@ -69,6 +70,7 @@ class SdlDesktop {
     void HandleFocusLoss(const Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
     void HandleKey(const SDL_KeyboardEvent& event);
+    void Press(Key key);
     bool AsksForEnd(const SDL_Event& event) const;
     // The real frame, or the nominal one where the desktop does not report it.
     FrameBorders BordersOf(const Window& window) const;
@@ -81,6 +83,7 @@ class SdlDesktop {
     std::function<void()> soundLost;
     DesktopFacts facts;
     WindowInput input;
+    Gamepads gamepads;
     Display display;
     Surface layer;
     Looks looks{layer};

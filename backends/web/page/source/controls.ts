@@ -3,6 +3,8 @@
 import type { Input } from './input';
 import type { Keys } from './keys';
 
+const longestTap = 300; // milliseconds; a longer press of the switch ends with it
+
 export function connectControls(
     input: Input,
     keys: Keys,
@@ -16,10 +18,28 @@ export function connectControls(
     addEventListener('pointerdown', (event) => {
         if (event.pointerType === 'touch') right.hidden = false;
     });
-    right.addEventListener('click', () => {
-        input.fingersPressRight = !input.fingersPressRight;
-        right.setAttribute('aria-pressed', String(input.fingersPressRight));
+    // By a key; what a pointer does is told below.
+    right.addEventListener('click', (event) => {
+        if (event.detail === 0) set(!input.fingersPressRight);
     });
+
+    // A thumb that holds the switch lets the other hand's fingers press the right button meanwhile.
+    let before = false;
+    let heldSince = 0;
+    const set = (isRight: boolean) => {
+        input.fingersPressRight = isRight;
+        right.setAttribute('aria-pressed', String(isRight));
+    };
+    right.addEventListener('pointerdown', () => {
+        before = input.fingersPressRight;
+        heldSince = performance.now();
+        set(true);
+    });
+    for (const kind of ['pointerup', 'pointercancel'])
+        right.addEventListener(kind, () => {
+            const wasHeld = performance.now() - heldSince > longestTap || kind === 'pointercancel';
+            set(wasHeld ? before : !before);
+        });
 
     full.hidden = !document.fullscreenEnabled;
     full.addEventListener('click', () => {

@@ -1,5 +1,6 @@
 // The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each is
 // at its place in game pixels; the window that holds them is scaled as a whole.
+import { panelLeft } from './layout';
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
 import { type ElementRecord, Kind, type SpotRecord } from './records';
@@ -84,6 +85,7 @@ export class Elements {
         if (isNew('height')) node.style.height = `${record.height}px`;
         if (isNew('colour')) node.style.color = record.colour;
         if (isNew('enabled') && node instanceof HTMLButtonElement) node.disabled = !record.enabled;
+        if (isNew('left', 'panel')) node.classList.toggle('panel', record.panel < 0 && record.left >= panelLeft);
         if (image) {
             this.pictures.show(image, record.picture);
             if (isNew('accessibleName')) image.alt = record.accessibleName;

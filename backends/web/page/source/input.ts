@@ -105,10 +105,23 @@ export class Input {
         number: number,
         event: Pick<MouseEvent, 'clientX' | 'clientY'>,
     ): void {
+        const moved = root.classList.contains('upright') ? panelPlace(event.clientX, event.clientY) : undefined;
+        if (moved) {
+            this.waiting.send(kind, window, number, ...moved);
+            return;
+        }
         const box = root.getBoundingClientRect();
         const scale = box.width / root.offsetWidth;
         this.waiting.send(kind, window, number, (event.clientX - box.left) / scale, (event.clientY - box.top) / scale);
     }
+}
+
+/** On an upright page the panel lies elsewhere than the program has it: a press on it is one on the middle of its element. */
+function panelPlace(x: number, y: number): [number, number] | undefined {
+    const node = document.elementFromPoint(x, y)?.closest<HTMLElement>('.upright > .panel');
+    if (!node) return undefined;
+    const { left, top, width, height } = node.style;
+    return [parseFloat(left) + parseFloat(width) / 2, parseFloat(top) + parseFloat(height) / 2];
 }
 
 /** Whether a finger is on a spot of the tutorial that has to be pressed with the right button. */

@@ -22,6 +22,8 @@ const anywhere: Readonly<Record<string, number>> = {
 };
 
 export class Keys {
+    /** There is something on the playfield to choose. */
+    canChoose = false;
     /** A game is being played. */
     areForField = false;
 
@@ -54,14 +56,30 @@ export class Keys {
         const focus = document.activeElement;
         const isOnField = focus === this.field || focus === document.body || focus === null;
         const arrow = arrows[key];
-        if (arrow !== undefined && (isOnField || this.areForField || focus.closest('.spots'))) {
+        const isOnSpot = focus instanceof Element && focus.closest('.spots') !== null;
+        if (arrow !== undefined && (this.areForField || ((isOnSpot || isOnField) && this.canChoose))) {
             // What had the focus would be clicked by the press that follows.
             this.field.focus({ preventScroll: true });
             return arrow;
         }
+        if (arrow !== undefined && !(focus instanceof HTMLInputElement)) {
+            moveFocus(arrow === arrows['ArrowLeft'] || arrow === arrows['ArrowUp'] ? -1 : 1);
+            return undefined;
+        }
         if (key === 'Tab') return this.areForField && focus === this.field && !shiftKey ? tab : undefined;
         return (isOnField ? presses[key] : undefined) ?? anywhere[key.length === 1 ? key.toLowerCase() : key];
     }
+}
+
+/** To the next control of the window in front, or to the one before. */
+export function moveFocus(step: number): void {
+    const front = [...document.querySelectorAll('dialog[open]')].at(-1) ?? document.getElementById('picture');
+    const controls = [...(front?.querySelectorAll<HTMLElement>('button, input') ?? [])].filter(
+        (node) => node.offsetParent !== null && !node.matches(':disabled'),
+    );
+    const place = controls.findIndex((node) => node === document.activeElement);
+    const next = place < 0 ? 0 : place + step + controls.length;
+    controls[next % controls.length]?.focus();
 }
 
 /** Enter is the OK of a dialog, but where a button has the focus. */

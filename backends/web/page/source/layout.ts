@@ -3,6 +3,11 @@
 export const gameWidth = 802;
 export const gameHeight = 602;
 
+/** Where the panel begins, to the right of the field. On an upright page it lies below the field. */
+export const panelLeft = 672;
+const fieldWidth = 684;
+const panelHeight = 190; // in the page's pixels, on an upright page
+
 // The nominal frame of a dialog.
 export const frameSides = 4;
 export const frameHeight = 27;
@@ -22,6 +27,8 @@ export interface Placement {
 export class Layout {
     /** Of the main window's inner area, in the page's pixels. */
     main: Placement = { left: 0, top: 0, scale: 1 };
+    /** The page is taller than wide, so the field takes its full width. */
+    isUpright = false;
     private readonly room: HTMLElement;
     private readonly listeners: (() => void)[] = [];
 
@@ -63,12 +70,15 @@ export class Layout {
 
     private measure(): void {
         const { left, top, width, height } = this.room.getBoundingClientRect();
-        const fits = Math.min(width / gameWidth, height / gameHeight);
+        this.isUpright = height > width;
+        const fits = this.isUpright
+            ? Math.min(width / fieldWidth, (height - panelHeight) / gameHeight)
+            : Math.min(width / gameWidth, height / gameHeight);
         const whole = Math.floor(fits * devicePixelRatio);
         const scale = whole >= 1 && fits * devicePixelRatio < whole * snap ? whole / devicePixelRatio : fits;
         this.main = {
-            left: wholePixel(left + (width - gameWidth * scale) / 2),
-            top: wholePixel(top + (height - gameHeight * scale) / 2),
+            left: wholePixel(left + (width - (this.isUpright ? fieldWidth : gameWidth) * scale) / 2),
+            top: wholePixel(top + (this.isUpright ? 0 : (height - gameHeight * scale) / 2)),
             scale,
         };
         for (const act of this.listeners) act();

@@ -9,6 +9,7 @@ import { Music } from './music';
 import { Notices } from './notices';
 import { connectBack } from './back';
 import { holdVersion, keepForOffline, takeNewVersion } from './offline';
+import { connectPads } from './pads';
 import { Pictures } from './pictures';
 import { loadProgram } from './program';
 import { Settings } from './settings';
@@ -68,6 +69,7 @@ async function start(): Promise<void> {
     const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, focus, end };
     const button = (id: string) => find(id, HTMLButtonElement);
     connectControls(input, keys, button('right'), button('extras'), button('full'));
+    connectPads();
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {

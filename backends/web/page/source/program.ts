@@ -137,7 +137,10 @@ async function instantiate(
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
         showSpots: (spots: number, count: number) => windows.showSpots(readSpots(memory, spots, count)),
-        giveKeys: (toField: number) => (keys.areForField = toField !== 0),
+        giveKeys: (canChoose: number, toField: number) => {
+            keys.canChoose = canChoose !== 0;
+            keys.areForField = toField !== 0;
+        },
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
         endProgram: () => end(),

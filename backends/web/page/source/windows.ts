@@ -32,6 +32,8 @@ export class Windows {
         layout.whenChanged(() => {
             place(picture, layout.main);
             picture.classList.toggle('sharp', layout.isSharp);
+            picture.classList.toggle('upright', layout.isUpright);
+            picture.style.setProperty('--grow', String(1 / layout.main.scale));
             for (const window of this.windows.values()) this.placeDialog(window);
         });
     }

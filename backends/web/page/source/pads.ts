@@ -1,0 +1,71 @@
+// Gamepads, as keys: stick and cross are the arrows, the buttons press, pause and turn pages. Browsers tell of a gamepad with
+// its first button, and of what is pressed only when they are asked.
+import { moveFocus } from './keys';
+
+// Of a stick's way of 1: where it counts as held in a direction, and where as let go again.
+const heldFrom = 0.6;
+const letGoBelow = 0.3;
+
+// By their numbers in the standard layout.
+const buttons: Readonly<Record<number, string>> = {
+    0: ' ',
+    1: 'Enter',
+    3: 'r',
+    4: 'PageUp',
+    5: 'PageDown',
+    8: 'Escape',
+    9: 'p',
+    12: 'ArrowUp',
+    13: 'ArrowDown',
+    14: 'ArrowLeft',
+    15: 'ArrowRight',
+};
+
+const steps: Readonly<Record<string, number>> = { ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 };
+
+let isWatching = false;
+let pressed = new Set<string>();
+let stick = '';
+
+export function connectPads(): void {
+    addEventListener('gamepadconnected', () => {
+        if (!isWatching) requestAnimationFrame(watch);
+        isWatching = true;
+    });
+}
+
+function watch(): void {
+    const pads = navigator.getGamepads().filter((pad) => pad?.mapping === 'standard');
+    isWatching = pads.length > 0;
+    const now = new Set<string>();
+    for (const pad of pads) for (const key of keysOf(pad)) now.add(key);
+    for (const key of now) if (!pressed.has(key)) press(key);
+    pressed = now;
+    if (isWatching) requestAnimationFrame(watch);
+}
+
+function* keysOf(pad: Gamepad | null): Generator<string> {
+    if (!pad) return;
+    for (const [number, key] of Object.entries(buttons)) if (pad.buttons[Number(number)]?.pressed) yield key;
+    stick = stickOf(pad.axes[0] ?? 0, pad.axes[1] ?? 0);
+    if (stick) yield stick;
+}
+
+/** A stick is an arrow until it has been let go. */
+function stickOf(x: number, y: number): string {
+    const along = stick.endsWith('t') ? x : y;
+    if (stick && Math.abs(along) >= letGoBelow) return stick;
+    if (Math.abs(x) >= heldFrom) return x < 0 ? 'ArrowLeft' : 'ArrowRight';
+    if (Math.abs(y) >= heldFrom) return y < 0 ? 'ArrowUp' : 'ArrowDown';
+    return '';
+}
+
+/** What a key would do; where the browser itself would do it, we do. */
+function press(key: string): void {
+    const focus = document.activeElement ?? document.body;
+    const event = new KeyboardEvent('keydown', { key, bubbles: true, cancelable: true });
+    if (!focus.dispatchEvent(event)) return;
+    const step = steps[key];
+    if (step !== undefined) moveFocus(step);
+    else if ((key === ' ' || key === 'Enter') && focus instanceof HTMLElement) focus.click();
+}
