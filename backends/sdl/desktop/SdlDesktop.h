@@ -70,6 +70,8 @@ class SdlDesktop {
     void HandleCloseBox(Shown& shown);
     void HandleButton(const SDL_MouseButtonEvent& event);
     bool AsksForEnd(const SDL_Event& event) const;
+    // What SDL has to be asked for, so that the frame of a new window has its corner at a place in game pixels.
+    Place CornerToAskFor(Place place) const;
     // The nominal frame, where the desktop does not tell of a real one.
     FrameBorders BordersOf(const Window& window) const;
     // All windows have the scale that the desktop has given the main window.

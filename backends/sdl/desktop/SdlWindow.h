@@ -23,10 +23,10 @@ struct GamePlace {
 class SdlWindow {
   public:
     struct Options {
-        Surface* layer = nullptr;          // of the main window
-        SDL_Window* owner = nullptr;       // of a dialog
-        std::optional<Place> frameCorner;  // in points of the desktop; without it the desktop chooses
-        float pointsPerGamePixel = 1;      // the scale to ask for; points are the desktop's unit of places and sizes
+        Surface* layer = nullptr;      // of the main window
+        SDL_Window* owner = nullptr;   // of a dialog
+        std::optional<Place> corner;   // as SDL counts it, in points of the desktop; without it the desktop chooses
+        float pointsPerGamePixel = 1;  // the scale to ask for; points are the desktop's unit of places and sizes
     };
 
     // Makes the window and shows it. If the desktop refuses, IsReal is false and the error is SDL_GetError's.

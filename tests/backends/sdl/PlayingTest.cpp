@@ -198,6 +198,10 @@ bool WaitFor(const std::function<bool()>& holds) {
 // SDL's disk driver plays the part of a device that can be unplugged: its device goes when the file may not grow any
 // more.
 TEST_F(PlayingTest, MusicWaitsForADeviceAndGoesOnWhereItFellSilentInTheFormOfTheNext) {
+    SDL_version version;
+    SDL_GetVersion(&version);
+    if (version.patch >= 50)
+        GTEST_SKIP() << "SDL 3 in SDL 2's place tells of no loss, it goes to another device itself";
     const Samples track = WholeTrack();
     const fs::path folder = fs::path(testing::TempDir()) / ("devices-" + std::to_string(getpid()));
     fs::create_directories(folder);
