@@ -131,10 +131,8 @@ PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t el
 PAGE_IMPORT("showPixels")
 void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
                 std::int32_t height);
-// Shows one line about saving below the picture. An empty one removes it.
+// Shows one line below the picture, of saving as a rule. An empty one removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
-// An error box. It stays open until the page reports Close for the window kMessageBox.
-PAGE_IMPORT("openMessage") void OpenMessage(const char* text, std::uint32_t length);
 // The program has ended: the page dims the picture and offers a new start.
 PAGE_IMPORT("endProgram") void EndProgram();
 
@@ -162,6 +160,5 @@ PAGE_IMPORT("stopMusic") void StopMusic();
 #undef PAGE_IMPORT
 
 constexpr std::int32_t kMainWindow = 0;
-constexpr std::int32_t kMessageBox = -1;
 
 }  // namespace prismfall::page

@@ -126,7 +126,6 @@ async function instantiate(
         showPixels: (pixels: number, left: number, top: number, width: number, height: number) =>
             surface.show(new Uint8ClampedArray(memory.buffer, pixels, 4 * width * height), left, top, width),
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
-        openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
         endProgram: () => end(),
         openSettings: () => settings.open(),
         readSettings: (address: number) => settings.copyTo(new Uint8Array(memory.buffer, address)),
