@@ -140,10 +140,8 @@ PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t co
 // Whether there is something on the surface to choose by keys, and whether that is a game being played, so that Tab and
 // the arrows choose beams and not what the page offers.
 PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t canChoose, std::int32_t toField);
-// Shows one line about saving below the picture. An empty one removes it.
+// Shows one line below the picture, usually about saving. An empty one removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
-// An error box. It stays open until the page reports Close for the window kMessageBox.
-PAGE_IMPORT("openMessage") void OpenMessage(const char* text, std::uint32_t length);
 // The program has ended: the page dims the picture and offers a new start.
 PAGE_IMPORT("endProgram") void EndProgram();
 
@@ -172,6 +170,5 @@ PAGE_IMPORT("stopMusic") void StopMusic();
 #undef PAGE_IMPORT
 
 constexpr std::int32_t kMainWindow = 0;
-constexpr std::int32_t kMessageBox = -1;
 
 }  // namespace prismfall::page

@@ -265,17 +265,9 @@ void WebPlatform::SetPosition(Window& window, Place place) {
     if (window.isDialog) dialogPlace = place;
 }
 
+// In a page a line below the picture serves for it.
 void WebPlatform::ShowMessageBox(std::string_view text) {
-    if (ended) return;
-    const GameTime::Standstill standstill(time);
-    page::OpenMessage(text.data(), static_cast<std::uint32_t>(text.size()));
-    page::Event event;
-    for (;;) {
-        while (page::TakeEvent(&event) != 0)
-            if (event.window == page::kMessageBox) return;
-        page::Wait(page::Now() + kLongestWait, 1);
-        NoteVisibility();
-    }
+    page::ShowNotice(text.data(), static_cast<std::uint32_t>(text.size()));
 }
 
 void WebPlatform::EndProgram() {

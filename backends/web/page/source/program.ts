@@ -142,7 +142,6 @@ async function instantiate(
             keys.areForField = toField !== 0;
         },
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
-        openMessage: (address: number, length: number) => windows.openMessage(text(address, length)),
         endProgram: () => end(),
         openSettings: () => settings.open(),
         readSettings: (address: number) => settings.copyTo(new Uint8Array(memory.buffer, address)),

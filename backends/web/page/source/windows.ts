@@ -8,8 +8,6 @@ import { type ElementRecord, EventKind, type SpotRecord, type WindowRecord } fro
 import type { Surface } from './surface';
 import type { Waiting } from './waiting';
 
-const messageBox = -1;
-
 interface OpenWindow {
     readonly record: WindowRecord;
     readonly elements: Elements;
@@ -76,21 +74,6 @@ export class Windows {
     /** The number of the dialog in front, or undefined for none. */
     frontDialog(): number | undefined {
         return [...this.windows].filter(([, { dialog }]) => dialog).pop()?.[0];
-    }
-
-    openMessage(sentence: string): void {
-        const box = add(document.body, make('dialog', 'message'));
-        box.setAttribute('role', 'alertdialog');
-        box.setAttribute('aria-label', 'Prismfall');
-        add(box, make('p')).textContent = sentence;
-        const ok = add(box, make('button', 'plain'));
-        ok.textContent = 'OK';
-        ok.addEventListener('click', () => box.close());
-        box.addEventListener('close', () => {
-            box.remove();
-            this.waiting.send(EventKind.Close, messageBox);
-        });
-        box.showModal();
     }
 
     /** The program has ended, or could not go on; the sentence says why. */
