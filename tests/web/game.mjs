@@ -80,10 +80,9 @@ export class Game {
             const [below, above] = document.querySelectorAll('canvas');
             const { width, height } = below;
             const context = Object.assign(document.createElement('canvas'), { width, height }).getContext('2d');
+            context.fillRect(0, 0, width, height);
             context.drawImage(below, 0, 0);
             context.drawImage(above, parseInt(above.style.left), parseInt(above.style.top));
-            context.globalCompositeOperation = 'destination-over';
-            context.fillRect(0, 0, width, height);
             const { data } = context.getImageData(0, 0, width, height);
             const digest = new Uint8Array(await crypto.subtle.digest('SHA-256', data));
             return [...digest].map((byte) => byte.toString(16).padStart(2, '0')).join('');

@@ -1,9 +1,11 @@
 // prismfall-headless: reads a script on standard input and prints what the game does on standard output, or, as
 // `prismfall-headless verify FILE...`, plays recordings of games again and says whether they are true.
-#include <fstream>
+#include <array>
+#include <cstdio>
 #include <iostream>
-#include <iterator>
+#include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #ifdef _WIN32
@@ -16,14 +18,25 @@
 
 namespace {
 
+// Nothing if the file cannot be read. By C's means, since WebAssembly's C++ library has no file streams.
+std::optional<std::string> ContentsOf(const char* name) {
+    std::FILE* const file = std::fopen(name, "rb");
+    if (file == nullptr) return std::nullopt;
+    std::string text;
+    std::array<char, 4096> part;
+    while (const std::size_t length = std::fread(part.data(), 1, part.size(), file)) text.append(part.data(), length);
+    const bool isWhole = std::ferror(file) == 0;
+    std::fclose(file);
+    return isWhole ? std::optional(text) : std::nullopt;
+}
+
 // A line `FILE: VERDICT` for each. The exit status: 0 if all are true, otherwise 1.
 int VerifyFiles(std::span<char* const> names) {
     int status = 0;
     for (const char* name : names) {
-        std::ifstream file(name, std::ios::binary);
-        const std::string text(std::istreambuf_iterator<char>(file), {});
+        const std::optional<std::string> text = ContentsOf(name);
         const prismfall::Verdict verdict =
-            file ? prismfall::VerifyRecording(text) : prismfall::Verdict{false, "the file cannot be read"};
+            text ? prismfall::VerifyRecording(*text) : prismfall::Verdict{false, "the file cannot be read"};
         std::cout << name << ": " << verdict.words << '\n';
         if (!verdict.isTrue) status = 1;
     }

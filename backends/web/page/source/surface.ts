@@ -26,10 +26,12 @@ export class Surface {
         this.above = this.addCanvas(field.left, field.top, field.right - field.left, field.bottom - field.top, false);
     }
 
+    /** Changes the pixels that it shows: what is unpainted is black on the playfield. */
     show(pixels: Uint8ClampedArray<ArrayBuffer>, left: number, top: number, width: number): void {
         const image = new ImageData(pixels, width);
-        this.above?.putImageData(image, left - field.left, top - field.top);
         if (isNearEdge(left, top, left + width, top + image.height)) this.below?.putImageData(image, left, top);
+        makeOpaque(pixels);
+        this.above?.putImageData(image, left - field.left, top - field.top);
     }
 
     private addCanvas(
@@ -42,8 +44,16 @@ export class Surface {
         const canvas = add(this.node, make('canvas'));
         Object.assign(canvas, { width, height });
         Object.assign(canvas.style, { left: `${left}px`, top: `${top}px` });
-        return canvas.getContext('2d', { alpha, willReadFrequently: true });
+        const context = canvas.getContext('2d', { alpha, willReadFrequently: true });
+        if (!alpha) context?.fillRect(0, 0, width, height);
+        return context;
     }
+}
+
+/** A canvas without opacity of its own must not be given transparent pixels: some browsers show them white. */
+function makeOpaque(pixels: Uint8ClampedArray<ArrayBuffer>): void {
+    const whole = new Uint32Array(pixels.buffer, pixels.byteOffset, pixels.length / 4);
+    whole.forEach((pixel, i) => (whole[i] = pixel | 0xff000000));
 }
 
 function isNearEdge(left: number, top: number, right: number, bottom: number): boolean {
