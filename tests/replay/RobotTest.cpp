@@ -108,7 +108,7 @@ TEST(Robot, EveryRecordingOfItsGamesIsTrueAndNoChangedOneIs) {
             EXPECT_FALSE(VerifyRecording(changed).isTrue) << "seed " << seed << " run " << run << '\n' << changed;
         }
     }
-    EXPECT_GE(seen.size(), 5U);
+    EXPECT_GE(seen.size(), 3U);
 }
 
 }  // namespace
