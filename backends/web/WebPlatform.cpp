@@ -265,7 +265,7 @@ void WebPlatform::SetPosition(Window& window, Place place) {
     if (window.isDialog) dialogPlace = place;
 }
 
-// In a page a line below the picture serves for it.
+// In the page, a line below the picture takes the place of a box.
 void WebPlatform::ShowMessageBox(std::string_view text) {
     page::ShowNotice(text.data(), static_cast<std::uint32_t>(text.size()));
 }

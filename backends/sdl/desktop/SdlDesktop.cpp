@@ -124,23 +124,12 @@ bool SdlDesktop::Open(Window& window) {
     if (!window.isDialog) options.layer = &looks;
     if (window.isDialog && !windows.empty()) options.owner = windows.back().real->Real();
     if (const auto place = wantedPlaces.find(&window); place != wantedPlaces.end())
-        options.corner = CornerToAskFor(place->second);
+        options.frameCorner = Place{Points(place->second.left), Points(place->second.top)};
     auto real = std::make_unique<SdlWindow>(window, display, options);
     if (!real->IsReal()) return false;
     windows.push_back({std::move(real)});
     input.Open(window);
     return true;
-}
-
-// SDL 3, where it plays for SDL 2, tells itself by the last number of its version. It counts to what is inside.
-Place SdlDesktop::CornerToAskFor(Place place) const {
-    constexpr int kFirstOfSdl3 = 50;
-    const Place corner{Points(place.left), Points(place.top)};
-    SDL_version version;
-    SDL_GetVersion(&version);
-    if (version.patch < kFirstOfSdl3 || windows.empty()) return corner;
-    const FrameBorders borders = windows.front().real->Borders().value_or(FrameBorders{});
-    return {corner.left + borders.left, corner.top + borders.top};
 }
 
 void SdlDesktop::Close(const Window& window) {

@@ -72,8 +72,6 @@ class SdlDesktop {
     void HandleKey(const SDL_KeyboardEvent& event);
     void Press(Key key);
     bool AsksForEnd(const SDL_Event& event) const;
-    // What SDL has to be asked for, so that the frame of a new window has its corner at a place in game pixels.
-    Place CornerToAskFor(Place place) const;
     // The real frame, or the nominal one where the desktop does not report it.
     FrameBorders BordersOf(const Window& window) const;
     // All windows have the scale that the desktop gave the main window.

@@ -32,9 +32,9 @@ void SdlWindow::Create() {
     };
     int left = SDL_WINDOWPOS_UNDEFINED;
     int top = SDL_WINDOWPOS_UNDEFINED;
-    if (options.corner) {
-        left = options.corner->left;
-        top = options.corner->top;
+    if (options.frameCorner) {
+        left = options.frameCorner->left;
+        top = options.frameCorner->top;
     }
     const std::string title(window.title);
     real.reset(SDL_CreateWindow(title.c_str(), left, top, points(window.innerWidth), points(window.innerHeight),

@@ -25,7 +25,7 @@ class SdlWindow {
     struct Options {
         Looks* layer = nullptr;            // of the main window
         SDL_Window* owner = nullptr;       // of a dialog
-        std::optional<Place> corner;       // as SDL counts it, in points of the desktop; if unset, the desktop chooses
+        std::optional<Place> frameCorner;  // in points of the desktop; if unset, the desktop chooses
         float pointsPerGamePixel = 1;      // the scale to request; points are the desktop's unit for places and sizes
     };
 
