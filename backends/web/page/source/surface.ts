@@ -10,6 +10,12 @@ const field = { left: 16, top: 18, right: 668, bottom: 584 };
 
 // What is painted this near to the field's edge is on both canvases, since at some scales both can be seen there.
 const seam = 4;
+const inside = {
+    left: field.left + seam,
+    top: field.top + seam,
+    right: field.right - seam,
+    bottom: field.bottom - seam,
+};
 
 export class Surface {
     /** Both canvases, one on the other. */
@@ -17,7 +23,14 @@ export class Surface {
     private readonly below: CanvasRenderingContext2D | null;
     private readonly above: CanvasRenderingContext2D | null;
 
-    constructor(width: number, height: number) {
+    /** What is on the canvas below, around the field. */
+    private readonly around: Uint32Array;
+
+    constructor(
+        private readonly width: number,
+        height: number,
+    ) {
+        this.around = new Uint32Array(width * height);
         // Keys play on it: see keys.ts.
         this.node.tabIndex = 0;
         this.node.setAttribute('role', 'application');
@@ -29,9 +42,30 @@ export class Surface {
     /** Changes the pixels that it shows: what is unpainted is black on the playfield. */
     show(pixels: Uint8ClampedArray<ArrayBuffer>, left: number, top: number, width: number): void {
         const image = new ImageData(pixels, width);
-        if (isNearEdge(left, top, left + width, top + image.height)) this.below?.putImageData(image, left, top);
-        makeOpaque(pixels);
+        const whole = new Uint32Array(pixels.buffer, pixels.byteOffset, pixels.length / 4);
+        if (this.noteAround(whole, left, top, width)) this.below?.putImageData(image, left, top);
+        makeOpaque(whole);
         this.above?.putImageData(image, left - field.left, top - field.top);
+    }
+
+    /** Whether anything changes around the field. Much is painted there again and again as it is. */
+    private noteAround(pixels: Uint32Array, left: number, top: number, width: number): boolean {
+        let isChanged = false;
+        for (let i = 0; i < pixels.length; ++i) {
+            const x = left + (i % width);
+            const y = top + Math.floor(i / width);
+            const isInside = y >= inside.top && y < inside.bottom && x >= inside.left && x < inside.right;
+            // The rest of the row is inside up to there.
+            if (isInside) {
+                i += Math.min(inside.right - x, width - (i % width)) - 1;
+                continue;
+            }
+            const at = y * this.width + x;
+            if (this.around[at] === pixels[i]) continue;
+            this.around[at] = pixels[i] ?? 0;
+            isChanged = true;
+        }
+        return isChanged;
     }
 
     private addCanvas(
@@ -51,13 +85,6 @@ export class Surface {
 }
 
 /** A canvas without opacity of its own must not be given transparent pixels: some browsers show them white. */
-function makeOpaque(pixels: Uint8ClampedArray<ArrayBuffer>): void {
-    const whole = new Uint32Array(pixels.buffer, pixels.byteOffset, pixels.length / 4);
-    whole.forEach((pixel, i) => (whole[i] = pixel | 0xff000000));
-}
-
-function isNearEdge(left: number, top: number, right: number, bottom: number): boolean {
-    return (
-        left < field.left + seam || top < field.top + seam || right > field.right - seam || bottom > field.bottom - seam
-    );
+function makeOpaque(pixels: Uint32Array): void {
+    pixels.forEach((pixel, i) => (pixels[i] = pixel | 0xff000000));
 }
