@@ -23,10 +23,10 @@ struct GamePlace {
 class SdlWindow {
   public:
     struct Options {
-        Looks* layer = nullptr;            // of the main window
-        SDL_Window* owner = nullptr;       // of a dialog
-        std::optional<Place> corner;       // as SDL counts it, in points of the desktop; if unset, the desktop chooses
-        float pointsPerGamePixel = 1;      // the scale to request; points are the desktop's unit for places and sizes
+        Looks* layer = nullptr;        // of the main window
+        SDL_Window* owner = nullptr;   // of a dialog
+        std::optional<Place> corner;   // as SDL counts it, in points of the desktop; if unset, the desktop chooses
+        float pointsPerGamePixel = 1;  // the scale to request; points are the desktop's unit for places and sizes
     };
 
     // Creates the window and shows it. If the desktop refuses, IsReal is false and SDL_GetError says why.
