@@ -56,8 +56,9 @@ export class Game {
     /** Converts a place in the main window to a place on the page. */
     async at(x, y) {
         const find = () => {
-            const { left, top, width } = document.getElementById('picture').getBoundingClientRect();
-            return [left, top, width / 802];
+            const picture = document.getElementById('picture');
+            const { left, top, width } = picture.getBoundingClientRect();
+            return [left, top, width / picture.offsetWidth];
         };
         const [left, top, scale] = await this.page.evaluate(find);
         return [left + x * scale, top + y * scale];

@@ -160,8 +160,14 @@ test('fingers on a phone press both buttons', async () => {
     const tap = async (words) => game.page.tap(...(await game.placeOf(words)));
     await tap('Puzzle');
     for (let i = 0; i < 4; ++i) await tap('Next page');
+    const panel = () =>
+        [...document.querySelectorAll('#picture > button')].map((node) => node.getBoundingClientRect().toJSON());
+    for (const { top, width, height } of (await game.page.evaluate(panel)).filter((box) => box.width > 0))
+        assert.ok(top >= 390 * (602 / 684) && Math.min(width, height) >= 44, 'a button for fingers, below the field');
     await game.page.tap(...(await game.at(120, 120)));
     await tap('Start');
+    await game.page.size(780, 390, { deviceScaleFactor: 3, hasTouch: true, isMobile: true });
+    await game.page.size(390, 780, { deviceScaleFactor: 3, hasTouch: true, isMobile: true });
     await tap('Speed up');
     await game.page.tap(...(await game.at(334, 340)));
     await game.dialog('Puzzle Result');
