@@ -32,6 +32,7 @@ namespace {
 
 constexpr float kPlainDotsPerInch = 96;
 constexpr float kLargestScale = 4;
+constexpr int kFirstPatchOverSdl3 = 50;  // of a version: SDL2 itself has smaller numbers
 
 // The Motif hints that window managers still follow.
 constexpr unsigned long kMotifHasFunctions = 1;
@@ -71,6 +72,21 @@ void SetAtoms(const X11Window& x, const char* property, const char* value, int m
     const Atom atom = AtomOf(x, value);
     XChangeProperty(x.display, x.window, AtomOf(x, property), XA_ATOM, 32, mode,
                     reinterpret_cast<const unsigned char*>(&atom), 1);
+}
+
+// SDL2 as a layer over SDL3 takes the place that was meant for the frame for that of what is inside. The dialog has no
+// frame yet, but its owner has one.
+void PlaceByFrame(SDL_Window* dialog, SDL_Window* owner) {
+    SDL_version linked;
+    SDL_GetVersion(&linked);
+    if (linked.patch < kFirstPatchOverSdl3 || owner == nullptr) return;
+    int left = 0;
+    int top = 0;
+    int frameLeft = 0;
+    int frameTop = 0;
+    SDL_GetWindowPosition(dialog, &left, &top);
+    SDL_GetWindowBordersSize(owner, &frameTop, &frameLeft, nullptr, nullptr);
+    SDL_SetWindowPosition(dialog, left + frameLeft, top + frameTop);
 }
 
 // The integers among a desktop's XSETTINGS, by name.
@@ -277,6 +293,7 @@ void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner) {
     if (owner != nullptr) SDL_SetWindowModalFor(dialog, owner);
     const auto x = WindowOnX11(dialog);
     if (!x) return;
+    PlaceByFrame(dialog, owner);
     SetMotifHints(*x, false);
     SetAtoms(*x, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DIALOG", PropModeReplace);
     SetAtoms(*x, "_NET_WM_STATE", "_NET_WM_STATE_MODAL", PropModeAppend);
