@@ -10,6 +10,8 @@ namespace prismfall {
 
 // Where the game keeps the user's settings, by the system's conventions; empty if the user has no folder for them.
 std::filesystem::path UsersSettingsFolder();
+// The same for what the user has made, such as recordings.
+std::filesystem::path UsersDataFolder();
 
 // The text of a file, empty if there is none or it cannot be read.
 std::string ReadWholeFile(const std::filesystem::path& file);

@@ -170,19 +170,23 @@ int Change(const fs::path& path, const std::function<std::string(std::string)>& 
     return error;
 }
 
-}  // namespace
-
-fs::path UsersSettingsFolder() {
-    const auto absolute = [](const char* variable) {
-        const char* value = std::getenv(variable);
+fs::path UsersFolder(const char* variable, const char* belowHome) {
+    const auto absolute = [](const char* name) {
+        const char* value = std::getenv(name);
         const fs::path folder = value != nullptr ? value : "";
         return folder.is_absolute() ? folder : fs::path();
     };
-    fs::path folder = absolute("XDG_CONFIG_HOME");
+    fs::path folder = absolute(variable);
     const fs::path home = absolute("HOME");
-    if (folder.empty() && !home.empty()) folder = home / ".config";
+    if (folder.empty() && !home.empty()) folder = home / belowHome;
     return folder.empty() ? folder : folder / "prismfall";
 }
+
+}  // namespace
+
+fs::path UsersSettingsFolder() { return UsersFolder("XDG_CONFIG_HOME", ".config"); }
+
+fs::path UsersDataFolder() { return UsersFolder("XDG_DATA_HOME", ".local/share"); }
 
 std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }
 

@@ -165,6 +165,8 @@ fs::path UsersSettingsFolder() {
     return folder != nullptr ? fs::path(folder) / "Prismfall" : fs::path();
 }
 
+fs::path UsersDataFolder() { return UsersSettingsFolder(); }
+
 std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }
 
 std::string ChangeFile(const fs::path& file, const std::function<std::string(std::string)>& change) {

@@ -1,0 +1,203 @@
+#include "replay/Watch.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <ostream>
+#include <utility>
+
+#include "game/MainWindow.h"
+#include "game/Modes.h"
+#include "replay/Replay.h"
+
+namespace prismfall {
+
+namespace {
+
+constexpr int kTick = 10;                 // milliseconds
+constexpr std::int64_t kStep = 10'000;    // milliseconds, back and forth
+constexpr std::int64_t kLineTicks = 800;  // how long the line about keys stays
+constexpr int kFastest = 8;
+
+// Of the line: at the foot of the playfield, game pixels.
+constexpr float kLineLeft = 30;
+constexpr float kLineTop = 556;
+constexpr int kLineWidth = 620;
+
+std::string Clock(std::int64_t milliseconds) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%d:%02d", static_cast<int>(milliseconds / 60'000),
+                  static_cast<int>(milliseconds / 1000 % 60));
+    return text.data();
+}
+
+// The machine of the game that is shown. Its strokes go to the player's surface as well, and its sounds to the
+// player's speakers, if the game is shown at the pace it was played at.
+class StageMachine final : public HeadlessPlatform {
+  public:
+    StageMachine(std::ostream& events, Platform& playersMachine) : HeadlessPlatform(events), real(playersMachine) {}
+
+    bool isHeard = false;
+    bool isSeen = true;
+
+    void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override {
+        if (isSeen) real.SurfaceLine(x1, y1, x2, y2, colour, width);
+    }
+    void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override {
+        if (isSeen) real.SurfaceBox(x1, y1, x2, y2, colour, width);
+    }
+    void SurfaceRestore(int x1, int y1, int x2, int y2) override {
+        if (isSeen) real.SurfaceRestore(x1, y1, x2, y2);
+    }
+    void SurfaceClear() override {
+        if (isSeen) real.SurfaceClear();
+    }
+    void PlayWave(Wave wave, bool) override {
+        if (isHeard && isSeen) real.PlayWave(wave, false);
+    }
+
+  private:
+    Platform& real;
+};
+
+}  // namespace
+
+// The game that is shown.
+class Watch::Stage {
+  public:
+    Stage(VMain& player, const Recording& recording)
+        : machine(silence, player.platform), game(machine), replay((Load(player), machine), game, recording) {
+        // What comes after the game is not shown.
+        replay.whenOver = [this, &player] {
+            Mirror(player);
+            machine.isSeen = false;
+        };
+    }
+
+    void PlayUntil(std::int64_t moment, bool isHeard) {
+        machine.isHeard = isHeard;
+        replay.PlayUntil(moment);
+    }
+    bool IsOver() const { return replay.IsOver(); }
+
+    // Makes the elements of the player's window look like those of the game.
+    void Mirror(VMain& player) {
+        if (!machine.isSeen) return;
+        for (std::size_t i = 0; i < game.window.elements.size(); ++i) {
+            Element& shown = *player.window.elements[i];
+            const Element* const panel = shown.panel;
+            shown = *game.window.elements[i];
+            shown.panel = panel;
+        }
+    }
+
+  private:
+    void Load(const VMain& player) {
+        machine.isSeen = false;
+        MakeMainWindow(game);
+        game.settings.SoundEffects = player.settings.SoundEffects;
+        machine.Open(game.window);
+        machine.isSeen = true;
+    }
+
+    std::ostream silence{nullptr};
+    StageMachine machine;
+    VMain game;
+    Replay replay;
+};
+
+Watch::Watch(VMain& player, Recording recorded) : main(player), recording(std::move(recorded)) {
+    TakeWindow();
+    Begin();
+    Show();
+}
+
+Watch::~Watch() { Leave(); }
+
+void Watch::TakeWindow() {
+    handlers = std::exchange(main.window.on, {});
+    place = main.LabelPace;
+    WindowHandlers& on = main.window.on;
+    on.queryUnload = handlers.queryUnload;
+    on.unload = handlers.unload;
+    on.mouseDown = [this](MouseButton button, float, float) { Press(button); };
+    on.keyDown = [this](std::int16_t) { Leave(); };  // Esc is the only key that comes this way
+    on.command = [this](Key key) { Command(key); };
+    on.elementClick = [this](const Element& element) {
+        if (&element == &main.cmdPause) Press(MouseButton::Left);
+        if (&element == &main.CmdStart) GoTo(0);
+        if (&element == &main.CommandExit) Leave();
+    };
+    TimerWheel& timers = main.platform.Timers();
+    timers.StopAll();
+    main.platform.SetTickHandler([this](Timer) { Tick(); });
+    main.platform.SetTimerInterval(Timer::LineExtender, kTick);
+    main.platform.StartTimer(Timer::LineExtender);
+}
+
+void Watch::Leave() {
+    if (!std::exchange(isWatching, false)) return;
+    main.window.on = std::exchange(handlers, {});
+    main.platform.Timers().StopAll();
+    for (const TimerName& row : kTimerNames) main.platform.SetTimerInterval(row.timer, IntervalAtStart(row.timer));
+    main.platform.SetTickHandler([&player = main](Timer timer) { TickTimer(player, timer); });
+    EnterScreen(main, Mode::MainMenu);
+    main.LabelMulti.visible = false;
+    main.LabelPace = place;
+    PlayMusicOfMode(main);
+}
+
+void Watch::Begin() {
+    position = 0;
+    ticks = 0;
+    stage.reset();
+    stage = std::make_unique<Stage>(main, recording);
+}
+
+// Back is from the start again.
+void Watch::GoTo(std::int64_t newPosition) {
+    if (newPosition < position) Begin();
+    position = std::clamp<std::int64_t>(newPosition, 0, recording.length);
+    stage->PlayUntil(position, false);
+    ticks = 0;
+    Show();
+}
+
+void Watch::Tick() {
+    ++ticks;
+    if (!isPaused && !stage->IsOver()) {
+        position = std::min(position + pace * kTick, recording.length);
+        stage->PlayUntil(position, pace == 1);
+    }
+    Show();
+}
+
+void Watch::Show() {
+    stage->Mirror(main);
+    main.LabelPace.visible = isPaused || stage->IsOver() || ticks < kLineTicks;
+    main.LabelPace.text = Line();
+    main.LabelPace.left = kLineLeft;
+    main.LabelPace.top = kLineTop;
+    main.LabelPace.width = kLineWidth;
+}
+
+std::string Watch::Line() const {
+    std::string line = Clock(position) + " of " + Clock(recording.length);
+    if (pace > 1) line += ", " + std::to_string(pace) + " times as fast";
+    return line + ". P: pause, Page Up and Down: 10 s, right button: pace, Esc: leave";
+}
+
+void Watch::Press(MouseButton button) {
+    if (button == MouseButton::Left) isPaused = !isPaused;
+    if (button == MouseButton::Right) pace = pace == kFastest ? 1 : 2 * pace;
+    ticks = 0;
+}
+
+void Watch::Command(Key key) {
+    if (key == Key::P) Press(MouseButton::Left);
+    if (key == Key::R) GoTo(0);
+    if (key == Key::PageUp) GoTo(position - kStep);
+    if (key == Key::PageDown) GoTo(position + kStep);
+}
+
+}  // namespace prismfall
