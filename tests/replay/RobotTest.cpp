@@ -57,7 +57,8 @@ class Robot {
         if (front.isDialog && Chance(15)) return machine.Input().UseCloseBox(front);
         if (Chance(4)) return machine.Input().Resize(main.window, isMinimised = !isMinimised);
         if (Chance(2)) return machine.Input().Key(front, kEscapeKey);
-        if (main.TutorialStep > 0 && Chance(50)) return PressTutorial(main.PictTut[static_cast<std::size_t>(main.TutorialStep - 1)]);
+        if (main.TutorialStep > 0 && Chance(50))
+            return PressTutorial(main.PictTut[static_cast<std::size_t>(main.TutorialStep - 1)]);
         if (Chance(20)) return machine.Input().PressSurface(front, MouseButton::Left, 700.F * Share(), 600.F * Share());
         machine.Input().PressAndClick(
             front, *front.elements[static_cast<std::size_t>(Number(0, static_cast<int>(front.elements.size()) - 1))]);
