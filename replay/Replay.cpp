@@ -115,7 +115,7 @@ void Replay::BeforeInput(const InputEvent& event) { recorder.BeforeInput(event);
 
 void Replay::MomentRenewed(std::int64_t moment) { recorder.MomentRenewed(moment); }
 
-void Replay::Begins(VMain& begun, GameKind) {
+void Replay::Begins(VMain& begun, GameKind /*kind*/) {
     if (recorder.IsRecording()) return Ends(begun, GameEnding::Left);
     recorder.Begin(std::string_view(recording.text).substr(0, recording.headBytes));
 }

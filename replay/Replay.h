@@ -24,8 +24,8 @@ struct ReplayFault {
 
 class Replay final : private HeadlessScript, private HandlerListener, private GameLog {
   public:
-    // `main` is a program that runs on `machine`, in its main menu. Both must outlive this.
-    Replay(HeadlessPlatform& machine, VMain& main, const Recording& recording);
+    // `played` is a program that runs on the machine, in its main menu. All three must outlive this.
+    Replay(HeadlessPlatform& playedOn, VMain& played, const Recording& recorded);
     ~Replay() override;
 
     // Continues until that moment of the game, in milliseconds since it began, or further if a dialog is open then, but
@@ -49,8 +49,8 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     void BeforeInput(const InputEvent& event) override;
     void MomentRenewed(std::int64_t moment) override;
 
-    void Begins(VMain& main, GameKind kind) override;
-    void Ends(VMain& main, GameEnding ending) override;
+    void Begins(VMain& begun, GameKind kind) override;
+    void Ends(VMain& ended, GameEnding ending) override;
 
     Nanoseconds InMachineTime(std::int64_t moment) const { return start + std::chrono::milliseconds(moment); }
     void Do(const RecordedEvent& event);

@@ -13,10 +13,10 @@ namespace prismfall {
 
 class Watch {
   public:
-    // Takes over the window, the timers and the surface of `main`, which is in its main menu, until Leave. While one
-    // watches, P or a left press pauses, Page Up and Page Down go ten seconds back and forth, a right press changes the
-    // pace, R begins again and Esc leaves; a line in the window says so at first and in every pause.
-    Watch(VMain& main, Recording recording);
+    // Takes over the window, the timers and the surface of `player`, a program that is in its main menu, until Leave.
+    // While one watches, P or a left press pauses, Page Up and Page Down go ten seconds back and forth, a right press
+    // changes the pace, R begins again and Esc leaves; a line in the window says so at first and in every pause.
+    Watch(VMain& player, Recording recorded);
     ~Watch();
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;

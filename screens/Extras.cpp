@@ -112,6 +112,7 @@ Element MakeElement(std::string_view name, ElementKind kind, std::string_view te
 }
 
 void AddLines(std::vector<Element>& table, std::span<const Line> lines) {
+    table.reserve(table.size() + lines.size());
     for (const Line& line : lines)
         table.push_back(
             MakeElement(line.name, ElementKind::Label, line.text, line.left, line.top, line.width, kLineHeight - 4));
@@ -119,6 +120,7 @@ void AddLines(std::vector<Element>& table, std::span<const Line> lines) {
 
 std::vector<Element> MakeElements() {
     std::vector<Element> table;
+    table.reserve(kFrames.size() + kChoices.size());
     for (const Frame& frame : kFrames)
         table.push_back(MakeElement(frame.name, ElementKind::GroupFrame, frame.title, frame.left, frame.top,
                                     frame.width, frame.height));
