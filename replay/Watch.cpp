@@ -166,7 +166,7 @@ void Watch::GoTo(std::int64_t newPosition) {
 void Watch::Tick() {
     ++ticks;
     if (!isPaused && !stage->IsOver()) {
-        position = std::min(position + pace * kTick, recording.length);
+        position = std::min(position + std::int64_t{kTick} * pace, recording.length);
         stage->PlayUntil(position, pace == 1);
     }
     Show();

@@ -45,7 +45,8 @@ void MusicFile::Rewind() { Seek(0); }
 
 // The decoder's place is where the block that it has just given begins.
 void MusicFile::StepBack(int samples) {
-    const std::int64_t bytesOfOne = std::int64_t{channels} * sizeof(std::int16_t);
+    constexpr std::int64_t kBytes = sizeof(std::int16_t);
+    const std::int64_t bytesOfOne = channels * kBytes;
     const std::int64_t given = static_cast<std::int64_t>(block.size()) / bytesOfOne;
     std::int64_t place = mpg123_tell(decoder.get()) + given - samples;
     if (place < 0) place += mpg123_length(decoder.get());
