@@ -137,7 +137,7 @@ void Watch::TakeWindow() {
 
 void Watch::Leave() {
     if (!std::exchange(isWatching, false)) return;
-    main.window.on = std::exchange(handlers, {});
+    std::swap(main.window.on, handlers);  // one of those that go may be running
     main.platform.Timers().StopAll();
     for (const TimerName& row : kTimerNames) main.platform.SetTimerInterval(row.timer, IntervalAtStart(row.timer));
     main.platform.SetTickHandler([&player = main](Timer timer) { TickTimer(player, timer); });

@@ -37,7 +37,7 @@ class Watch {
     VMain& main;
     const Recording recording;
     std::unique_ptr<Stage> stage;
-    WindowHandlers handlers;    // of the main window, when nobody watches
+    WindowHandlers handlers;    // of the main window, when nobody watches; afterwards those for watching
     Element place;              // the line where it is otherwise
     std::int64_t position = 0;  // milliseconds of the game that is shown
     std::int64_t ticks = 0;     // since the line was shown
