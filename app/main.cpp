@@ -17,7 +17,7 @@
 #include "backends/sdl/SdlPlatform.h"
 #include "game/MainWindow.h"
 #include "game/VMain.h"
-#include "replay/Watch.h"
+#include "tools/replay/Watch.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "replay/Verify.h"
+#include "tools/replay/Verify.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (prismfall::VerifyRecording({reinterpret_cast<const char*>(data), size}).words.empty()) std::abort();

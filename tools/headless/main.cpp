@@ -13,8 +13,8 @@
 #include <io.h>
 #endif
 
-#include "replay/Verify.h"
 #include "tools/headless/HeadlessDriver.h"
+#include "tools/replay/Verify.h"
 
 namespace {
 

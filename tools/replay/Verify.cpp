@@ -1,11 +1,11 @@
-#include "replay/Verify.h"
+#include "tools/replay/Verify.h"
 
 #include <array>
 #include <cstdio>
 
 #include "backends/headless/HeadlessPlatform.h"
 #include "game/MainWindow.h"
-#include "replay/Replay.h"
+#include "tools/replay/Replay.h"
 
 namespace prismfall {
 

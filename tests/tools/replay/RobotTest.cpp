@@ -10,8 +10,8 @@
 
 #include "game/GameRecorder.h"
 #include "game/MainWindow.h"
-#include "replay/Verify.h"
 #include "tests/support/StallingMachine.h"
+#include "tools/replay/Verify.h"
 
 namespace prismfall {
 namespace {

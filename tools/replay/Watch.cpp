@@ -1,4 +1,4 @@
-#include "replay/Watch.h"
+#include "tools/replay/Watch.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 
 #include "game/MainWindow.h"
 #include "game/Modes.h"
-#include "replay/Replay.h"
+#include "tools/replay/Replay.h"
 
 namespace prismfall {
 

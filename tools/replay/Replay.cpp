@@ -1,4 +1,4 @@
-#include "replay/Replay.h"
+#include "tools/replay/Replay.h"
 
 #include <algorithm>
 
