@@ -4,7 +4,6 @@
 
 #include "backends/web/Imports.h"
 #include "backends/web/WebPlatform.h"
-#include "game/GameRecorder.h"
 #include "game/MainWindow.h"
 #include "game/VMain.h"
 
@@ -40,7 +39,6 @@ __attribute__((export_name("run"))) void Run() {
     prismfall::WebPlatform platform;
     prismfall::VMain main(platform);
     prismfall::MakeMainWindow(main);
-    const prismfall::GameRecorder recorder(main, {});  // the beams of the last game can come again
     machine = &platform;
     platform.Run(main.window);
     machine = nullptr;
