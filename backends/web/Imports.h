@@ -109,7 +109,7 @@ struct RecordSizes {
 
 extern "C" {
 
-// --- Time. Waiting is the one call in which the program stands still and the page goes on.
+// --- Time. Waiting is the one call in which the program is suspended and the page goes on.
 
 // Milliseconds from some fixed moment; never runs backwards.
 PAGE_IMPORT("now") double Now();

@@ -1,6 +1,7 @@
 // A thread that sleeps until a signal arrives. A signal handler could not do this: pushing an event takes a lock, and a
-// flag alone would not wake the loop. Only a main thread that hangs is met by a handler. It is found waiting for the
-// display, where no lock is held that saving needs; if one is held all the same, the signal's own effect is left.
+// flag alone would not wake the loop. Only a main thread that hangs is interrupted by a handler. It is found waiting
+// for the display, where no lock is held that saving needs; if one is held all the same, the signal's own effect is
+// left.
 #include "backends/sdl/desktop/SignalWatch.h"
 
 #include <SDL.h>

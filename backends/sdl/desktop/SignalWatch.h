@@ -1,5 +1,5 @@
 // Turns the signals that ask a program to end into an event of the event loop, so that the game can end in good order,
-// and sees to it that the game ends though its main thread hangs. Signals that were ignored when the program was
+// and makes sure that the game ends even if its main thread hangs. Signals that were ignored when the program was
 // started, as by nohup, stay ignored.
 #pragma once
 
