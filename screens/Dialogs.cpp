@@ -8,6 +8,13 @@
 
 namespace prismfall {
 
+namespace {
+
+constexpr float kFramePoints = 12;
+constexpr float kOptionPoints = 9.75F;
+
+}  // namespace
+
 void ResetFaces(Window& window) {
     for (Element* element : window.elements)
         if (element->kind == ElementKind::Button) element->picture = element->faces.up;
@@ -25,6 +32,20 @@ Element MakeOkButton(std::string_view name, int left, int top, int width, int he
     Element button = MakeButton(name, left, top, width, height, faces, "OK");
     button.shortcut = Key::Enter;
     return button;
+}
+
+Element MakeOption(std::string_view name, ElementKind kind, int left, int top, int width, int height,
+                   std::string text) {
+    return {.name = name,
+            .kind = kind,
+            .left = static_cast<float>(left),
+            .top = static_cast<float>(top),
+            .width = width,
+            .height = height,
+            .text = std::move(text),
+            .colour = kPaleYellow,
+            .ground = kBlack,
+            .font = {.points = kind == ElementKind::GroupFrame ? kFramePoints : kOptionPoints}};
 }
 
 std::unique_ptr<Window> MakeDialog(const Audio& audio, std::string_view name, std::string_view title, Extent inner,

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -35,6 +36,9 @@ struct DialogHost {
     const Window& mainWindow;
     const Audio& audio;
 };
+
+// A label, a check box, a radio button or the frame around some of them, in the look that they share.
+Element MakeOption(std::string_view name, ElementKind kind, int left, int top, int width, int height, std::string text);
 
 // What a click on an element of a dialog does.
 struct DialogClick {

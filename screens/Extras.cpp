@@ -9,8 +9,6 @@ namespace prismfall {
 namespace {
 
 constexpr Extent kInner{545, 424};
-constexpr float kFramePoints = 12;
-constexpr float kPoints = 9.75F;
 constexpr int kLineHeight = 22;
 
 // A frame around a group of choices, or of lines.
@@ -97,37 +95,23 @@ constexpr std::array<Line, 3> kPadLines = {{
     {"PadOthers", "Start: pause, shoulders: turn pages", 290, 330, 240},
 }};
 
-Element MakeElement(std::string_view name, ElementKind kind, std::string_view text, int left, int top, int width,
-                    int height) {
-    return {.name = name,
-            .kind = kind,
-            .left = static_cast<float>(left),
-            .top = static_cast<float>(top),
-            .width = width,
-            .height = height,
-            .text = std::string(text),
-            .colour = kPaleYellow,
-            .ground = kBlack,
-            .font = {.points = kind == ElementKind::GroupFrame ? kFramePoints : kPoints}};
-}
-
 void AddLines(std::vector<Element>& table, std::span<const Line> lines) {
     table.reserve(table.size() + lines.size());
     for (const Line& line : lines)
-        table.push_back(
-            MakeElement(line.name, ElementKind::Label, line.text, line.left, line.top, line.width, kLineHeight - 4));
+        table.push_back(MakeOption(line.name, ElementKind::Label, line.left, line.top, line.width, kLineHeight - 4,
+                                   std::string(line.text)));
 }
 
 std::vector<Element> MakeElements() {
     std::vector<Element> table;
     table.reserve(kFrames.size() + kChoices.size());
     for (const Frame& frame : kFrames)
-        table.push_back(MakeElement(frame.name, ElementKind::GroupFrame, frame.title, frame.left, frame.top,
-                                    frame.width, frame.height));
+        table.push_back(MakeOption(frame.name, ElementKind::GroupFrame, frame.left, frame.top, frame.width,
+                                   frame.height, std::string(frame.title)));
     for (const Choice& choice : kChoices) {
         const ElementKind kind = choice.group.empty() ? ElementKind::CheckBox : ElementKind::RadioButton;
-        table.push_back(
-            MakeElement(choice.name, kind, choice.text, choice.left, choice.top, choice.width, kLineHeight));
+        table.push_back(MakeOption(choice.name, kind, choice.left, choice.top, choice.width, kLineHeight,
+                                   std::string(choice.text)));
         table.back().group = choice.group;
     }
     AddLines(table, kLines);

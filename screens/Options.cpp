@@ -15,9 +15,6 @@ constexpr std::array<std::string_view, 10> kLevelOptions = {"Option1", "Option2"
 constexpr int kFirstOptionY = 40;
 constexpr int kOptionStep = 24;
 
-constexpr float kFramePoints = 12;
-constexpr float kOptionPoints = 9.75F;
-
 // The OK button.
 void ApplyLevel(Window& dialog, Settings& settings) {
     for (std::size_t i = 0; i < kLevelOptions.size(); ++i) {
@@ -35,31 +32,17 @@ void SelectOption(Window& dialog, std::string_view option) {
 // Whether it is checked now.
 bool Toggle(Element& box) { return box.checked = !box.checked; }
 
-Element MakeElement(std::string_view name, ElementKind kind, int left, int top, int width, int height,
-                    std::string text) {
-    return {.name = name,
-            .kind = kind,
-            .left = static_cast<float>(left),
-            .top = static_cast<float>(top),
-            .width = width,
-            .height = height,
-            .text = std::move(text),
-            .colour = kPaleYellow,
-            .ground = kBlack,
-            .font = {.points = kind == ElementKind::GroupFrame ? kFramePoints : kOptionPoints}};
-}
-
 std::vector<Element> MakeElements() {
-    std::vector<Element> table = {MakeElement("Frame1", ElementKind::GroupFrame, 21, 16, 89, 265, "Start Level")};
+    std::vector<Element> table = {MakeOption("Frame1", ElementKind::GroupFrame, 21, 16, 89, 265, "Start Level")};
     for (std::size_t i = 0; i < kLevelOptions.size(); ++i) {
-        table.push_back(MakeElement(kLevelOptions[i], ElementKind::RadioButton, 29,
-                                    kFirstOptionY + kOptionStep * static_cast<int>(i), 65, 17,
-                                    "Level " + std::to_string(i + 1)));
+        table.push_back(MakeOption(kLevelOptions[i], ElementKind::RadioButton, 29,
+                                   kFirstOptionY + kOptionStep * static_cast<int>(i), 65, 17,
+                                   "Level " + std::to_string(i + 1)));
         table.back().group = "Start Level";
     }
-    table.push_back(MakeElement("Frame2", ElementKind::GroupFrame, 135, 17, 82, 83, "Sound"));
-    table.push_back(MakeElement("CheckSoundEffects", ElementKind::CheckBox, 144, 32, 63, 38, "Effects"));
-    table.push_back(MakeElement("CheckMusic", ElementKind::CheckBox, 144, 56, 63, 41, "Music"));
+    table.push_back(MakeOption("Frame2", ElementKind::GroupFrame, 135, 17, 82, 83, "Sound"));
+    table.push_back(MakeOption("CheckSoundEffects", ElementKind::CheckBox, 144, 32, 63, 38, "Effects"));
+    table.push_back(MakeOption("CheckMusic", ElementKind::CheckBox, 144, 56, 63, 41, "Music"));
     table.push_back(MakeOkButton("Command1", 142, 238, 73, 49, {"OKOptionsUp", "OKOptionsDown"}));
     return table;
 }
