@@ -91,6 +91,12 @@ export class Game {
         return this.page.evaluate(read);
     }
 
+    async untilPainted(hash) {
+        for (const end = Date.now() + PATIENCE; Date.now() < end; await sleep(50))
+            if ((await this.surface()) === hash) return;
+        assert.equal(await this.surface(), hash);
+    }
+
     async untilMoved() {
         const before = await this.surface();
         for (const end = Date.now() + PATIENCE; Date.now() < end; await sleep(50))

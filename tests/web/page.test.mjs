@@ -37,11 +37,11 @@ test('a first run shows the manual and leads through the tutorial', async () => 
 
 test('the canvas shows what the native game paints', async () => {
     await shows('Beginner');
-    assert.equal(await game.surface(), painted('click CommandPuzzle'));
+    await game.untilPainted(painted('click CommandPuzzle'));
     await game.press(345, 300);
     await game.until('puzzle 5', () => /Puzzle 5/.test(document.getElementById('picture').textContent));
     await page.move(...(await game.at(740, 180)));
-    assert.equal(await game.surface(), painted('puzzle 5'));
+    await game.untilPainted(painted('puzzle 5'));
     await page.key('Escape');
 });
 

@@ -69,7 +69,7 @@ async function start(): Promise<void> {
     const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, focus, end };
     const button = (id: string) => find(id, HTMLButtonElement);
     connectControls(input, keys, button('right'), button('extras'), button('full'));
-    connectPads();
+    connectPads(() => keys.areForField);
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {

@@ -23,15 +23,29 @@ const buttons: Readonly<Record<number, string>> = {
 
 const steps: Readonly<Record<string, number>> = { ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 };
 
+// Some browsers look for gamepads all the time while a page wants to know of them, which costs as much as a slow game. During a
+// game without one the page wants to know it for one second in ten.
+const second = 1000; // milliseconds
+const restInGame = 10; // seconds
+
 let isWatching = false;
 let pressed = new Set<string>();
 let stick = '';
 
-export function connectPads(): void {
-    addEventListener('gamepadconnected', () => {
-        if (!isWatching) requestAnimationFrame(watch);
-        isWatching = true;
-    });
+export function connectPads(isInGame: () => boolean): void {
+    let seconds = 0;
+    const lookOut = () => {
+        const rests = isInGame() && !isWatching && seconds++ % restInGame !== 0;
+        if (rests) removeEventListener('gamepadconnected', startWatching);
+        else addEventListener('gamepadconnected', startWatching);
+    };
+    lookOut();
+    setInterval(lookOut, second);
+}
+
+function startWatching(): void {
+    if (!isWatching) requestAnimationFrame(watch);
+    isWatching = true;
 }
 
 function watch(): void {

@@ -78,7 +78,7 @@ export class Surface {
         const canvas = add(this.node, make('canvas'));
         Object.assign(canvas, { width, height });
         Object.assign(canvas.style, { left: `${left}px`, top: `${top}px` });
-        const context = canvas.getContext('2d', { alpha, willReadFrequently: true });
+        const context = canvas.getContext('2d', { alpha, willReadFrequently: true, desynchronized: true });
         if (!alpha) context?.fillRect(0, 0, width, height);
         return context;
     }
