@@ -7,7 +7,7 @@ import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } f
 import { dirname, join, relative } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { build } from 'esbuild';
-import { makePictures } from './pictures.mjs';
+import { makeIcons, makePictures } from './pictures.mjs';
 
 const here = dirname(fileURLToPath(import.meta.url));
 const root = join(here, '../../..');
@@ -71,6 +71,7 @@ copy(join(root, 'assets/sounds'), join(staged, 'sounds'), '.wav');
 copy(here, staged, '.css');
 const folder = `version-${hashOf([staged, join(here, 'source'), join(here, 'worker')])}`;
 copy(join(root, 'packaging/icons'), join(output, 'icons'), '.png');
+await makeIcons(join(root, 'packaging/icons'), join(output, 'icons'), kept);
 copy(here, output, '.webmanifest');
 
 writeFileSync(join(output, 'index.html'), await page(folder));
@@ -88,7 +89,7 @@ const known = {
     music,
     tracks,
     sounds,
-    files: [...files, 'manifest.webmanifest', 'icons/64.png', 'icons/256.png'],
+    files: [...files, 'manifest.webmanifest', 'icons/64.png', 'icons/256.webp'],
 };
 await script('main.ts', `${folder}/page.js`, known);
 await script('../worker/service-worker.ts', 'service-worker.js', known);

@@ -44,3 +44,12 @@ export async function makePictures(from, to, isDouble, kept) {
     };
     await Promise.all(Array.from({ length: availableParallelism() }, makeOthers));
 }
+
+/** The icons as WebP, for an installed page. */
+export async function makeIcons(from, to, kept) {
+    mkdirSync(to, { recursive: true });
+    const icons = readdirSync(from).filter((file) => file.endsWith('.png'));
+    const make = async (file) =>
+        copyFileSync(await encode(join(from, file), nearly, kept), join(to, basename(file, '.png') + '.webp'));
+    await Promise.all(icons.map(make));
+}
