@@ -154,6 +154,30 @@ test('screen readers meet no obstacle', async () => {
     assert.deepEqual(game.page.faults, []);
 });
 
+test('where the player’s own colours replace the page’s, marks are still seen', async () => {
+    const game = await openGame();
+    const { page } = game.page;
+    const client = await page.createCDPSession();
+    await client.send('Emulation.setEmulatedMedia', { features: [{ name: 'forced-colors', value: 'active' }] });
+    await game.click('Options');
+    await game.dialog('Options');
+    const look = async (node) => Buffer.from(await node.screenshot()).toString('base64');
+    for (const kind of ['radio', 'checkbox']) {
+        const choice = await page.$(`[type=${kind}]:checked`);
+        const marked = await look(choice);
+        await choice.evaluate((node) => (node.checked = false));
+        assert.notEqual(await look(choice), marked, kind);
+    }
+    const box = await page.$('.close');
+    const shown = await look(box);
+    await page.evaluate(() => {
+        const without = new CSSStyleSheet();
+        without.replaceSync('.close::before, .close::after { display: none; }');
+        document.adoptedStyleSheets = [without];
+    });
+    assert.notEqual(await look(box), shown, 'the close mark');
+});
+
 test('fingers on a phone press both buttons', async () => {
     const game = await openGame({ size: [390, 780], deviceScaleFactor: 3, hasTouch: true, isMobile: true });
     const touch = game.page.page.touchscreen;
