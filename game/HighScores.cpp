@@ -90,6 +90,7 @@ void FillRows(Window& dialog, const ScoreTable& scores) {
 }  // namespace
 
 void SaveScore(VMain& main) {
+    if (main.IsPlayedOn) return;
     if (main.EntersTable) return EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level});
     main.HighScore = main.settings.Scores.front().score;
     ShowNumber(main.VHighScore, main.HighScore);

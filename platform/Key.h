@@ -18,6 +18,7 @@ enum class Key : std::int16_t {
     Up = 38,
     Right = 39,
     Down = 40,
+    G = 'G',
     M = 'M',
     P = 'P',
     R = 'R',

@@ -22,7 +22,7 @@ struct KeyRow {
     Key key;
 };
 
-constexpr std::array<KeyRow, 15> kKeys = {{{SDLK_TAB, Key::Tab},
+constexpr std::array<KeyRow, 16> kKeys = {{{SDLK_TAB, Key::Tab},
                                            {SDLK_RETURN, Key::Enter},
                                            {SDLK_KP_ENTER, Key::Enter},
                                            {SDLK_SPACE, Key::Space},
@@ -33,6 +33,7 @@ constexpr std::array<KeyRow, 15> kKeys = {{{SDLK_TAB, Key::Tab},
                                            {SDLK_UP, Key::Up},
                                            {SDLK_RIGHT, Key::Right},
                                            {SDLK_DOWN, Key::Down},
+                                           {SDLK_g, Key::G},
                                            {SDLK_m, Key::M},
                                            {SDLK_p, Key::P},
                                            {SDLK_r, Key::R},
