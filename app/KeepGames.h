@@ -1,7 +1,7 @@
 // Keeps a recording of every game that was played: the last twenty, and those of the score table.
 #pragma once
 
-#include "backends/sdl/settings/RecordingFolder.h"
+#include "backends/sdl/recordings/RecordingFolder.h"
 #include "game/GameRecorder.h"
 
 namespace prismfall {

@@ -1,4 +1,4 @@
-#include "backends/sdl/settings/RecordingFolder.h"
+#include "backends/sdl/recordings/RecordingFolder.h"
 
 #include <algorithm>
 #include <array>
