@@ -5,7 +5,6 @@
 #include <array>
 #include <filesystem>
 #include <iostream>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,10 +12,10 @@
 
 #include "app/KeepGames.h"
 #include "app/ReadGame.h"
+#include "app/RecordedGames.h"
 #include "backends/sdl/SdlPlatform.h"
 #include "game/MainWindow.h"
 #include "game/VMain.h"
-#include "tools/replay/Watch.h"
 
 namespace {
 
@@ -44,8 +43,8 @@ fs::path FindPictures() {
 
 struct Wishes {
     bool areGood = true;
-    bool mustWatch = false;  // without a game to watch there is nothing to do
-    std::string watched;     // a file or a link
+    bool mustWatch = false;    // without a game to watch there is nothing to do
+    std::string watched = {};  // a file or a link
 };
 
 Wishes WishesIn(std::span<char* const> arguments) {
@@ -80,7 +79,11 @@ int main(int count, char** words) {
     const prismfall::RecordingFolder folder(prismfall::RecordingFolder::UsersFolder());
     const prismfall::GameRecorder recorder(
         main, [&](const prismfall::PlayedGame& game) { prismfall::KeepGame(folder, main, game); });
-    std::optional<prismfall::Watch> watch;
-    if (!watched.text.empty() && fault.empty()) watch.emplace(main, std::move(watched));
+    prismfall::RecordedGames games(*platform, main, folder);
+    if (!fault.empty()) {
+        prismfall::SdlPlatform::Drop(wishes.watched);  // which says so in a box
+    } else if (!wishes.watched.empty()) {
+        games.Watch(std::move(watched));
+    }
     platform->Run(main.window);
 }

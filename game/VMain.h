@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -63,6 +64,9 @@ struct VMain : MainElements, GameNumbers {
     std::optional<std::uint64_t> ArcadeSeed;  // of the last Arcade game that was given one
     bool EntersTable = true;                  // the score of the game that is played may enter the table
     bool IsPlayedOn = false;                  // that game was taken over from a recording: nothing of it is kept
+
+    // Watches the game of a row of the score table; whether it is kept. Empty where no games are kept.
+    std::function<bool(const ScoreRow& row)> watchScore;
 
     // --- The dialogs, each built on first use.
     std::unique_ptr<Window> VHighScore2;

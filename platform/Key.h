@@ -23,6 +23,7 @@ enum class Key : std::int16_t {
     P = 'P',
     R = 'R',
     F1 = 112,
+    F2 = 113,
     ShiftTab = 265,
 };
 
