@@ -20,19 +20,27 @@ std::string TitleOf(const PlayedGame& game) {
     return "Puzzle " + std::to_string(game.puzzle) + ending;
 }
 
-bool IsInTable(const ScoreTable& scores, std::string_view name) {
-    return std::ranges::any_of(scores, [name](const ScoreRow& row) {
-        return row.score > 0 && name.find(ArcadeTitle(row.score, row.endLevel) + '.') != std::string_view::npos;
-    });
+}  // namespace
+
+std::optional<ArcadeResult> ParseArcadeTitle(std::string_view title) {
+    ArcadeResult result;
+    const std::string words(title);
+    if (std::sscanf(words.c_str(), "Arcade %hd points level %hd", &result.score, &result.level) != 2)
+        return std::nullopt;
+    return result;
 }
 
-}  // namespace
+bool IsGameOf(const ScoreRow& row, std::string_view name) {
+    return row.score > 0 && name.find(ArcadeTitle(row.score, row.endLevel) + '.') != std::string_view::npos;
+}
 
 void KeepGame(const RecordingFolder& folder, const VMain& main, const PlayedGame& game) {
     if (game.length < kShortest) return;
     const std::string failure = folder.Keep(TitleOf(game), game.recording);
     if (!failure.empty()) std::fprintf(stderr, "prismfall: the game is not kept: %s\n", failure.c_str());
-    folder.Prune(kGamesKept, [&main](std::string_view name) { return IsInTable(main.settings.Scores, name); });
+    folder.Prune(kGamesKept, [&main](std::string_view name) {
+        return std::ranges::any_of(main.settings.Scores, [name](const ScoreRow& row) { return IsGameOf(row, name); });
+    });
 }
 
 }  // namespace prismfall

@@ -1,12 +1,26 @@
 // Keeps a recording of every game that was played: the last twenty, and those of the score table.
 #pragma once
 
-#include "backends/sdl/settings/RecordingFolder.h"
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "backends/sdl/recordings/RecordingFolder.h"
 #include "game/GameRecorder.h"
 
 namespace prismfall {
 
 // A folder that cannot be written costs a recording and nothing else: one line on standard error says why.
 void KeepGame(const RecordingFolder& folder, const VMain& main, const PlayedGame& game);
+
+// What the title of a kept Arcade game says; nothing for other titles.
+struct ArcadeResult {
+    std::int16_t score = 0;
+    std::int16_t level = 0;
+};
+std::optional<ArcadeResult> ParseArcadeTitle(std::string_view title);
+
+// Whether a file of that name holds the game of a row of the score table.
+bool IsGameOf(const ScoreRow& row, std::string_view name);
 
 }  // namespace prismfall

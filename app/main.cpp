@@ -1,23 +1,21 @@
-// The game: connects the desktop backend and the game's state and runs. It takes no command-line arguments.
+// The game: connects the desktop backend and the game's state and runs. Its one argument is a recorded game to watch.
 #include <SDL_filesystem.h>
 #include <SDL_stdinc.h>
 
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "app/KeepGames.h"
+#include "app/ReadGame.h"
+#include "app/RecordedGames.h"
 #include "backends/sdl/SdlPlatform.h"
 #include "game/MainWindow.h"
 #include "game/VMain.h"
-#include "tools/replay/Watch.h"
 
 namespace {
 
@@ -43,34 +41,33 @@ fs::path FindPictures() {
     return folder / kPictureFolders.front();
 }
 
-// What cannot be watched is told on standard error.
-std::optional<prismfall::Recording> ReadRecordingFile(const char* name) {
-    std::ifstream file(name, std::ios::binary);
-    const std::string text(std::istreambuf_iterator<char>(file), {});
-    prismfall::Recording recording;
-    const auto fault = prismfall::ReadRecording(text, recording);
-    if (file && !fault) return recording;
-    std::cerr << name << ": ";
-    if (file) {
-        std::cerr << "line " << fault->line << ": " << fault->reason << '\n';
-    } else {
-        std::cerr << "the file cannot be read\n";
-    }
-    return std::nullopt;
+struct Wishes {
+    bool areGood = true;
+    bool mustWatch = false;    // without a game to watch there is nothing to do
+    std::string watched = {};  // a file or a link
+};
+
+Wishes WishesIn(std::span<char* const> arguments) {
+    if (arguments.size() == 1) return {};
+    const bool isOption = std::string_view(arguments[1]) == "--watch";
+    if (arguments.size() == 3 && isOption) return {.mustWatch = true, .watched = arguments[2]};
+    if (arguments.size() == 2 && arguments[1][0] != '-') return {.watched = arguments[1]};
+    return {.areGood = false};
 }
 
 }  // namespace
 
 int main(int count, char** words) {
-    const std::span<char* const> arguments(words, static_cast<std::size_t>(count));
-    std::optional<prismfall::Recording> watched;
-    if (arguments.size() == 3 && std::string_view(arguments[1]) == "--watch") {
-        watched = ReadRecordingFile(arguments[2]);
-        if (!watched) return 1;
-    } else if (arguments.size() > 1) {
-        std::cerr << "usage: prismfall [--watch FILE]\n";
+    const Wishes wishes = WishesIn({words, static_cast<std::size_t>(count)});
+    if (!wishes.areGood) {
+        std::cerr << "usage: prismfall [[--watch] FILE-OR-LINK]\n";
         return 1;
     }
+    prismfall::Recording watched;
+    std::string fault;
+    if (!wishes.watched.empty()) fault = prismfall::ReadGame(wishes.watched, watched);
+    if (!fault.empty()) std::cerr << fault << '\n';
+    if (!fault.empty() && wishes.mustWatch) return 1;
     std::string failure;
     const auto platform = prismfall::SdlPlatform::Create(FindPictures(), failure);
     if (!platform) {
@@ -82,7 +79,11 @@ int main(int count, char** words) {
     const prismfall::RecordingFolder folder(prismfall::RecordingFolder::UsersFolder());
     const prismfall::GameRecorder recorder(
         main, [&](const prismfall::PlayedGame& game) { prismfall::KeepGame(folder, main, game); });
-    std::optional<prismfall::Watch> watch;
-    if (watched) watch.emplace(main, std::move(*watched));
+    prismfall::RecordedGames games(*platform, main, folder);
+    if (!fault.empty()) {
+        prismfall::SdlPlatform::Drop(wishes.watched);  // which says so in a box
+    } else if (!wishes.watched.empty()) {
+        games.Watch(std::move(watched));
+    }
     platform->Run(main.window);
 }

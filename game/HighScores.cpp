@@ -1,9 +1,11 @@
 #include "game/HighScores.h"
 
 #include <array>
+#include <functional>
 #include <string>
 #include <utility>
 
+#include "game/Modes.h"
 #include "game/PuzzleMenu.h"
 
 namespace prismfall {
@@ -79,6 +81,20 @@ void MakeHighScores(VMain& main) {
     main.VHighScore2->hasIcon = true;
 }
 
+// Not while a game is in progress: it would be left.
+bool MayWatch(const VMain& main) {
+    return main.watchScore && (!RowOf(main.GameMode).isGame || !main.window.takesInput);
+}
+
+// A press on a row.
+void WatchRow(VMain& main, float y) {
+    for (std::size_t row = 0; row < kScoreRows; ++row) {
+        const float below = y - static_cast<float>(kRowY[row]);
+        if (below < 0 || below >= kRowHeight || !main.watchScore(main.settings.Scores[row])) continue;
+        main.VHighScore2->Hide();
+    }
+}
+
 void FillRows(Window& dialog, const ScoreTable& scores) {
     for (std::size_t row = 0; row < kScoreRows; ++row) {
         ShowNumber(dialog[kScoreNames[row]], scores[row].score);
@@ -90,6 +106,7 @@ void FillRows(Window& dialog, const ScoreTable& scores) {
 }  // namespace
 
 void SaveScore(VMain& main) {
+    if (main.IsPlayedOn) return;
     if (main.EntersTable) return EnterGame(main.settings, {main.Score, main.GameStartLevel, main.Level});
     main.HighScore = main.settings.Scores.front().score;
     ShowNumber(main.VHighScore, main.HighScore);
@@ -98,6 +115,9 @@ void SaveScore(VMain& main) {
 void ShowHighScores(VMain& main) {
     if (!main.VHighScore2) MakeHighScores(main);
     FillRows(*main.VHighScore2, main.settings.Scores);
+    std::function<void(MouseButton, float, float)> press;
+    if (MayWatch(main)) press = [&main](MouseButton, float, float y) { WatchRow(main, y); };
+    main.VHighScore2->on.mouseDown = press;
     ShowDialog(main.dialogs, main.VHighScore2);
 }
 

@@ -46,6 +46,7 @@ void ApplyExtras(const VMain& main) {
 }
 
 void BeginAtPace(VMain& main) {
+    main.IsPlayedOn = false;
     main.EntersTable = main.settings.extras.Pace == kFullPace;
     main.platform.SetPace(main.settings.extras.Pace);
 }

@@ -12,7 +12,7 @@ namespace {
 void EndSolvedPuzzle(VMain& main) {
     main.log->Ends(main, GameEnding::Solved);
     StopGameTimers(main);
-    if (RowOf(main.GameMode).marksSolved)
+    if (RowOf(main.GameMode).marksSolved && !main.IsPlayedOn)
         main.settings.SolvedPuzzles[static_cast<std::size_t>(main.CurrentPuzzle) - 1] = true;
     main.TutorialActive = false;
     ShowPuzzleResult(main, true);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -18,7 +19,34 @@
 
 namespace prismfall {
 
-struct VMain : MainElements {
+// The game in progress in numbers, and what it leaves for the next one.
+struct GameNumbers {
+    Mode GameMode = Mode::MainMenu;  // changed only by EnterMode
+    bool GameRunning = false;
+    bool PuzzleWaiting = false;  // a puzzle is laid out and waits for CmdStart
+    bool TutorialActive = false;
+    std::int16_t TutorialStep = 0;  // the tutorial picture that is shown, 0 for none
+    float LastClickX = 0;           // of the last press, game pixels
+    float LastClickY = 0;
+
+    std::int16_t Score = 0;
+    std::int16_t HighScore = 0;
+    std::int16_t Level = 1;
+    std::int16_t LevelLineCount = 0;  // collisions since the last level rise
+    std::int16_t GameStartLevel = 0;
+
+    std::int16_t CurrentPuzzle = 1;  // 1 to kPuzzleCount
+    std::int16_t PuzzlePage = 1;     // of the puzzle menu, 1 to kPageCount
+
+    // --- The pop-up of a collision of several beams.
+    BeamColor MultiColor = BeamColor::Blue;  // of the last collision in a growth tick, of several beams or not
+    Heading MultiDirection = Heading::Leftwards;
+    std::int16_t MultiTicks = 0;  // since it appeared
+
+    std::int16_t SweepY = 0;  // lower edge of the grey band at a game's end
+};
+
+struct VMain : MainElements, GameNumbers {
     explicit VMain(Platform& machine)
         : platform(machine),
           field(machine, machine),
@@ -33,32 +61,12 @@ struct VMain : MainElements {
     DialogHost dialogs;
     GameLog* log = &noGameLog;
 
-    // --- The game in progress.
-    Mode GameMode = Mode::MainMenu;  // changed only by EnterMode
-    bool GameRunning = false;
-    bool PuzzleWaiting = false;  // a puzzle is laid out and waits for CmdStart
-    bool TutorialActive = false;
-    std::int16_t TutorialStep = 0;  // the tutorial picture that is shown, 0 for none
-    float LastClickX = 0;           // of the last press, game pixels
-    float LastClickY = 0;
-
-    std::int16_t Score = 0;
-    std::int16_t HighScore = 0;
-    std::int16_t Level = 1;
-    std::int16_t LevelLineCount = 0;  // collisions since the last level rise
-    std::int16_t GameStartLevel = 0;
     std::optional<std::uint64_t> ArcadeSeed;  // of the last Arcade game that was given one
     bool EntersTable = true;                  // the score of the game that is played may enter the table
+    bool IsPlayedOn = false;                  // that game was taken over from a recording: nothing of it is kept
 
-    std::int16_t CurrentPuzzle = 1;  // 1 to kPuzzleCount
-    std::int16_t PuzzlePage = 1;     // of the puzzle menu, 1 to kPageCount
-
-    // --- The pop-up of a collision of several beams.
-    BeamColor MultiColor = BeamColor::Blue;  // of the last collision in a growth tick, of several beams or not
-    Heading MultiDirection = Heading::Leftwards;
-    std::int16_t MultiTicks = 0;  // since it appeared
-
-    std::int16_t SweepY = 0;  // lower edge of the grey band at a game's end
+    // Watches the game of a row of the score table; whether it is kept. Empty where no games are kept.
+    std::function<bool(const ScoreRow& row)> watchScore;
 
     // --- The dialogs, each built on first use.
     std::unique_ptr<Window> VHighScore2;

@@ -18,10 +18,12 @@ enum class Key : std::int16_t {
     Up = 38,
     Right = 39,
     Down = 40,
+    G = 'G',
     M = 'M',
     P = 'P',
     R = 'R',
     F1 = 112,
+    F2 = 113,
     ShiftTab = 265,
 };
 

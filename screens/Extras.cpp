@@ -83,8 +83,8 @@ constexpr std::array<Line, 23> kLines = {{
     {"KeyMDo", "mutes", 376, 164, 156},
     {"KeyEsc", "Esc", 290, 186, 84},
     {"KeyEscDo", "goes back", 376, 186, 156},
-    {"KeyOthers", "F1, F11", 290, 208, 84},
-    {"KeyOthersDo", "this window, full screen", 376, 208, 156},
+    {"KeyOthers", "F1, F2, F11", 290, 208, 84},
+    {"KeyOthersDo", "extras, games, full screen", 376, 208, 156},
     {"KeyQuit", "Ctrl+Q", 290, 230, 84},
     {"KeyQuitDo", "ends the program", 376, 230, 156},
 }};

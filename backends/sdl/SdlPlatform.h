@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -27,6 +28,11 @@ class SdlPlatform final : public Platform {
 
     // Shows the main window and lets events run until the program ends.
     [[noreturn]] void Run(Window& main);
+
+    // See SdlDesktop.h.
+    void WhenDropped(std::function<void(const std::string& dropped)> act) { desktop.WhenDropped(std::move(act)); }
+    // The same happens as if the player dropped that, once the running handlers have returned.
+    static void Drop(const std::string& dropped);
 
     void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
     void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override;

@@ -1,13 +1,21 @@
-// Recordings come from strangers: any text is refused or played, without a crash, and within the time that -timeout
-// gives.
+// Recordings come from strangers, and so do links to them: anything is refused or played, without a crash, and within
+// the time that -timeout gives.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
 
+#include "backends/sdl/recordings/RecordingLink.h"
+#include "recording/Recording.h"
 #include "tools/replay/Verify.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (prismfall::VerifyRecording({reinterpret_cast<const char*>(data), size}).words.empty()) std::abort();
+    using namespace prismfall;
+    const std::string_view input(reinterpret_cast<const char*>(data), size);
+    LinkContents contents{.text = std::string(input)};
+    if (IsRecordingLink(input)) contents = ReadRecordingLink(input, kMostRecordedBytes + 1);
+    if (!contents.fault.empty()) return 0;
+    if (VerifyRecording(contents.text).words.empty()) std::abort();
+    if (ReadRecordingLink(LinkTo({}, contents.text), contents.text.size() + 1).text != contents.text) std::abort();
     return 0;
 }

@@ -50,7 +50,7 @@ struct KeyName {
     Key key;
 };
 
-constexpr std::array<KeyName, 14> kKeys = {{{"Left", Key::Left},
+constexpr std::array<KeyName, 15> kKeys = {{{"Left", Key::Left},
                                             {"Right", Key::Right},
                                             {"Up", Key::Up},
                                             {"Down", Key::Down},
@@ -62,6 +62,7 @@ constexpr std::array<KeyName, 14> kKeys = {{{"Left", Key::Left},
                                             {"PageDown", Key::PageDown},
                                             {"P", Key::P},
                                             {"R", Key::R},
+                                            {"G", Key::G},
                                             {"M", Key::M},
                                             {"F1", Key::F1}}};
 

@@ -8,6 +8,8 @@
 
 #include "game/MainWindow.h"
 #include "game/Modes.h"
+#include "game/Takeover.h"
+#include "screens/PlayOn.h"
 #include "tools/replay/Replay.h"
 
 namespace prismfall {
@@ -18,6 +20,7 @@ constexpr int kTick = 10;                 // milliseconds
 constexpr std::int64_t kStep = 10'000;    // milliseconds, back and forth
 constexpr std::int64_t kLineTicks = 800;  // how long the line about keys stays
 constexpr int kFastest = 8;
+constexpr int kFullPace = 100;  // percent, of game time
 
 // Of the line: at the foot of the playfield, game pixels.
 constexpr float kLineLeft = 30;
@@ -82,14 +85,10 @@ class Watch::Stage {
 
     // Makes the elements of the player's window look like those of the game.
     void Mirror(VMain& player) {
-        if (!machine.isSeen) return;
-        for (std::size_t i = 0; i < game.window.elements.size(); ++i) {
-            Element& shown = *player.window.elements[i];
-            const Element* const panel = shown.panel;
-            shown = *game.window.elements[i];
-            shown.panel = panel;
-        }
+        if (machine.isSeen) ShowSameElements(player, game);
     }
+
+    VMain& Game() { return game; }
 
   private:
     void Load(const VMain& player) {
@@ -112,15 +111,20 @@ Watch::Watch(VMain& player, Recording recorded) : main(player), recording(std::m
     Show();
 }
 
-Watch::~Watch() { Leave(); }
+Watch::~Watch() {
+    Leave();
+    if (log != nullptr) EndPlayedOn();
+}
 
 void Watch::TakeWindow() {
     handlers = std::exchange(main.window.on, {});
-    place = main.LabelPace;
+    for (const Element* element : main.window.elements) elements.push_back(*element);
+    numbers = main;
     WindowHandlers& on = main.window.on;
     on.queryUnload = handlers.queryUnload;
     on.unload = handlers.unload;
     on.mouseDown = [this](MouseButton button, float, float) { Press(button); };
+    on.doubleClick = [this] { PlayOn(); };
     on.keyDown = [this](std::int16_t) { Leave(); };  // Esc is the only key that comes this way
     on.command = [this](Key key) { Command(key); };
     on.elementClick = [this](const Element& element) {
@@ -130,21 +134,53 @@ void Watch::TakeWindow() {
     };
     TimerWheel& timers = main.platform.Timers();
     timers.StopAll();
+    main.platform.SetPace(kFullPace);
     main.platform.SetTickHandler([this](Timer) { Tick(); });
     main.platform.SetTimerInterval(Timer::LineExtender, kTick);
     main.platform.StartTimer(Timer::LineExtender);
 }
 
-void Watch::Leave() {
-    if (!std::exchange(isWatching, false)) return;
+bool Watch::GiveBack() {
+    if (!std::exchange(isWatching, false)) return false;
     std::swap(main.window.on, handlers);  // one of those that go may be running
     main.platform.Timers().StopAll();
     for (const TimerName& row : kTimerNames) main.platform.SetTimerInterval(row.timer, IntervalAtStart(row.timer));
     main.platform.SetTickHandler([&player = main](Timer timer) { TickTimer(player, timer); });
+    for (std::size_t i = 0; i < elements.size(); ++i) *main.window.elements[i] = elements[i];
+    return true;
+}
+
+void Watch::Leave() {
+    if (!GiveBack()) return;
     EnterScreen(main, Mode::MainMenu);
-    main.LabelMulti.visible = false;
-    main.LabelPace = place;
     PlayMusicOfMode(main);
+}
+
+void Watch::PlayOn() {
+    if (!isWatching || stage->IsOver() || !AgreeToPlayOn(main.dialogs)) return;
+    stage->Mirror(main);
+    GiveBack();
+    TakeOverGame(main, stage->Game());
+    stage.reset();
+    log = main.log;
+    main.log = this;
+}
+
+void Watch::Begins(VMain& begun, GameKind kind) {
+    EndPlayedOn();
+    main.log->Begins(begun, kind);
+}
+
+void Watch::Ends(VMain& ended, GameEnding ending) {
+    EndPlayedOn();
+    main.log->Ends(ended, ending);
+}
+
+void Watch::EndPlayedOn() {
+    main.log = std::exchange(log, nullptr);
+    main.HighScore = numbers.HighScore;
+    ShowNumber(main.VHighScore, main.HighScore);
+    main.PuzzlePage = numbers.PuzzlePage;
 }
 
 void Watch::Begin() {
@@ -184,7 +220,7 @@ void Watch::Show() {
 std::string Watch::Line() const {
     std::string line = Clock(position) + " of " + Clock(recording.length);
     if (pace > 1) line += ", " + std::to_string(pace) + " times as fast";
-    return line + ". P: pause, Page Up and Down: 10 s, right button: pace, Esc: leave";
+    return line + ". P: pause, Page Up, Down: 10 s, right button: pace, G: play on, Esc: leave";
 }
 
 void Watch::Press(MouseButton button) {
@@ -196,6 +232,7 @@ void Watch::Press(MouseButton button) {
 void Watch::Command(Key key) {
     if (key == Key::P) Press(MouseButton::Left);
     if (key == Key::R) GoTo(0);
+    if (key == Key::G) PlayOn();
     if (key == Key::PageUp) GoTo(position - kStep);
     if (key == Key::PageDown) GoTo(position + kStep);
 }

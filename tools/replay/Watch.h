@@ -1,31 +1,45 @@
 // Shows a recorded game in the main window, as it was played: painted, heard, paused, faster, forwards and back. The
-// game that is shown runs on a machine of its own, so settings, scores and progress of the player stay as they are.
+// game that is shown runs on a machine of its own, so settings, scores and progress of the player stay as they are. The
+// player can go on with it at any moment.
 #pragma once
 
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "game/GameLog.h"
 #include "game/VMain.h"
 #include "recording/Recording.h"
 
 namespace prismfall {
 
-class Watch {
+class Watch final : private GameLog {
   public:
     // Takes over the window, the timers and the surface of `player`, a program that is in its main menu, until Leave.
     // While one watches, P or a left press pauses, Page Up and Page Down go ten seconds back and forth, a right press
-    // changes the pace, R begins again and Esc leaves; a line in the window says so at first and in every pause.
+    // changes the pace, R begins again, G or a double click goes on with the game and Esc leaves; a line in the window
+    // says so at first and in every pause.
     Watch(VMain& player, Recording recorded);
-    ~Watch();
-    Watch(const Watch&) = delete;
-    Watch& operator=(const Watch&) = delete;
+    ~Watch() override;
+
+    // Asks the player, and if they agree, hands the game over at the moment that is shown (see Takeover.h). Does
+    // nothing at its end. What the player's next games find from before is as it was before the watching as soon as
+    // that game is over or left.
+    void PlayOn();
 
   private:
     class Stage;
 
+    // Of a game that the player goes on with.
+    void Begins(VMain& begun, GameKind kind) override;
+    void Ends(VMain& ended, GameEnding ending) override;
+    void EndPlayedOn();
+
     void TakeWindow();
+    // Gives back the window and the timers, with no game in progress.
     void Leave();
+    bool GiveBack();
     void Tick();
     void Show();
     void GoTo(std::int64_t newPosition);
@@ -37,10 +51,12 @@ class Watch {
     VMain& main;
     const Recording recording;
     std::unique_ptr<Stage> stage;
-    WindowHandlers handlers;    // of the main window, when nobody watches; afterwards those for watching
-    Element place;              // the line where it is otherwise
-    std::int64_t position = 0;  // milliseconds of the game that is shown
-    std::int64_t ticks = 0;     // since the line was shown
+    WindowHandlers handlers;        // of the main window, when nobody watches; afterwards those for watching
+    std::vector<Element> elements;  // of the main window, when nobody watches
+    GameNumbers numbers;            // the player's
+    GameLog* log = nullptr;         // the player's, while a game is played on
+    std::int64_t position = 0;      // milliseconds of the game that is shown
+    std::int64_t ticks = 0;         // since the line was shown
     int pace = 1;
     bool isPaused = false;
     bool isWatching = true;

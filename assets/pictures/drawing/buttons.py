@@ -31,6 +31,10 @@ TABLE = [
     ("ShowSolution", "Show Solution", 169, 44, None, 157, 36, 13),
     ("OKAbout", "OK", 65, 50, None, 55, 36, 14),
     ("OKOptions", "OK", 73, 51, None, 60, 36, 14),
+    ("WatchGame", "Watch", 92, 38, None, 84, 30, 11),
+    ("CopyLink", "Copy Link", 110, 38, None, 102, 30, 11),
+    ("SaveGame", "Save As", 100, 38, None, 92, 30, 11),
+    ("DeleteGame", "Delete", 92, 38, None, 84, 30, 11),
 ]
 
 

@@ -22,7 +22,7 @@ struct KeyRow {
     Key key;
 };
 
-constexpr std::array<KeyRow, 15> kKeys = {{{SDLK_TAB, Key::Tab},
+constexpr std::array<KeyRow, 17> kKeys = {{{SDLK_TAB, Key::Tab},
                                            {SDLK_RETURN, Key::Enter},
                                            {SDLK_KP_ENTER, Key::Enter},
                                            {SDLK_SPACE, Key::Space},
@@ -33,10 +33,12 @@ constexpr std::array<KeyRow, 15> kKeys = {{{SDLK_TAB, Key::Tab},
                                            {SDLK_UP, Key::Up},
                                            {SDLK_RIGHT, Key::Right},
                                            {SDLK_DOWN, Key::Down},
+                                           {SDLK_g, Key::G},
                                            {SDLK_m, Key::M},
                                            {SDLK_p, Key::P},
                                            {SDLK_r, Key::R},
-                                           {SDLK_F1, Key::F1}}};
+                                           {SDLK_F1, Key::F1},
+                                           {SDLK_F2, Key::F2}}};
 
 // What a key is for the game. Keys pressed together with Ctrl, Alt and the like belong to the desktop.
 Key KeyOf(const SDL_Keysym& pressed) {
@@ -178,6 +180,7 @@ bool SdlDesktop::IsEndWaiting() {
 void SdlDesktop::Handle(const SDL_Event& event) {
     if (AsksForEnd(event)) return endAsked();
     if (event.type == SDL_AUDIODEVICEREMOVED && event.adevice.iscapture == 0) return soundLost();
+    if (event.type == SDL_DROPFILE || event.type == SDL_DROPTEXT) return HandleDrop(event.drop);
     if (windows.empty()) return;
     if (event.type == SDL_WINDOWEVENT) return HandleWindowEvent(event.window);
     // Keys go to the topmost window even if the desktop focuses none.
@@ -190,6 +193,12 @@ void SdlDesktop::Handle(const SDL_Event& event) {
     }
     if (event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP) return HandleButton(event.button);
     Press(gamepads.KeyOf(event));
+}
+
+void SdlDesktop::HandleDrop(const SDL_DropEvent& event) const {
+    const std::unique_ptr<char, void (*)(void*)> dropped(event.file, SDL_free);
+    if (dropped && whenDropped && windows.size() == 1 && windows.front().real->Data().takesInput)
+        whenDropped(dropped.get());
 }
 
 void SdlDesktop::HandleKey(const SDL_KeyboardEvent& event) {

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "backends/sdl/desktop/DesktopHints.h"
@@ -25,6 +26,9 @@ class SdlDesktop {
     // `endAsked` is called when the player or the system wants to end the program, `soundLost` when the sound device
     // has disappeared.
     SdlDesktop(PictureStore pictures, std::function<void()> endAsked, std::function<void()> soundLost);
+    // Called with the name of a file, or a text, that is dropped on the main window while that has input. From then on
+    // the desktop shows that the window takes them.
+    void WhenDropped(std::function<void(const std::string& dropped)> act) { whenDropped = std::move(act); }
     SdlDesktop(const SdlDesktop&) = delete;
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();
@@ -68,6 +72,7 @@ class SdlDesktop {
     void HandleWindowEvent(const SDL_WindowEvent& event);
     void HandleFocus(Shown& shown);
     void HandleFocusLoss(const Shown& shown);
+    void HandleDrop(const SDL_DropEvent& event) const;
     void HandleButton(const SDL_MouseButtonEvent& event);
     void HandleKey(const SDL_KeyboardEvent& event);
     void Press(Key key);
@@ -81,6 +86,7 @@ class SdlDesktop {
 
     std::function<void()> endAsked;
     std::function<void()> soundLost;
+    std::function<void(const std::string&)> whenDropped;
     DesktopFacts facts;
     WindowInput input;
     Gamepads gamepads;

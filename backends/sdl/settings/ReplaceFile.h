@@ -12,6 +12,8 @@ namespace prismfall {
 std::filesystem::path UsersSettingsFolder();
 // The same for what the user has made, such as recordings.
 std::filesystem::path UsersDataFolder();
+// The folder that users open themselves to find their documents; empty if the user has none.
+std::filesystem::path UsersDocumentsFolder();
 
 // The text of a file, empty if there is none or it cannot be read.
 std::string ReadWholeFile(const std::filesystem::path& file);

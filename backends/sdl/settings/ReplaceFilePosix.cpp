@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <sstream>
 #include <string_view>
 #include <system_error>
 #include <thread>
@@ -170,23 +171,41 @@ int Change(const fs::path& path, const std::function<std::string(std::string)>& 
     return error;
 }
 
-fs::path UsersFolder(const char* variable, const char* belowHome) {
-    const auto absolute = [](const char* name) {
-        const char* value = std::getenv(name);
-        const fs::path folder = value != nullptr ? value : "";
-        return folder.is_absolute() ? folder : fs::path();
-    };
-    fs::path folder = absolute(variable);
-    const fs::path home = absolute("HOME");
-    if (folder.empty() && !home.empty()) folder = home / belowHome;
-    return folder.empty() ? folder : folder / "prismfall";
+fs::path AbsoluteFolder(const char* variable) {
+    const char* value = std::getenv(variable);
+    const fs::path folder = value != nullptr ? value : "";
+    return folder.is_absolute() ? folder : fs::path();
 }
+
+fs::path UsersFolder(const char* variable, const char* belowHome) {
+    const fs::path folder = AbsoluteFolder(variable);
+    const fs::path home = AbsoluteFolder("HOME");
+    return folder.empty() && !home.empty() ? home / belowHome : folder;
+}
+
+fs::path OfTheGame(const fs::path& folder) { return folder.empty() ? folder : folder / "prismfall"; }
 
 }  // namespace
 
-fs::path UsersSettingsFolder() { return UsersFolder("XDG_CONFIG_HOME", ".config"); }
+fs::path UsersSettingsFolder() { return OfTheGame(UsersFolder("XDG_CONFIG_HOME", ".config")); }
 
-fs::path UsersDataFolder() { return UsersFolder("XDG_DATA_HOME", ".local/share"); }
+fs::path UsersDataFolder() { return OfTheGame(UsersFolder("XDG_DATA_HOME", ".local/share")); }
+
+// The desktop's own list of folders names it, as in XDG_DOCUMENTS_DIR="$HOME/Documents".
+fs::path UsersDocumentsFolder() {
+    constexpr std::string_view kEntry = "XDG_DOCUMENTS_DIR=\"";
+    constexpr std::string_view kHome = "$HOME/";
+    const fs::path home = AbsoluteFolder("HOME");
+    fs::path folder = home / "Documents";
+    std::istringstream lines(ReadWholeFile(UsersFolder("XDG_CONFIG_HOME", ".config") / "user-dirs.dirs"));
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with(kEntry)) continue;
+        const std::string name = line.substr(kEntry.size(), line.rfind('"') - kEntry.size());
+        folder = name.starts_with(kHome) ? home / name.substr(kHome.size()) : fs::path(name);
+    }
+    std::error_code ignored;
+    return fs::is_directory(folder, ignored) ? folder : home;
+}
 
 std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }
 

@@ -4,6 +4,8 @@
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <windows.h>
+//
+#include <shlobj.h>
 
 #include <array>
 #include <cwchar>
@@ -166,6 +168,12 @@ fs::path UsersSettingsFolder() {
 }
 
 fs::path UsersDataFolder() { return UsersSettingsFolder(); }
+
+fs::path UsersDocumentsFolder() {
+    std::array<wchar_t, MAX_PATH> folder{};
+    return SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, 0, folder.data()) == S_OK ? fs::path(folder.data())
+                                                                                        : fs::path();
+}
 
 std::string ReadWholeFile(const fs::path& file) { return ReadAll(BehindLinks(file)).text; }
 
