@@ -4,7 +4,7 @@ cmake_path(ABSOLUTE_PATH COMMANDS BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMA
 set(command prismfall)
 if(NOT COMMANDS MATCHES "^/(app|usr|usr/local)/(bin|games)$")
     # Quoted as desktop entries need it: once as an argument, and once more as a value of the file.
-    string(REGEX REPLACE "([\"`$\\\\])" "\\\\\\\\\\1" command "${COMMANDS}/prismfall")
+    string(REGEX REPLACE "([\"`$])" "\\\\\\\\\\1" command "${COMMANDS}/prismfall")
     string(REPLACE "%" "%%" command "\"${command}\"")
 endif()
 configure_file("${TEMPLATE}" "${ENTRY}" @ONLY)
