@@ -27,12 +27,13 @@ class WindowTest(unittest.TestCase):
         cls.desktop = desktop.Desktop(cls.manager)
         cls.addClassCleanup(cls.desktop.stop)
 
-    def run(self, result=None):
-        found = len(result.failures) + len(result.errors)
-        super().run(result)
-        if len(result.failures) + len(result.errors) > found:
+    def _callTestMethod(self, method):  # not run(), which also ends what the test has started
+        try:
+            return super()._callTestMethod(method)
+        except Exception:
             screen = self.desktop.screen
             screen.pixels(0, 0, screen.width, screen.height).save(self.pictures / f"{self.id()}.png")
+            raise
 
     def folder(self):
         folder = tempfile.TemporaryDirectory(prefix="prismfall-test-")
