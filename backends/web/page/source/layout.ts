@@ -29,11 +29,9 @@ export class Layout {
     main: Placement = { left: 0, top: 0, scale: 1 };
     /** The page is taller than wide, so the field takes its full width. */
     isUpright = false;
-    private readonly room: HTMLElement;
     private readonly listeners: (() => void)[] = [];
 
-    constructor(room: HTMLElement) {
-        this.room = room;
+    constructor(private readonly room: HTMLElement) {
         new ResizeObserver(() => this.measure()).observe(room);
         // Also when the page comes to a denser display in the same size.
         addEventListener('resize', () => this.measure());
