@@ -59,13 +59,13 @@ void StartWaitingPuzzle(VMain& main) {
 
 // --- Pausing.
 
-void StandStill(VMain& main) {
+void PauseGame(VMain& main) {
     main.GameRunning = false;
     StopGameTimers(main);
     SetMeaning(main.cmdPause, kResume);
 }
 
-void GoOn(VMain& main) {
+void ResumeGame(VMain& main) {
     main.GameRunning = true;
     if (RowOf(main.GameMode).spawnsBeams) main.platform.StartTimer(Timer::LineCreator);
     StartBeamTimers(main);
@@ -124,10 +124,10 @@ void CmdStart_Click(VMain& main) {
 void cmdPause_Click(VMain& main) {
     if (main.TutorialActive && main.TutorialStep != 0) return;
     if (main.GameRunning) {
-        StandStill(main);
+        PauseGame(main);
         PauseMusic(main.audio);
     } else {
-        GoOn(main);
+        ResumeGame(main);
         ResumeMusic(main.audio);
     }
 }
@@ -159,7 +159,7 @@ void Form_KeyDown(VMain& main, std::int16_t KeyCode) {
 void Form_Resize(VMain& main, bool isMinimised) {
     if (isMinimised) {
         PauseMusic(main.audio);
-        if (main.GameRunning) StandStill(main);
+        if (main.GameRunning) PauseGame(main);
         return;
     }
     ResumeMusic(main.audio);

@@ -37,7 +37,7 @@ void ExtendLines(VMain& main) {
     for (std::size_t i = 0; i < count; ++i) {
         CLine& beam = *field.Lines[i];
         switch (GrowLine(field, beam)) {
-            case Outcome::GoesOn:
+            case Outcome::Continues:
                 break;
             case Outcome::Bounced:
                 return;

@@ -15,7 +15,7 @@ constexpr std::int16_t kBentBeam = 2;
 constexpr std::int16_t kStartedBeam = 6;
 
 constexpr int kSkip = 0;
-constexpr int kGoOn = 1;
+constexpr int kNext = 1;
 
 struct Moment {
     std::int16_t trigger;  // YEnd of the clock beam at the start of a tick
@@ -48,14 +48,14 @@ struct Spot {
 
 constexpr std::array<Spot, 9> kSpots = {{
     {0, "Skip Tutorial", false, 14, 67, 75, 104, kSkip},
-    {0, "OK", false, 123, 197, 80, 104, kGoOn},
-    {1, "The end of the red beam", false, 6, 37, 95, 130, kGoOn},
-    {2, "OK", false, 90, 123, 31, 173, kGoOn},
-    {3, "The end of the blue beam", false, 84, 115, 10, 41, kGoOn},
-    {4, "OK", false, 147, 179, 75, 100, kGoOn},
-    {5, "OK", false, 127, 167, 105, 128, kGoOn},
-    {6, "The end of the red beam", true, 175, 199, 14, 60, kGoOn},
-    {7, "OK", false, 149, 185, 75, 96, kGoOn},
+    {0, "OK", false, 123, 197, 80, 104, kNext},
+    {1, "The end of the red beam", false, 6, 37, 95, 130, kNext},
+    {2, "OK", false, 90, 123, 31, 173, kNext},
+    {3, "The end of the blue beam", false, 84, 115, 10, 41, kNext},
+    {4, "OK", false, 147, 179, 75, 100, kNext},
+    {5, "OK", false, 127, 167, 105, 128, kNext},
+    {6, "The end of the red beam", true, 175, 199, 14, 60, kNext},
+    {7, "OK", false, 149, 185, 75, 96, kNext},
 }};
 
 bool Contains(const Spot& spot, float x, float y) {

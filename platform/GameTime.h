@@ -16,7 +16,7 @@ class GameTime {
     // `machineClock` returns the time since some fixed moment and never runs backwards.
     explicit GameTime(std::function<Nanoseconds()> machineClock) : clock(std::move(machineClock)) {}
 
-    Nanoseconds Now() const { return (standstills > 0 ? stoppedAt : Paced()) - stalls; }
+    Nanoseconds Now() const { return (freezes > 0 ? stoppedAt : Paced()) - stalls; }
     // How much of it passes in 100 ns of the machine's clock from now on, 1 to 100.
     void SetPace(int newPercent) {
         if (newPercent == percent) return;
@@ -29,18 +29,18 @@ class GameTime {
     // Leaves out a period that has just passed. `length` is 0 or more.
     void Stall(Nanoseconds length) { stalls += length; }
 
-    bool StandsStill() const { return standstills > 0; }
+    bool IsFrozen() const { return freezes > 0; }
     // Game time stops while one of these exists: while the game waits for a sound, or while an error box is open.
-    class Standstill {
+    class Freeze {
       public:
-        explicit Standstill(GameTime& gameTime) : time(gameTime) {
-            if (time.standstills++ == 0) time.stoppedAt = time.Paced();
+        explicit Freeze(GameTime& gameTime) : time(gameTime) {
+            if (time.freezes++ == 0) time.stoppedAt = time.Paced();
         }
-        ~Standstill() {
-            if (--time.standstills == 0) time.Stall(time.Paced() - time.stoppedAt);
+        ~Freeze() {
+            if (--time.freezes == 0) time.Stall(time.Paced() - time.stoppedAt);
         }
-        Standstill(const Standstill&) = delete;
-        Standstill& operator=(const Standstill&) = delete;
+        Freeze(const Freeze&) = delete;
+        Freeze& operator=(const Freeze&) = delete;
 
       private:
         GameTime& time;
@@ -56,7 +56,7 @@ class GameTime {
     Nanoseconds pacedFrom{0};  // and when that was
     Nanoseconds stalls{0};
     Nanoseconds stoppedAt{0};
-    int standstills = 0;
+    int freezes = 0;
 };
 
 }  // namespace prismfall

@@ -54,13 +54,13 @@ std::optional<Timer> TimerWheel::First() const {
 
 std::optional<Nanoseconds> TimerWheel::NextDue() const {
     const std::optional<Timer> first = First();
-    if (!first || time.StandsStill()) return std::nullopt;
+    if (!first || time.IsFrozen()) return std::nullopt;
     return states[static_cast<std::size_t>(*first)].due;
 }
 
 void TimerWheel::ReadClock() {
     lastReading = time.Now();
-    if (time.StandsStill()) return;
+    if (time.IsFrozen()) return;
     const bool isStalled = std::ranges::any_of(
         states, [this](const State& state) { return state.MayTick() && lastReading - state.due >= state.interval; });
     if (isStalled) StallFrom(*NextDue());

@@ -53,7 +53,7 @@ class WindowInput {
     // The close box of the dialog in front.
     void UseCloseBox(const Window& dialog);
     // Whether a dialog is open and goes on: it has neither been hidden nor closed.
-    bool GoesOn(const Window& dialog) const { return dialog.visible && closed != &dialog; }
+    bool IsOpen(const Window& dialog) const { return dialog.visible && closed != &dialog; }
     // The main window has been minimised or restored; whether it gets input does not matter.
     void Resize(const Window& window, bool isMinimised) const;
 

@@ -21,7 +21,7 @@ void BendLine(Field& field, CLine& oLine);
 
 // Runs a beam forward to its end, painting as it goes; each bounce off a wall starts a new segment of its chain. If it
 // runs into a beam it is stopped, or destroyed together with it; otherwise it ends AtFloor, one step above the ground.
-// Never returns GoesOn or Bounced.
+// Never returns Continues or Bounced.
 Outcome SpeedUpLine(Field& field, CLine& oLine);
 
 // Whether SpeedUpLine would end at a beam. No beam changes, but what is painted of `copy` above the entry limit is

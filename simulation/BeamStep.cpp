@@ -23,7 +23,7 @@ void EnterPlayfield(const Field& field, CLine& beam, int y) {
 
 Outcome GrowLine(Field& field, CLine& beam) {
     const Step step = NextStep(beam);
-    if (!MovesInThisTick(field, beam, step.y)) return Outcome::GoesOn;
+    if (!MovesInThisTick(field, beam, step.y)) return Outcome::Continues;
     EnterPlayfield(field, beam, step.y);
     if (MeetsWall(beam.Direction, step.x)) {
         MoveHead(beam, step);
@@ -35,7 +35,7 @@ Outcome GrowLine(Field& field, CLine& beam) {
     if (hit != nullptr) return StrikeLine(field, beam, *hit, false);
     DrawStep(field.painter, beam, step);
     MoveHead(beam, step);
-    return Outcome::GoesOn;
+    return Outcome::Continues;
 }
 
 }  // namespace prismfall

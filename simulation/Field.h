@@ -32,7 +32,7 @@ struct Field {
 
 // The outcome of a beam's step or run.
 enum class Outcome {
-    GoesOn,     // it moved, or it was not its turn
+    Continues,  // it moved, or it was not its turn
     Bounced,    // off a wall: a new segment runs in the other direction
     AtFloor,    // its next step would be onto the ground; it did not take it
     Stopped,    // by another beam, which it now waits behind

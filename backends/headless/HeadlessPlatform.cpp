@@ -110,7 +110,7 @@ bool HeadlessPlatform::ShowModally(Window& dialog) {
     Open(dialog);
     if (dialog.on.activate) dialog.on.activate();
     if (script != nullptr) {
-        while (input.GoesOn(dialog) && !hasEnded && script != nullptr && script->LetNextHappen()) {
+        while (input.IsOpen(dialog) && !hasEnded && script != nullptr && script->LetNextHappen()) {
         }
         RenewMoment();
     } else {

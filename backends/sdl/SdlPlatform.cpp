@@ -129,9 +129,9 @@ void SdlPlatform::SurfaceClear() { desktop.Layer().Clear(); }
 bool SdlPlatform::ShowModally(Window& dialog) {
     if (dialog.visible) return true;
     if (!OpenDialog(dialog)) return false;
-    const auto isOpen = [&] { return Input().GoesOn(dialog); };
+    const auto isOpen = [&] { return Input().IsOpen(dialog); };
     if (dialog.stopsTime) {
-        loop.StandStillWhile(isOpen);
+        loop.FreezeWhile(isOpen);
     } else {
         loop.RunWhile(isOpen);
     }
@@ -165,7 +165,7 @@ void SdlPlatform::ShowMessageBox(std::string_view text) {
         SetPosition(box, {corner.left + (outer.width - size.width) / 2, corner.top + (outer.height - size.height) / 2});
     }
     if (!OpenDialog(box)) return;
-    loop.StandStillWhile([&] { return Input().GoesOn(box); });
+    loop.FreezeWhile([&] { return Input().IsOpen(box); });
     CloseDialog(box);
 }
 

@@ -147,7 +147,7 @@ void WebPlatform::LetEventsRun() {
 }
 
 void WebPlatform::WaitFor(double length) {
-    const GameTime::Standstill standstill(time);
+    const GameTime::Freeze freeze(time);
     const double end = page::Now() + length;
     while (!ended && page::Now() < end) {
         page::Wait(end, 0);
@@ -234,10 +234,10 @@ bool WebPlatform::ShowModally(Window& dialog) {
     if (ended) return false;
     Open(dialog, {dialogPlace.left - kNominalFrame.left, dialogPlace.top - kNominalFrame.top});
     if (dialog.on.activate) dialog.on.activate();
-    std::optional<GameTime::Standstill> standstill;
-    if (dialog.stopsTime) standstill.emplace(time);
+    std::optional<GameTime::Freeze> freeze;
+    if (dialog.stopsTime) freeze.emplace(time);
     Present();  // a screen reader begins to read what is there
-    for (Work(); !ended && input.GoesOn(dialog); Work()) Rest();
+    for (Work(); !ended && input.IsOpen(dialog); Work()) Rest();
     if (!dialog.stopsTime) timers.RenewMoment();
     const bool wasHidden = !dialog.visible;
     if (!wasHidden && dialog.on.queryUnload) dialog.on.queryUnload();

@@ -56,7 +56,7 @@ TEST(TimerWheel, APaceStretchesGameTimeFromWhereItIs) {
     EXPECT_EQ(bench.time.ByClock(*bench.wheel.NextDue() - bench.time.Now()), std::chrono::milliseconds(1));
     EXPECT_EQ(bench.At(35), "E");
     {
-        const GameTime::Standstill standstill(bench.time);
+        const GameTime::Freeze freeze(bench.time);
         bench.clock = std::chrono::milliseconds(135);
     }
     EXPECT_EQ(bench.At(159), "");
@@ -162,9 +162,9 @@ TEST(TimerWheel, NothingTicksWhileGameTimeStandsStill) {
     bench.Start(Timer::LineExtender, 10);
     bench.clock = std::chrono::milliseconds(4);
     {
-        const GameTime::Standstill box(bench.time);
+        const GameTime::Freeze box(bench.time);
         EXPECT_EQ(bench.At(100), "");
-        const GameTime::Standstill sound(bench.time);
+        const GameTime::Freeze sound(bench.time);
         EXPECT_EQ(bench.wheel.NextDue(), std::nullopt);
         bench.wheel.Handle([&] { bench.Start(Timer::TimerA, 6); });
     }

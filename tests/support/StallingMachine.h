@@ -27,7 +27,7 @@ class StallingMachine : public HeadlessPlatform {
         if (!whileDialog) return HeadlessPlatform::ShowModally(dialog);
         Open(dialog);
         if (dialog.on.activate) dialog.on.activate();
-        while (Input().GoesOn(dialog)) {
+        while (Input().IsOpen(dialog)) {
             ComeRound();
             whileDialog();
         }
@@ -43,7 +43,7 @@ class StallingMachine : public HeadlessPlatform {
     std::int64_t Clock() override { return Look() / std::chrono::milliseconds(1); }
     void PlayWave(Wave wave, bool wait) override {
         HeadlessPlatform::PlayWave(wave, wait);
-        const GameTime::Standstill sound(time);
+        const GameTime::Freeze sound(time);
         if (wait) clock += std::chrono::milliseconds(700);
     }
 

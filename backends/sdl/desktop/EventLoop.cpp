@@ -40,16 +40,16 @@ bool EventLoop::HandleEvent() {
 }
 
 // One event at a time: each may close the window that the next one was meant for, or end what we are waiting for.
-bool EventLoop::HandleEvents(const std::function<bool()>& goesOn) {
+bool EventLoop::HandleEvents(const std::function<bool()>& condition) {
     SDL_PumpEvents();
     int handled = 0;
-    while (handled < kEventsAtOnce && goesOn() && HandleEvent()) ++handled;
+    while (handled < kEventsAtOnce && condition() && HandleEvent()) ++handled;
     return handled > 0;
 }
 
-bool EventLoop::Work(const std::function<bool()>& goesOn) {
+bool EventLoop::Work(const std::function<bool()>& condition) {
     const bool ticked = timers.TickDue();
-    const bool handled = HandleEvents(goesOn);
+    const bool handled = HandleEvents(condition);
     desktop.Refresh();
     return ticked || handled;
 }
@@ -75,18 +75,18 @@ void EventLoop::Run() {
     }
 }
 
-void EventLoop::WorkWhile(const std::function<bool()>& goesOn) {
-    for (Work(goesOn); goesOn(); Work(goesOn)) Rest();
+void EventLoop::WorkWhile(const std::function<bool()>& condition) {
+    for (Work(condition); condition(); Work(condition)) Rest();
 }
 
-void EventLoop::RunWhile(const std::function<bool()>& goesOn) {
-    WorkWhile(goesOn);
+void EventLoop::RunWhile(const std::function<bool()>& condition) {
+    WorkWhile(condition);
     timers.RenewMoment();
 }
 
-void EventLoop::StandStillWhile(const std::function<bool()>& goesOn) {
-    const GameTime::Standstill standstill(time);
-    WorkWhile(goesOn);
+void EventLoop::FreezeWhile(const std::function<bool()>& condition) {
+    const GameTime::Freeze freeze(time);
+    WorkWhile(condition);
 }
 
 void EventLoop::MeetEnd() {
@@ -104,7 +104,7 @@ void EventLoop::LetEventsRun() {
 }
 
 void EventLoop::PaintFor(Nanoseconds length) {
-    const GameTime::Standstill standstill(time);
+    const GameTime::Freeze freeze(time);
     const Nanoseconds end = Now() + length;
     while (Now() < end) {
         SDL_PumpEvents();

@@ -22,10 +22,10 @@ class EventLoop {
 
     // Runs forever: the outermost level, the only one that tells the main window that it was minimised or restored.
     [[noreturn]] void Run();
-    // Runs inside a handler as long as `goesOn` holds.
-    void RunWhile(const std::function<bool()>& goesOn);
+    // Runs inside a handler as long as `condition` holds.
+    void RunWhile(const std::function<bool()>& condition);
     // The same, but game time is stopped and no timer ticks.
-    void StandStillWhile(const std::function<bool()>& goesOn);
+    void FreezeWhile(const std::function<bool()>& condition);
     // Handles what is pending. If nothing is, sleeps for a moment, so that a caller may wait by calling it in a loop.
     void LetEventsRun();
     // Waits for a time during which game time is stopped and nothing happens except painting and the program's end.
@@ -33,10 +33,10 @@ class EventLoop {
 
   private:
     // These return whether there was anything to do.
-    bool Work(const std::function<bool()>& goesOn);
-    bool HandleEvents(const std::function<bool()>& goesOn);
+    bool Work(const std::function<bool()>& condition);
+    bool HandleEvents(const std::function<bool()>& condition);
     bool HandleEvent();
-    void WorkWhile(const std::function<bool()>& goesOn);
+    void WorkWhile(const std::function<bool()>& condition);
     void MeetEnd();
     void Rest();
 
