@@ -1,11 +1,11 @@
-// Everything that the program asks of the page, as functions of the module `page` that it imports, and the records that
-// pass between the two. page/source/program.ts and records.ts are the other side: a change here is a change there. The
-// page compares RecordSizes with its own when it starts, and the browser the functions.
+// Everything the program asks of the page: the functions it imports from the module `page`, and the records passed
+// between the two. page/source/program.ts and records.ts are the other side: a change here needs a change there. When
+// it starts, the page compares RecordSizes with its own sizes, and the browser checks the functions.
 //
-// Types are WebAssembly's own: whole numbers of 32 bits, `float`, `double`, and addresses in the program's memory,
-// which the page reads before the call returns. Records are read field by field in the order given here, without gaps.
-// Places and sizes are game pixels, times milliseconds of the page's clock. A window is known by a number that the
-// program picks, 0 for the main window; an element by its place in the window's list.
+// Types are WebAssembly's own: 32-bit integers, `float`, `double`, and addresses in the program's memory, which the
+// page reads before the call returns. Records are read field by field in the order given here, without gaps. Positions
+// and sizes are in game pixels, times in milliseconds of the page's clock. A window is identified by a number that the
+// program chooses, 0 for the main window; an element by its index in the window's list.
 #pragma once
 
 #include <cstddef>
@@ -35,7 +35,7 @@ struct WindowRecord {
     Text background;  // a picture's name
 };
 
-// A place in an element that the player is asked to press.
+// A place in an element that the player is prompted to press.
 struct SpotRecord {
     float left = 0;  // in the element
     float top = 0;
@@ -47,7 +47,7 @@ struct SpotRecord {
 
 struct ElementRecord {
     std::int32_t kind = 0;    // an ElementKind
-    std::int32_t panel = -1;  // the element that it lies in, -1 for none
+    std::int32_t panel = -1;  // the element that contains it, -1 for none
     std::int32_t visible = 0;
     std::int32_t enabled = 0;
     std::int32_t checked = 0;
@@ -76,10 +76,10 @@ constexpr std::uint32_t kNoGround = 0xFFFFFFFF;
 
 enum class EventKind : std::int32_t {
     Move,      // the pointer moves: x, y
-    Press,     // a button goes down: number is a MouseButton, x, y
-    Release,   // a button goes up: number is a MouseButton, x, y
+    Press,     // a button is pressed: number is a MouseButton, x, y
+    Release,   // a button is released: number is a MouseButton, x, y
     Activate,  // an element is clicked without a pointer, by a key or a screen reader: number is the element
-    Key,       // a key goes down: number is 27 for Esc, or a Key
+    Key,       // a key is pressed: number is 27 for Esc, or a Key
     Close,     // the close box of a dialog
 };
 
@@ -88,11 +88,11 @@ struct Event {
     EventKind kind{};
     std::int32_t window = 0;
     std::int32_t number = 0;
-    float x = 0;  // in the window's inner area, or outside of it
+    float x = 0;  // in the window's inner area, or outside it
     float y = 0;
 };
 
-// What the page must know as well: sizes in bytes, and how many kinds there are.
+// What the page must agree on: sizes in bytes, and how many kinds there are.
 struct RecordSizes {
     std::int32_t window = sizeof(WindowRecord);
     std::int32_t element = sizeof(ElementRecord);
@@ -111,16 +111,15 @@ extern "C" {
 
 // --- Time. Waiting is the one call in which the program is suspended and the page goes on.
 
-// Milliseconds from some fixed moment; never runs backwards.
+// Milliseconds since some fixed moment; never runs backwards.
 PAGE_IMPORT("now") double Now();
 // Returns when the clock has reached `until`, when the page was hidden or shown again, and, if `forInput` is not 0, as
-// soon as there is an event to take. Lets the page go on even if there is nothing to wait for. Before the page's next
-// frame, and at once if the page is hidden, the page calls the program's `present`, which sends what has changed in the
-// picture.
+// soon as there is an event to take. The page gets a turn even if there is nothing to wait for. Before its next frame,
+// or at once if it is hidden, the page calls the program's `present`, which sends what has changed in the picture.
 PAGE_IMPORT("wait") void Wait(double until, std::int32_t forInput);
-// Takes the oldest pending event. 0 if there is none.
+// Takes the oldest pending event. Returns 0 if there is none.
 PAGE_IMPORT("takeEvent") std::int32_t TakeEvent(Event* event);
-// Whether the page is hidden, so that nobody can see it.
+// Whether the page is hidden.
 PAGE_IMPORT("isHidden") std::int32_t IsHidden();
 // From 0 up to but not including 1, different at each start of the program.
 PAGE_IMPORT("random") double Random();
@@ -135,22 +134,22 @@ PAGE_IMPORT("showElement") void ShowElement(std::int32_t window, std::int32_t el
 PAGE_IMPORT("showPixels")
 void ShowPixels(const std::uint32_t* pixels, std::int32_t left, std::int32_t top, std::int32_t width,
                 std::int32_t height);
-// The places on the surface that can be pressed, with names, instead of those before.
+// Replaces the places on the surface that can be pressed, with their names.
 PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t count);
-// Whether there is something on the surface to choose by keys, and whether that is a game being played, so that Tab and
-// the arrows choose beams and not what the page offers.
+// Whether there is anything on the surface to choose with the keys, and whether a game is being played, in which case
+// Tab and the arrow keys choose beams rather than the page's controls.
 PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t canChoose, std::int32_t toField);
-// Shows one line below the picture, usually about saving. An empty one removes it.
+// Shows one line below the picture, usually about saving. An empty text removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
-// The program has ended: the page dims the picture and offers a new start.
+// The program has ended: the page dims the picture and offers to start again.
 PAGE_IMPORT("endProgram") void EndProgram();
 
 // --- Settings: one text for all of them.
 
-// The length of the stored text in bytes; the page keeps it for ReadSettings.
+// Returns the length of the stored text in bytes; the page keeps the text for ReadSettings.
 PAGE_IMPORT("openSettings") std::uint32_t OpenSettings();
 PAGE_IMPORT("readSettings") void ReadSettings(char* text);
-// 0 if it could not be stored; then what was stored before is unchanged.
+// Returns 0 if it could not be stored; what was stored before is then unchanged.
 PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::uint32_t length);
 
 // --- Sound and music. The page finds the files by itself; one that cannot be loaded is silent.

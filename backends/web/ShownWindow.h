@@ -1,4 +1,4 @@
-// One window on the page: tells the page what its elements look like whenever they have changed.
+// One window on the page: tells the page what its elements look like whenever they change.
 #pragma once
 
 #include <vector>
@@ -10,8 +10,8 @@ namespace prismfall {
 
 class ShownWindow {
   public:
-    // Opens the window on the page, known by `pageNumber`. `place` is that of a dialog's frame, from the corner of the
-    // main window's inner area.
+    // Opens the window on the page under the number `pageNumber`. `place` is the position of a dialog's frame, relative
+    // to the corner of the main window's inner area.
     ShownWindow(Window& shown, std::int32_t pageNumber, Place place);
     ~ShownWindow();
     ShownWindow(const ShownWindow&) = delete;
@@ -21,7 +21,7 @@ class ShownWindow {
     // Where the inner area begins, for a dialog and the main window alike.
     Place Origin() const { return origin; }
 
-    // Sends the page every element that is not as it was last sent.
+    // Sends the page every element that has changed since it was last sent.
     void Refresh();
 
   private:

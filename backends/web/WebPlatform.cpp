@@ -12,11 +12,11 @@ namespace {
 
 constexpr int kFullVolume = 1000;
 constexpr double kYieldRest = 1;      // milliseconds
-constexpr long kPixelsPerCall = 500;  // what it costs the page to take another box, in pixels
+constexpr long kPixelsPerCall = 500;  // the cost of one more call to the page, in pixels
 constexpr double kLongestWait = 60'000;
-constexpr double kStartNumbers = 1LL << 53;  // as many as there are random numbers of the page
-constexpr std::size_t kRateAt = 28;          // in a wave file of plain samples: bytes a second
-constexpr std::size_t kLengthAt = 40;        // and bytes in all
+constexpr double kStartNumbers = 1LL << 53;  // how many random numbers the page can give
+constexpr std::size_t kRateAt = 28;          // in a wave file of plain samples: bytes per second
+constexpr std::size_t kLengthAt = 40;        // and the length of the samples in bytes
 
 Nanoseconds PageTime() { return Nanoseconds(static_cast<std::int64_t>(page::Now() * 1e6)); }
 
@@ -33,13 +33,13 @@ std::uint32_t NumberAt(std::span<const std::byte> bytes, std::size_t at) {
     return number;
 }
 
-// The page has the samples; the program has only the head of the file, which says how long they last.
+// The page has the samples; the program has only the file's header, which tells how long they last.
 double WaveMilliseconds(std::span<const std::byte> head) {
     if (head.size() < kLengthAt + 4) return 0;
     return 1000.0 * NumberAt(head, kLengthAt) / NumberAt(head, kRateAt);
 }
 
-// Puts boxes together that are cheaper to send as one.
+// Merges boxes that are cheaper to send as one.
 void Merge(std::vector<PixelBox>& boxes) {
     const auto kept = boxes.begin();
     auto end = kept;
@@ -98,7 +98,7 @@ void WebPlatform::Work() {
     HandleEvents();
 }
 
-// One event after the other: each may close the window that the next one was meant for.
+// One event at a time: each may close the window that the next one was meant for.
 bool WebPlatform::HandleEvents() {
     page::Event event;
     bool handled = false;
@@ -155,7 +155,7 @@ void WebPlatform::WaitFor(double length) {
     }
 }
 
-// A page that is hidden may never be seen again: everything is saved at that moment, whatever else is going on.
+// A hidden page may never be shown again: everything is saved at that moment, whatever else is going on.
 void WebPlatform::NoteVisibility() {
     const bool isHidden = page::IsHidden() != 0;
     if (isHidden == hidden) return;
@@ -265,7 +265,7 @@ void WebPlatform::SetPosition(Window& window, Place place) {
     if (window.isDialog) dialogPlace = place;
 }
 
-// In the page, a line below the picture takes the place of a box.
+// On the page, a line below the picture replaces the message box.
 void WebPlatform::ShowMessageBox(std::string_view text) {
     page::ShowNotice(text.data(), static_cast<std::uint32_t>(text.size()));
 }
@@ -281,7 +281,7 @@ void WebPlatform::EndProgram() {
 
 std::int64_t WebPlatform::Clock() { return static_cast<std::int64_t>(page::Now()); }
 
-// --- Settings. The page keeps them as one text, so that all of them are stored or none. Nothing can come between
+// --- Settings. The page keeps them as one text, so either all of them are stored or none. Nothing can come between
 // reading and writing. The application's name is left out: the text belongs to this application alone.
 
 std::string WebPlatform::ReadSetting(std::string_view, std::string_view section, std::string_view key,
@@ -298,7 +298,7 @@ bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
     return isWritten;
 }
 
-// The line goes when a save succeeds.
+// The line disappears when a save succeeds.
 void WebPlatform::TellOfSaving(bool isWritten) {
     if (isWritten && !isFailedSaveTold) return;
     isFailedSaveTold = !isWritten;

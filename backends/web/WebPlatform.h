@@ -1,6 +1,6 @@
-// A browser's page as the machine behind the game. The program runs in a loop of its own, as on a desktop: it takes
-// input from the page, lets due timers tick, and is suspended in the one call that waits. The page asks what has
-// changed once a frame, however many timers have ticked since the last.
+// A web page as the platform. The program runs in its own loop, as on a desktop: it takes input from the page, lets due
+// timers tick, and is suspended in the one call that waits. The page asks once a frame what has changed, however many
+// timers have ticked since the last frame.
 #pragma once
 
 #include <memory>
@@ -86,25 +86,25 @@ class WebPlatform final : public Platform {
     Surface layer;
     Looks looks{layer};
     Comfort comfort;
-    int musicVolume = 0;  // that the game asks for
+    int musicVolume = 0;  // as set by the game
     std::vector<PixelBox> damage;
     std::vector<std::uint32_t> pixels;  // a box of the layer, in the page's format
 
     Window* main = nullptr;
-    std::vector<std::unique_ptr<ShownWindow>> shown;  // the main window, then dialogs in the order of their opening
+    std::vector<std::unique_ptr<ShownWindow>> shown;  // the main window, then dialogs in the order they were opened
     Place dialogPlace;                                // where the next dialog's frame will be
 
     WindowInput input;
     GameTime time;
     TimerWheel timers;
     RandomNumbers random;
-    std::optional<SettingsValues> readValues;  // of the store, until it changes
+    std::optional<SettingsValues> readValues;  // from the store, until it changes
     bool isFailedSaveTold = false;
     bool ended = false;
     std::vector<SurfaceSpot> shownSpots;
-    bool canChoose = false;     // as the page was last told, on the surface
+    bool canChoose = false;     // on the surface, as the page was last told
     bool fieldHasKeys = false;  // likewise
-    bool hidden = false;        // as the page was last seen
+    bool hidden = false;        // as last seen on the page
     bool minimised = false;     // as the main window was last told
 };
 

@@ -1,7 +1,7 @@
-// Puts the page together from the built program, the sources beside this file and the assets:
+// Assembles the page from the built program, the sources beside this file and the assets:
 //   node bundle.mjs BUILD_FOLDER_WITH_WASM OUTPUT_FOLDER FOLDER_FOR_MADE_PICTURES
-// What belongs to a version goes into a folder named after the contents, music into one of its own, so that no browser ever
-// mixes two versions and none fetches the same music twice.
+// The files of a version go into a folder named after their contents, music into another one, so no browser ever mixes
+// two versions or fetches the same music twice.
 import { createHash } from 'node:crypto';
 import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { dirname, join, relative } from 'node:path';
@@ -13,7 +13,7 @@ const here = dirname(fileURLToPath(import.meta.url));
 const root = join(here, '../../..');
 const [programs, output, kept] = process.argv.slice(2);
 
-/** All files of a folder, as paths from it. */
+/** All files in a folder, as paths relative to it. */
 function filesIn(folder, from = folder) {
     return readdirSync(folder, { withFileTypes: true })
         .flatMap((entry) => {
@@ -47,7 +47,7 @@ async function script(entry, file, known) {
     });
 }
 
-/** The page, with the script that is part of it, which is the one that the page's policy names. */
+/** The page, with its embedded script, whose hash goes into the page's policy. */
 async function page(folder) {
     const entry = join(here, 'source/preload.ts');
     const { outputFiles } = await build({ ...bundling, entryPoints: [entry], write: false, format: 'iife' });

@@ -1,5 +1,5 @@
-// Makes the page's picture files from the drawn ones. At single size they keep every pixel; at double size the few large ones
-// are compressed with losses that nobody sees. Files made before are kept and used again.
+// Makes the page's picture files from the original ones. At single size they keep every pixel; at double size the few
+// large ones are compressed with losses that nobody sees. Files made earlier are kept and reused.
 import { execFile } from 'node:child_process';
 import { createHash } from 'node:crypto';
 import { copyFileSync, existsSync, mkdirSync, readdirSync, readFileSync, renameSync, statSync } from 'node:fs';
@@ -10,11 +10,11 @@ import { promisify } from 'node:util';
 const run = promisify(execFile);
 const lossless = ['-lossless', '-z', '7'];
 const nearly = ['-q', '90', '-m', '6', '-sharp_yuv'];
-const largest = 50_000; // bytes, without loss
+const largest = 50_000; // bytes, lossless
 
 const sizeOf = (file) => statSync(file).size;
 
-/** The file of a picture in that encoding, from the folder of those made before. */
+/** The file of a picture in that encoding, from the folder of files made earlier. */
 async function encode(picture, options, kept) {
     const hash = createHash('sha256').update(options.join(' ')).update(readFileSync(picture)).digest('hex');
     const made = join(kept, `${hash.slice(0, 20)}.webp`);

@@ -1,6 +1,6 @@
-// Serves build/web on this machine alone, for trying the page and for its tests:
+// Serves build/web on this machine only, for trying out the page and for its tests:
 //   node serve.mjs [FOLDER [open]]
-// prints the address, opens it in a browser if asked to and if there is one, and goes on until it is stopped.
+// prints the address, opens it in a browser if asked to and if there is one, and runs until it is stopped.
 import { spawn } from 'node:child_process';
 import { createReadStream, existsSync, readFileSync, statSync } from 'node:fs';
 import { createServer } from 'node:http';
@@ -22,12 +22,15 @@ const types = {
 
 const root = join(dirname(fileURLToPath(import.meta.url)), '../../..');
 
-/** What every server should send, from the configuration of one. */
+/** What every server should send, taken from the configuration for one. */
 const configuration = readFileSync(join(root, 'packaging/web/nginx.conf'), 'utf8');
 const listed = [...configuration.matchAll(/add_header (\S+) "(.*)" always;/g)];
 const headersForAll = Object.fromEntries(listed.map(([, name, value]) => [name, value]));
 
-/** A server on a free port, of a folder that may be changed meanwhile. `refuses` says which paths cannot be had. */
+/**
+ * A server on a free port for a folder, which may change meanwhile. `refuses` says which paths are answered with an
+ * error.
+ */
 export async function serve(folder, refuses = () => false) {
     const site = { folder };
     site.server = createServer((request, response) => {
@@ -57,7 +60,7 @@ export async function serve(folder, refuses = () => false) {
     return site;
 }
 
-/** By the first of the programs that is there; by none if none is. */
+/** Opens the address with the first of the programs that exists, if any. */
 function openBrowser(address, [program, ...others] = ['xdg-open', 'x-www-browser']) {
     if (program) spawn(program, [address], { stdio: 'ignore' }).on('error', () => openBrowser(address, others));
 }

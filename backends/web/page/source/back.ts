@@ -1,4 +1,4 @@
-// The browser's key for going back is Esc, or the close box of a dialog; where that ends the program, it leaves the page.
+// The browser's Back acts as Esc, or as a dialog's close box; where that ends the program, it leaves the page.
 import type { Input } from './input';
 import { EventKind } from './records';
 import type { Waiting } from './waiting';
@@ -8,11 +8,11 @@ export interface Back {
     noteEnd(): void;
 }
 
-/** Keeps an entry in the browser's history above the page's own, so that going back only takes that one away. */
+/** Keeps an entry in the browser's history above the page's own, so that going back removes only that one. */
 export function connectBack(windows: Windows, waiting: Waiting, input: Input): Back {
     let hasEnded = false;
     let isGoingBack = false;
-    // A reloaded page has its entry already.
+    // A reloaded page already has its entry.
     if (history.state !== 'playing') history.pushState('playing', '');
     addEventListener('popstate', () => {
         if (hasEnded) return;
@@ -21,7 +21,7 @@ export function connectBack(windows: Windows, waiting: Waiting, input: Input): B
         if (dialog === undefined) input.escape();
         else waiting.send(EventKind.Close, dialog);
         history.pushState('playing', '');
-        // The program handles it as soon as it takes its events. What ends it later is something else.
+        // The program handles it at its next chance. If the program ends later than that, it has another reason.
         setTimeout(() => (isGoingBack = false), 300);
     });
     return {

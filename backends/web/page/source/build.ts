@@ -7,7 +7,7 @@ export interface Build {
     readonly tracks: readonly string[];
     /** The ids of the sounds, each a file in the folder `sounds` of this version. */
     readonly sounds: readonly number[];
-    /** Everything that the page needs without a network, except the music. */
+    /** Everything the page needs to work offline, except the music. */
     readonly files: readonly string[];
 }
 

@@ -1,5 +1,5 @@
-// The names of this page's caches and locks. Several copies of the game, and other programs, may share an origin, so each
-// name begins with the address of the folder that the page lies in.
+// The names of this page's caches and locks. Several copies of the game, and other programs, may share an origin, so
+// each name begins with the address of the page's folder.
 const mark = 'prismfall';
 
 export function cacheName(scope: string, folder: string): string {

@@ -1,5 +1,5 @@
-// The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each is
-// at its place in game pixels; the window that holds them is scaled as a whole.
+// The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each has
+// its position in game pixels; the window that contains them is scaled as a whole.
 import { panelLeft } from './layout';
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
@@ -7,7 +7,7 @@ import { type ElementRecord, Kind, type SpotRecord } from './records';
 
 const pixelsPerPoint = 96 / 72;
 
-// Replacements for the fonts of the game where they are not installed.
+// Substitutes for the game's fonts where they are not installed.
 const families: Readonly<Record<string, string>> = {
     'Times New Roman': '"Times New Roman", "Liberation Serif", Tinos, Times, serif',
     Arial: 'Arial, "Liberation Sans", Arimo, Helvetica, sans-serif',
@@ -91,7 +91,7 @@ export class Elements {
             if (isNew('accessibleName')) image.alt = record.accessibleName;
         }
         if (input) {
-            // A browser marks what is clicked by itself.
+            // Browsers check a clicked box by themselves.
             input.checked = record.checked;
             input.disabled = !record.enabled;
         }
@@ -101,7 +101,7 @@ export class Elements {
         this.speak(element, record);
     }
 
-    /** A text may reach beyond the window; lines that break do so where they can still be read. */
+    /** A text may extend beyond the window; text with several lines wraps where it can still be read. */
     private widthOf(record: ElementRecord): number {
         return record.wraps ? Math.min(record.width, this.root.offsetWidth - record.left) : record.width;
     }
@@ -114,7 +114,7 @@ export class Elements {
         return element;
     }
 
-    /** The cells of a table lie in rows, for screen readers. */
+    /** The cells of a table are in rows, for screen readers. */
     private rowOf({ row }: ElementRecord): HTMLElement | undefined {
         if (row === 0) return undefined;
         let node = this.rows.get(row);
@@ -127,7 +127,7 @@ export class Elements {
         return node;
     }
 
-    /** A dialog with a table is not read out as one long sentence. */
+    /** Keeps a screen reader from reading a dialog with a table as one long sentence. */
     private makeTable(): HTMLElement {
         const table = add(this.root, make('div'));
         table.setAttribute('role', 'table');
@@ -135,7 +135,7 @@ export class Elements {
         return table;
     }
 
-    /** Radio buttons of one group lie in a node that tells a screen reader so. */
+    /** The radio buttons of a group are in a node that tells a screen reader so. */
     private groupOf(record: ElementRecord): HTMLElement | undefined {
         if (record.kind !== Kind.RadioButton) return undefined;
         let node = this.groups.get(record.group);
@@ -161,7 +161,7 @@ const looksOfText = ['ground', 'family', 'points', 'bold', 'italic', 'wraps', 'f
 
 function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): void {
     words.textContent = record.text;
-    // The ground of marked texts and frames reaches no further than the text on it.
+    // The background of highlighted texts and frames extends only as far as their text.
     (record.kind === Kind.Label ? node : words).style.backgroundColor = record.ground;
     if (record.kind === Kind.GroupFrame) node.style.backgroundColor = record.ground;
     node.style.fontFamily = families[record.family] ?? record.family;
@@ -170,7 +170,7 @@ function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): 
     node.style.whiteSpace = record.wraps ? 'pre-wrap' : 'pre';
     let size = record.points * pixelsPerPoint;
     node.style.fontSize = `${size}px`;
-    // Browsers may know a larger face than the one that the text was set for.
+    // The browser's font may be larger than the one the text was laid out for.
     while (record.fitHeight > 0 && words.offsetHeight > record.fitHeight && size > 6) {
         size = Math.ceil(size) - 1;
         node.style.fontSize = `${size}px`;
@@ -182,7 +182,7 @@ function makeCell(node: HTMLElement, { row, column }: ElementRecord): void {
     node.setAttribute('aria-colindex', String(column));
 }
 
-/** Pointers press what is below; this is for keys. */
+/** For keys; pointers press what is below. */
 export function makeSpot(spot: SpotRecord): HTMLButtonElement {
     const node = make('button', 'spot');
     for (const side of ['left', 'top', 'width', 'height'] as const) node.style[side] = `${spot[side]}px`;

@@ -1,5 +1,5 @@
-// The program may hide whatever has the focus, as with a button that leads to another screen. The focus would be lost then;
-// instead it moves to the first place on the playfield that can be pressed, or to the playfield itself.
+// The program may hide whatever has the focus, such as a button that leads to another screen. The focus would then be
+// lost; instead it moves to the first place on the playfield that can be pressed, or to the playfield itself.
 export class Focus {
     private last: Element | undefined;
 

@@ -1,5 +1,5 @@
-// Keys. What the page has of its own for them stays: Tab goes through the controls, Enter and Space click the one that has
-// the focus. While a game is played, and wherever no control has the focus, keys are for the playfield.
+// Keys. The page's own keys keep their meaning: Tab goes through the controls, Enter and Space click the one that has
+// the focus. While a game is being played, and whenever no control has the focus, keys go to the playfield.
 import type { Input } from './input';
 import { EventKind } from './records';
 import type { Waiting } from './waiting';
@@ -7,7 +7,7 @@ import type { Windows } from './windows';
 
 const mainWindow = 0;
 
-// The numbers of the program's Key.
+// The numbers of the program's enum Key.
 const arrows: Readonly<Record<string, number>> = { ArrowLeft: 37, ArrowUp: 38, ArrowRight: 39, ArrowDown: 40 };
 const presses: Readonly<Record<string, number>> = { Enter: 13, ' ': 32 };
 const tab = 9;
@@ -22,7 +22,7 @@ const anywhere: Readonly<Record<string, number>> = {
 };
 
 export class Keys {
-    /** There is something on the playfield to choose. */
+    /** There is something to choose on the playfield. */
     canChoose = false;
     /** A game is being played. */
     areForField = false;
@@ -58,7 +58,7 @@ export class Keys {
         const arrow = arrows[key];
         const isOnSpot = focus instanceof Element && focus.closest('.spots') !== null;
         if (arrow !== undefined && (this.areForField || ((isOnSpot || isOnField) && this.canChoose))) {
-            // What had the focus would be clicked by the press that follows.
+            // Otherwise the next press would click whatever had the focus.
             this.field.focus({ preventScroll: true });
             return arrow;
         }
@@ -71,7 +71,7 @@ export class Keys {
     }
 }
 
-/** To the next control of the window in front, or to the one before. */
+/** Moves the focus to the next control of the window in front, or to the previous one. */
 export function moveFocus(step: number): void {
     const front = [...document.querySelectorAll('dialog[open]')].at(-1) ?? document.getElementById('picture');
     const controls = [...(front?.querySelectorAll<HTMLElement>('button, input') ?? [])].filter(
@@ -82,7 +82,7 @@ export function moveFocus(step: number): void {
     controls[next % controls.length]?.focus();
 }
 
-/** Enter is the OK of a dialog, but where a button has the focus. */
+/** Enter is the OK of a dialog, except where a button has the focus. */
 function codeInDialog({ key }: KeyboardEvent): number | undefined {
     return document.activeElement instanceof HTMLButtonElement ? undefined : key === 'Enter' ? presses[key] : undefined;
 }

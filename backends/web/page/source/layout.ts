@@ -1,21 +1,21 @@
-// How large the game is on the page and where it is: as large as fits, in one scale, letterboxed. Where a game pixel
-// comes out as a whole number of the display's, edges stay sharp.
+// The size and position of the game on the page: as large as fits, at one scale, letterboxed. Where a game pixel comes
+// out as a whole number of display pixels, edges stay sharp.
 export const gameWidth = 802;
 export const gameHeight = 602;
 
-/** Where the panel begins, to the right of the field. On an upright page it lies below the field. */
+/** The left edge of the panel, to the right of the field. On an upright page the panel is below the field. */
 export const panelLeft = 672;
 const fieldWidth = 684;
-const panelHeight = 190; // in the page's pixels, on an upright page
+const panelHeight = 190; // in page pixels, on an upright page
 
 // The nominal frame of a dialog.
 export const frameSides = 4;
 export const frameHeight = 27;
 
-// A scale this little above a whole factor is taken down to it.
+// A scale this little above a whole number is rounded down to it.
 const snap = 1.04;
 
-// How far from a whole factor a scale may come out that was meant to be one.
+// How far a scale that should be a whole number may come out from it.
 const rounding = 1e-6;
 
 export interface Placement {
@@ -25,7 +25,7 @@ export interface Placement {
 }
 
 export class Layout {
-    /** Of the main window's inner area, in the page's pixels. */
+    /** The main window's inner area, in page pixels. */
     main: Placement = { left: 0, top: 0, scale: 1 };
     /** The page is taller than wide, so the field takes its full width. */
     isUpright = false;
@@ -33,7 +33,7 @@ export class Layout {
 
     constructor(private readonly room: HTMLElement) {
         new ResizeObserver(() => this.measure()).observe(room);
-        // Also when the page comes to a denser display in the same size.
+        // Also when the page moves to a denser display at the same size.
         addEventListener('resize', () => this.measure());
         this.measure();
     }
@@ -43,7 +43,7 @@ export class Layout {
         act();
     }
 
-    /** Pixels of the display for one of the game's. */
+    /** Display pixels per game pixel. */
     get density(): number {
         return this.main.scale * devicePixelRatio;
     }
@@ -52,7 +52,7 @@ export class Layout {
         return Math.abs(this.density - Math.round(this.density)) < rounding;
     }
 
-    /** Of a dialog's frame. On a small page it is larger than the picture behind it, so that it can be read. */
+    /** A dialog's frame. On a small page it is larger than the picture behind it, so that it can be read. */
     dialog(left: number, top: number, innerWidth: number, innerHeight: number): Placement {
         const width = innerWidth + frameSides;
         const height = innerHeight + frameHeight;
@@ -95,12 +95,12 @@ function between(value: number, highest: number): number {
     return Math.max(0, Math.min(value, highest));
 }
 
-/** The nearest place at which a pixel of the display begins. */
+/** The nearest position at which a display pixel begins. */
 function wholePixel(place: number): number {
     return Math.round(place * devicePixelRatio) / devicePixelRatio;
 }
 
-/** Puts a node of the game's own size at its place on the page. */
+/** Puts a node of the game's own size in its position on the page. */
 export function place(node: HTMLElement, placement: Placement): void {
     node.style.left = `${placement.left}px`;
     node.style.top = `${placement.top}px`;

@@ -1,5 +1,5 @@
-// The music player: one track at a time, looping or to its end once, streamed by the browser. Nothing here waits, and a
-// track that cannot be loaded is silence and a line below the picture.
+// The music player: one track at a time, looping or once to its end, streamed by the browser. Nothing here waits; if a
+// track cannot be loaded, there is silence, and a line below the picture.
 import { build } from './build';
 import { onPress } from './gestures';
 import type { Notices } from './notices';
@@ -9,7 +9,7 @@ export class Music {
     readonly played: Promise<void>;
     private readonly player = new Audio();
     private notePlayed: () => void = () => undefined;
-    /** Whether the game wants the track to be heard now, whether or not the browser allows it. */
+    /** Whether the game wants the track to be heard now, even if the browser does not allow it. */
     private wanted = false;
     private told = '';
 
@@ -75,7 +75,7 @@ export class Music {
         if (this.player.paused) this.player.play().catch(() => undefined);
     }
 
-    /** A track that has arrived and still cannot be heard lacks a device, or is broken. */
+    /** If a track has been loaded but cannot be heard, there is no audio device, or the file is broken. */
     private tellFault(): void {
         const hasCome = this.player.error?.code === MediaError.MEDIA_ERR_DECODE;
         this.tell(hasCome ? 'The music cannot be played in this browser.' : 'The music cannot be loaded.');

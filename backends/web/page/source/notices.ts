@@ -1,4 +1,4 @@
-// What the page itself says: one line below the picture, and words for screen readers alone.
+// What the page itself says: one line below the picture, and words for screen readers only.
 const wordsKept = 4;
 const wordsLast = 5000; // milliseconds; after that, nobody comes across them while reading the page
 
@@ -12,14 +12,14 @@ export class Notices {
         private readonly voice: HTMLElement,
     ) {}
 
-    /** A sentence takes the place of the last one on the same subject; an empty one withdraws it. The newest is shown. */
+    /** A sentence replaces the previous one on the same subject; an empty one removes it. The newest is shown. */
     show(subject: Subject, sentence: string): void {
         this.sentences.delete(subject);
         if (sentence !== '') this.sentences.set(subject, sentence);
         this.line.textContent = [...this.sentences.values()].pop() ?? '';
     }
 
-    /** What comes at the same time is spoken one after the other. */
+    /** Words that arrive at the same time are spoken one after the other. */
     speak(words: string): void {
         const spoken = document.createElement('p');
         spoken.textContent = words;

@@ -1,5 +1,5 @@
-// Keeps the page working without a network. A new version is cached as a whole while the old one is being played, and is
-// used from the next start on at which nobody plays the old one any more.
+// Keeps the page working offline. A new version is cached as a whole while the old one is being played. It is used from
+// the next start at which nobody is playing the old one.
 import { build } from './build';
 import { cacheName, lockName } from './caches';
 import { serviceWorkerAddress } from './trusted';
@@ -15,13 +15,13 @@ interface Connection {
 
 const scope = new URL('./', location.href).href;
 
-/** Whether a new version has just taken over, so that this page has to be loaded anew. */
+/** Whether a new version has just taken over, so that this page must be reloaded. */
 export async function takeNewVersion(): Promise<boolean> {
     const workers = navigator.serviceWorker as ServiceWorkerContainer | undefined;
     const waiting = (await workers?.getRegistration().catch(() => undefined))?.waiting;
     if (!workers || !waiting) return false;
     return new Promise((resolve) => {
-        // The page before this one may take a moment to go.
+        // The previous page may take a moment to go away.
         const ask = () => waiting.postMessage('take over');
         const asking = setInterval(ask, takeOverPause);
         const end = (hasTakenOver: boolean) => {
@@ -34,15 +34,15 @@ export async function takeNewVersion(): Promise<boolean> {
     });
 }
 
-/** Until this page is closed, no other version deletes the files that it was made of. */
+/** Until this page is closed, no other version deletes its files. */
 export function holdVersion(): void {
     const locks = navigator.locks as LockManager | undefined;
     const name = lockName(cacheName(scope, build.folder));
-    // Where the browser refuses locks, it keeps no caches either.
+    // Where the browser refuses locks, it has no caches either.
     locks?.request(name, { mode: 'shared' }, () => new Promise(() => undefined)).catch(() => undefined);
 }
 
-/** Keeps everything for the next start, and, once music has been played here, the tracks one after the other. */
+/** Caches everything for the next start, and, once music has been played here, the tracks one after the other. */
 export async function keepForOffline(musicPlayed: Promise<void>): Promise<void> {
     const workers = navigator.serviceWorker as ServiceWorkerContainer | undefined;
     if (!workers) return;
@@ -61,7 +61,7 @@ async function keepMusic(): Promise<void> {
     }
 }
 
-/** Whether the player pays for data, as far as the browser says. */
+/** Whether the player pays for data, as far as the browser knows. */
 function isMetered(): boolean {
     const { connection } = navigator as { connection?: Connection };
     return connection?.saveData === true || connection?.type === 'cellular';

@@ -1,12 +1,12 @@
-// Gamepads, as keys: stick and cross are the arrows, the buttons press, pause and turn pages. Browsers tell of a gamepad with
-// its first button, and of what is pressed only when they are asked.
+// Gamepads, as keys: stick and cross are the arrows, the buttons press, pause and turn pages. Browsers report a gamepad
+// when its first button is pressed, and have to be asked what is pressed after that.
 import { moveFocus } from './keys';
 
-// Of a stick's way of 1: where it counts as held in a direction, and where as let go again.
+// Where a stick, which moves from 0 to 1, counts as held in a direction, and where as released again.
 const heldFrom = 0.6;
 const letGoBelow = 0.3;
 
-// By their numbers in the standard layout.
+// By their numbers in the browser's standard layout.
 const buttons: Readonly<Record<number, string>> = {
     0: ' ',
     1: 'Enter',
@@ -23,8 +23,8 @@ const buttons: Readonly<Record<number, string>> = {
 
 const steps: Readonly<Record<string, number>> = { ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 };
 
-// Some browsers look for gamepads all the time while a page wants to know of them, which costs as much as a slow game. During a
-// game without one the page wants to know it for one second in ten.
+// Some browsers keep looking for gamepads as long as a page listens for them, which costs as much as a slow game does.
+// During a game without a gamepad, the page listens for one second in ten.
 const second = 1000; // milliseconds
 const restInGame = 10; // seconds
 
@@ -65,7 +65,7 @@ function* keysOf(pad: Gamepad | null): Generator<string> {
     if (stick) yield stick;
 }
 
-/** A stick is an arrow until it has been let go. */
+/** A stick that has become an arrow stays one until it is released. */
 function stickOf(x: number, y: number): string {
     const along = stick.endsWith('t') ? x : y;
     if (stick && Math.abs(along) >= letGoBelow) return stick;
@@ -74,7 +74,7 @@ function stickOf(x: number, y: number): string {
     return '';
 }
 
-/** What a key would do; where the browser itself would do it, we do. */
+/** What a key would do; where the browser itself would act on a real key, we do. */
 function press(key: string): void {
     const focus = document.activeElement ?? document.body;
     const event = new KeyboardEvent('keydown', { key, bubbles: true, cancelable: true });

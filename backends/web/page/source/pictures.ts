@@ -23,12 +23,12 @@ export class Pictures {
         layout.whenChanged(() => this.choose(layout.density > 1 ? '2x' : '1x'));
     }
 
-    /** Reports each picture of the main menu as it arrives, and returns when all have arrived or failed. */
+    /** Reports each picture of the main menu as it arrives, and returns when every one has arrived or failed. */
     async loadFirst(report: () => void): Promise<void> {
         await Promise.all(first.map((name) => this.load(name).then(report)));
     }
 
-    /** So that a button's other face, or a dialog, is ready when it is needed. */
+    /** Has a button's other face, or a dialog, ready by the time it is needed. */
     async loadOthers(): Promise<void> {
         const { size } = this;
         for (const key of files.keys()) {
@@ -37,7 +37,7 @@ export class Pictures {
         }
     }
 
-    /** Shows a picture in an image of the page from now on; an empty name shows nothing. */
+    /** Shows a picture in an image element from now on; an empty name shows nothing. */
     show(image: HTMLImageElement, name: string): void {
         if (this.shown.get(image) === name) return;
         this.shown.set(image, name);

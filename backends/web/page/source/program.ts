@@ -1,6 +1,6 @@
-// Brings the program to life: the functions of backends/web/Imports.h, and the two ways in which a program can pause
-// while the page goes on. Browsers that can suspend WebAssembly run the one build; for the others there is a
-// second build that unwinds its own stack and rewinds it.
+// Brings the program to life: the functions of backends/web/Imports.h, and the two ways to pause the program while the
+// page keeps running. Browsers that can suspend WebAssembly run one build; for the others there is a second one, which
+// unwinds its own stack and rewinds it.
 import { build } from './build';
 import type { Focus } from './focus';
 import { Frames } from './frames';
@@ -50,7 +50,7 @@ interface Suspension {
 type Wait = (until: number, forInput: number) => Promise<void>;
 
 export interface Program {
-    /** Comes back when the program has ended. */
+    /** Resolves when the program has ended. */
     run(machine: Machine): Promise<void>;
 }
 
@@ -59,7 +59,7 @@ export async function loadProgram(): Promise<Program> {
     return { run: (machine) => (canSuspend() ? runSuspending(module, machine) : runUnwinding(module, machine)) };
 }
 
-/** Browsers compile a file while it comes only if the server tells its type; not every server does. */
+/** Browsers compile a file while it loads only if the server sends its type; not every server does. */
 async function compile(address: string): Promise<WebAssembly.Module> {
     try {
         return await WebAssembly.compileStreaming(fetch(address));
@@ -76,7 +76,7 @@ async function runSuspending(module: WebAssembly.Module, machine: Machine): Prom
     await promising(program.run)();
 }
 
-/** Each wait goes back all the way to this loop, which calls the program anew when it is over. */
+/** Each wait unwinds all the way to this loop, which calls the program again when the wait is over. */
 async function runUnwinding(module: WebAssembly.Module, machine: Machine): Promise<void> {
     let waited: Promise<void> | undefined;
     let stack = 0;
@@ -156,7 +156,7 @@ async function instantiate(
         pauseMusic: () => music.pause(),
         stopMusic: () => music.stop(),
     };
-    // The C library could write to files, if there were any.
+    // The C library could write to files, but there are none.
     const badFile = () => 8;
     const files = { fd_close: badFile, fd_seek: badFile, fd_write: badFile };
     const instance = await WebAssembly.instantiate(module, { page, wasi_snapshot_preview1: files });

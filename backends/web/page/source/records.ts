@@ -11,7 +11,7 @@ class FieldReader {
         this.view = new DataView(memory.buffer);
     }
 
-    /** The address behind the fields that were read. */
+    /** The address after the last field read. */
     end(): number {
         return this.at;
     }
@@ -20,7 +20,7 @@ class FieldReader {
         return this.view.getInt32(this.next(), true);
     }
 
-    /** Without a sign. */
+    /** Unsigned. */
     bits(): number {
         return this.view.getUint32(this.next(), true);
     }
@@ -126,7 +126,7 @@ export interface ElementRecord {
 
 const noGround = 0xffffffff;
 
-/** From 0xBBGGRR to the form of style sheets. */
+/** From 0xBBGGRR to the notation of style sheets. */
 function cssColour(colour: number): string {
     if (colour === noGround) return 'transparent';
     return `rgb(${colour & 0xff} ${(colour >> 8) & 0xff} ${(colour >> 16) & 0xff})`;
@@ -228,7 +228,7 @@ function ownSizes(): Record<string, number> {
     };
 }
 
-/** Throws if the program at hand was built for another page. */
+/** Throws if the program was built for another version of the page. */
 export function checkRecords(memory: WebAssembly.Memory, address: number): void {
     const field = new FieldReader(memory, address);
     for (const [name, size] of Object.entries(ownSizes())) {

@@ -1,11 +1,11 @@
-// Settings and scores: one text in the browser's storage, so that all of it is stored or none. Its contents are up to the
-// program.
+// Settings and scores: one text in the browser's storage, so either all of it is stored or none. What it contains is
+// the program's business.
 const key = 'prismfall';
 
 export class Settings {
     private opened = new Uint8Array();
 
-    /** The length in bytes of what is stored, which is then ready to be copied. */
+    /** Returns the length of the stored text in bytes; it can then be copied. */
     open(): number {
         this.opened = new TextEncoder().encode(this.stored());
         return this.opened.length;
@@ -15,7 +15,7 @@ export class Settings {
         memory.set(this.opened);
     }
 
-    /** Whether it could be stored. */
+    /** Returns whether it could be stored. */
     write(text: string): boolean {
         try {
             localStorage.setItem(key, text);

@@ -1,12 +1,12 @@
-// Plays sound effects, one at a time: a new one cuts off the last. The files are fetched after the first picture; until then,
-// and where no sound is possible, there is silence. How long the program waits for a sound is up to the program.
+// Plays sound effects, one at a time: a new one cuts off the last. The files are fetched after the first picture; until
+// then, and where no sound is possible, there is silence. The program itself decides how long it waits for a sound.
 import { build } from './build';
 import { onPress } from './gestures';
 import type { Notices } from './notices';
 
 const decodingRate = 44100;
-const latency = 0.02; // seconds; as short as nobody hears, and half the work of the shortest
-const openTime = 2000; // milliseconds after a press or a sound; a device that stays open costs power
+const latency = 0.02; // seconds; too short to be noticed, and half the work of the shortest
+const openTime = 2000; // milliseconds after a press or a sound; an open device costs power
 
 export class Sounds {
     /** From 0 to 1. */
@@ -49,7 +49,7 @@ export class Sounds {
         this.open(1000 * sound.duration);
     }
 
-    /** Opens the device for a sound of that many milliseconds. */
+    /** Opens the device for a sound of `duration` milliseconds. */
     private open(duration = 0): void {
         void this.context?.resume();
         clearTimeout(this.closing);
@@ -67,7 +67,7 @@ export class Sounds {
             this.context ??= this.makeContext();
             this.open();
         } catch {
-            // No device: it stays silent.
+            // No device: silence.
         }
     }
 

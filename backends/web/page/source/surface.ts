@@ -1,6 +1,6 @@
-// The painted layer of the main window: a pixel for each of the game's, whatever its size on the page. Nearly all of it is
-// the playfield, where the background is black. That part is a canvas of its own that nothing shines through, which
-// browsers put on the screen with far less work; the canvas beneath it shows what is painted around it.
+// The painted layer of the main window: one pixel for each game pixel, whatever its size on the page. Nearly all of it
+// is the playfield, where the background is black. That part is a separate opaque canvas, which browsers put on the
+// screen with far less work; the canvas beneath it shows what is painted around it.
 import { add, make } from './elements';
 
 const accessibleName =
@@ -8,7 +8,7 @@ const accessibleName =
 
 const field = { left: 16, top: 18, right: 668, bottom: 584 };
 
-// What is painted this near to the field's edge is on both canvases, since at some scales both can be seen there.
+// What is painted this close to the field's edge is on both canvases, since at some scales both can be seen there.
 const seam = 4;
 const inside = {
     left: field.left + seam,
@@ -18,12 +18,12 @@ const inside = {
 };
 
 export class Surface {
-    /** Both canvases, one on the other. */
+    /** Both canvases, one on top of the other. */
     readonly node = make('div', 'surface');
     private readonly below: CanvasRenderingContext2D | null;
     private readonly above: CanvasRenderingContext2D | null;
 
-    /** What is on the canvas below, around the field. */
+    /** What is on the lower canvas, around the field. */
     private readonly around: Uint32Array;
 
     constructor(
@@ -31,7 +31,7 @@ export class Surface {
         height: number,
     ) {
         this.around = new Uint32Array(width * height);
-        // Keys play on it: see keys.ts.
+        // It takes the keys: see keys.ts.
         this.node.tabIndex = 0;
         this.node.setAttribute('role', 'application');
         this.node.setAttribute('aria-label', accessibleName);
@@ -39,7 +39,7 @@ export class Surface {
         this.above = this.addCanvas(field.left, field.top, field.right - field.left, field.bottom - field.top, false);
     }
 
-    /** Changes the pixels that it shows: what is unpainted is black on the playfield. */
+    /** Changes the given pixels: what is unpainted is black on the playfield. */
     show(pixels: Uint8ClampedArray<ArrayBuffer>, left: number, top: number, width: number): void {
         const image = new ImageData(pixels, width);
         const whole = new Uint32Array(pixels.buffer, pixels.byteOffset, pixels.length / 4);
@@ -48,14 +48,14 @@ export class Surface {
         this.above?.putImageData(image, left - field.left, top - field.top);
     }
 
-    /** Whether anything changes around the field. Much is painted there again and again as it is. */
+    /** Whether anything changes around the field. Much of it is repainted again and again unchanged. */
     private noteAround(pixels: Uint32Array, left: number, top: number, width: number): boolean {
         let isChanged = false;
         for (let i = 0; i < pixels.length; ++i) {
             const x = left + (i % width);
             const y = top + Math.floor(i / width);
             const isInside = y >= inside.top && y < inside.bottom && x >= inside.left && x < inside.right;
-            // The rest of the row is inside up to there.
+            // The rest of the row up to there is inside.
             if (isInside) {
                 i += Math.min(inside.right - x, width - (i % width)) - 1;
                 continue;
@@ -84,7 +84,7 @@ export class Surface {
     }
 }
 
-/** A canvas without opacity of its own must not be given transparent pixels: some browsers show them white. */
+/** An opaque canvas must not be given transparent pixels: some browsers show them white. */
 function makeOpaque(pixels: Uint32Array): void {
     pixels.forEach((pixel, i) => (pixels[i] = pixel | 0xff000000));
 }

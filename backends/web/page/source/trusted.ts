@@ -1,5 +1,5 @@
-// Browsers that enforce Trusted Types take the address of a script only from a named policy. The page has one such address,
-// the service worker's.
+// Browsers that enforce Trusted Types accept the address of a script only from a named policy. The page has one such
+// address, that of the service worker.
 const serviceWorker = 'service-worker.js';
 
 interface Policy {

@@ -1,7 +1,7 @@
 // The one place where the program pauses: until a given time, an event, or the page being hidden or shown.
 import { EventKind, type PageEvent } from './records';
 
-// Browsers make a timer that another timer has set wait at least four milliseconds, but not one set by a message.
+// Browsers delay a timer set by another timer by at least four milliseconds, but not one set by a message.
 const shortestNestedTimer = 4;
 
 interface Pause {
@@ -31,7 +31,7 @@ export class Waiting {
     }
 
     send(kind: EventKind, window: number, number = 0, x = 0, y = 0): void {
-        // Of the pointer's moves the last one counts.
+        // Of several moves in a row, only the last counts.
         if (kind === EventKind.Move && this.queue.at(-1)?.kind === EventKind.Move) this.queue.pop();
         this.queue.push({ kind, window, number, x, y, time: performance.now() });
         if (this.forInput) this.end();
@@ -51,7 +51,7 @@ export class Waiting {
         });
     }
 
-    /** Ends the program where it waits. */
+    /** Makes the program's current wait fail. */
     fail(error: unknown): void {
         this.endPause()?.reject(error);
     }

@@ -1,4 +1,4 @@
-// The windows: the main one is a part of the page, the others are its dialogs, with a frame, a title and a close box.
+// The windows: the main one is part of the page, the others are dialogs, with a frame, a title and a close box.
 import { add, Elements, make, makeSpot } from './elements';
 import type { Input } from './input';
 import { type Layout, place } from './layout';
@@ -71,12 +71,12 @@ export class Windows {
         dialog.remove();
     }
 
-    /** The number of the dialog in front, or undefined for none. */
+    /** The number of the dialog in front, or undefined if there is none. */
     frontDialog(): number | undefined {
         return [...this.windows].filter(([, { dialog }]) => dialog).pop()?.[0];
     }
 
-    /** The program has ended, or could not go on; the sentence says why. */
+    /** The program has ended or failed; the sentence says why. */
     end(sentence = ''): void {
         this.picture.inert = true;
         this.picture.classList.add('ended');
@@ -94,7 +94,7 @@ export class Windows {
         inner.style.height = `${record.height}px`;
         inner.id = `inner${number}`;
         dialog.setAttribute('aria-describedby', inner.id);
-        // The focus is the dialog's own at first, so that its title and texts are read.
+        // The dialog itself has the focus at first, so that its title and texts are read.
         dialog.tabIndex = -1;
         const header = add(dialog, make('header'));
         const title = add(header, make('h2'));
@@ -104,7 +104,7 @@ export class Windows {
         const closeBox = add(header, make('button', 'close'));
         closeBox.setAttribute('aria-label', 'Close');
         closeBox.addEventListener('click', () => this.waiting.send(EventKind.Close, number));
-        // Some browsers close a dialog by ways of their own, as with a phone's key for going back.
+        // Some browsers have other ways to close a dialog, such as a phone's Back.
         dialog.addEventListener('cancel', (event) => {
             event.preventDefault();
             this.waiting.send(EventKind.Close, number);

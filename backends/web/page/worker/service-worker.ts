@@ -1,10 +1,10 @@
-// Answers the page's requests from the browser's caches, so that it starts without a network. The files of a version come
-// all or none, in a folder and a cache of their own. Other programs may live at the same address: caches are named after
-// the folder that this page lies in, and nothing else is answered, matched or deleted.
+// Answers the page's requests from the browser's caches, so that it starts offline. The files of a version are cached
+// all or none, under their own folder name and cache. Other programs may live at the same address: caches are named
+// after the page's folder, and nothing else is answered, matched or deleted.
 import { build } from '../source/build';
 import { cacheName, isOwnCache, lockName } from '../source/caches';
 
-// This file runs beside the page, where other things are global.
+// This file runs beside the page, where the globals are different.
 const worker = self as unknown as ServiceWorkerGlobalScope;
 const scope = worker.registration.scope;
 const page = './';
@@ -22,7 +22,7 @@ async function keepVersion(): Promise<void> {
     await cache.addAll([page, ...build.files].map((file) => new Request(file, { cache: 'no-cache' })));
 }
 
-/** A version's cache lives as long as a page of that version does, which holds a lock in its name. */
+/** A version's cache lives as long as any page of that version, which holds a lock in its name. */
 async function dropOldVersions(): Promise<void> {
     const { held = [] } = await navigator.locks.query();
     const isInUse = (cache: string) => held.some(({ name }) => name === lockName(cache));
@@ -40,13 +40,13 @@ async function ownCaches(): Promise<string[]> {
     return (await caches.keys()).filter((name) => isOwnCache(scope, name));
 }
 
-/** The page itself by its two addresses, and the files in its folders. */
+/** The page itself, by its two addresses, and the files in its folders. */
 function isOurs(request: Request): boolean {
     const [address] = request.url.split(/[?#]/);
     if (!address?.startsWith(scope)) return false;
     const file = address.slice(scope.length);
     if (request.mode === 'navigate') return file === '' || file === 'index.html';
-    // Long requests that pass through here would keep a new version waiting, also after their page has gone.
+    // Long requests passing through here would keep a new version waiting, even after their page is gone.
     const isKeepingMusic = request.destination === '' && file.startsWith('music-');
     return !isKeepingMusic && /^(version-|music-|manifest\.webmanifest$|icons\/)/.test(file);
 }
@@ -67,7 +67,7 @@ async function keptAnswer(request: Request): Promise<Response | undefined> {
     return undefined;
 }
 
-/** Music players ask for parts of a file. */
+/** Music players request parts of a file. */
 async function partOf(kept: Response, first: number, last: string): Promise<Response> {
     const whole = await kept.blob();
     const end = last === '' ? whole.size : Math.min(Number(last) + 1, whole.size);
