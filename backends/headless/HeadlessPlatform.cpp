@@ -30,7 +30,7 @@ void HeadlessPlatform::TickThrough(Nanoseconds moment) {
     }
 }
 
-// Without a renewal in the script the game has parted from it, which its next check will show.
+// If the script has no renewal here, the game has diverged from it, which its next check will show.
 void HeadlessPlatform::RenewMoment() {
     if (script == nullptr) return timers.RenewMoment();
     if (const std::optional<Nanoseconds> moment = script->TakeRenewal()) MoveClockTo(*moment);
@@ -150,7 +150,7 @@ void HeadlessPlatform::EndProgram() {
 
 // --- Timers, time and chance.
 
-// Nothing that a recording is made of happens in a handler but what is due within a millisecond of its moment.
+// While a handler runs, a recording has nothing happen except what is due within a millisecond of its moment.
 void HeadlessPlatform::LetEventsRun() {
     if (script != nullptr) {
         TickThrough(std::chrono::milliseconds(timers.MomentInMilliseconds() + 1));

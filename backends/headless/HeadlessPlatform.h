@@ -20,7 +20,7 @@
 
 namespace prismfall {
 
-// What happens on the machine while a recording is played back, in place of answers that were queued.
+// What happens on the machine while a recording is played back, instead of queued answers.
 class HeadlessScript {
   public:
     HeadlessScript() = default;
@@ -28,7 +28,7 @@ class HeadlessScript {
     HeadlessScript& operator=(const HeadlessScript&) = delete;
     virtual ~HeadlessScript() = default;
 
-    // Lets time pass until the next thing that happens, and lets it happen. False if there is none.
+    // Lets time pass until the next thing that happens, and lets it happen. Returns false if there is none.
     virtual bool LetNextHappen() = 0;
     // The moment that the running handler goes on at, if the script knows one.
     virtual std::optional<Nanoseconds> TakeRenewal() = 0;
@@ -43,12 +43,12 @@ class HeadlessPlatform : public Platform {
 
     // Advances the clock by `milliseconds`; handlers that let events run may move it further.
     void Run(std::int64_t milliseconds);
-    // As Run, but up to a moment, and each timer ticks at its own due time even if that has passed.
+    // Like Run, but up to a moment, and each timer ticks at its own due time even if that has passed.
     void TickThrough(Nanoseconds moment);
-    // Null for none. Under a script a handler that lets events run, or opens a dialog, goes on as in a real machine.
+    // May be null. With a script, a handler that lets events run, or opens a dialog, continues as on a real machine.
     void Follow(HeadlessScript* newScript) { script = newScript; }
     Nanoseconds Now() const { return clock; }
-    // Does nothing if the clock is further already.
+    // Does nothing if the clock is already past that.
     void MoveClockTo(Nanoseconds moment);
     // Calls a timer's handler now, as a running handler, and leaves its due time alone.
     void Fire(Timer timer) { timers.Fire(timer); }

@@ -7,7 +7,7 @@
 
 namespace prismfall {
 
-// 0xBBGGRR with six digits; grey1, grey2 and grey3 for the core and the two edges of a beam at a game's end.
+// 0xBBGGRR as six digits; grey1, grey2 and grey3 for the core and the two edges of a beam at a game's end.
 std::string ColourName(Colour colour);
 
 // The dialog's name, followed by the verdict if it shows a puzzle's result.

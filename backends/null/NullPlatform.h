@@ -1,5 +1,5 @@
-// The smallest backend that fulfils the interface: it shows, plays and stores nothing, and time passes only in Run.
-// Copy it to start a port to a new platform. What each function must do is documented in platform/, which also has
+// The smallest backend that implements the interface: it shows, plays and stores nothing, and time passes only in Run.
+// Copy it to start a port to a new platform. What each function must do is documented in platform/, which also contains
 // everything that backends share.
 #pragma once
 

@@ -27,7 +27,8 @@ constexpr std::array<Hint, 7> kHints = {{
     {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
     // The click that brings the window to the front also counts in the game.
     {SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1"},
-    // The desktop grabs the pointer from press to release anyway; requesting it costs four more round trips per click.
+    // The desktop grabs the pointer from press to release anyway; requesting it would cost four more round trips per
+    // click.
     {SDL_HINT_MOUSE_AUTO_CAPTURE, "0"},
     {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
     {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
@@ -72,7 +73,7 @@ SdlPlatform::SdlPlatform(PictureStore pictures)
 
 SdlPlatform::~SdlPlatform() { SDL_DelEventWatch(NoteEndBySystem, this); }
 
-// Never caused by the player, who ends the program by a key, a button or a window's close box.
+// Never caused by the player, who ends the program with a key, a button or a window's close box.
 int SdlPlatform::NoteEndBySystem(void* self, SDL_Event* event) {
     if (event->type == SDL_QUIT) static_cast<SdlPlatform*>(self)->isEndedBySystem = true;
     return 0;
@@ -206,8 +207,8 @@ bool SdlPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
     return failure.empty();
 }
 
-// Shown once: a lasting failure need not be repeated. A box may wait for the player, but not when the system ends the
-// program.
+// Shown once: a lasting failure need not be repeated. A box may wait for the player, but not when the system is ending
+// the program.
 void SdlPlatform::TellOfUnsavedSettings(const std::string& failure) {
     if (std::exchange(isFailedSaveTold, true)) return;
     if (isEndedBySystem) {

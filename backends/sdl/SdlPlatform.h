@@ -21,7 +21,7 @@ namespace prismfall {
 
 class SdlPlatform final : public Platform {
   public:
-    // Null if the desktop cannot be reached; `failure` then says why in one sentence. `pictures` is the folder of the
+    // Null if the desktop cannot be reached; `failure` then says why in one sentence. `pictures` is the folder with the
     // picture files.
     static std::unique_ptr<SdlPlatform> Create(const std::filesystem::path& pictures, std::string& failure);
     ~SdlPlatform() override;
@@ -31,7 +31,7 @@ class SdlPlatform final : public Platform {
 
     // See SdlDesktop.h.
     void WhenDropped(std::function<void(const std::string& dropped)> act) { desktop.WhenDropped(std::move(act)); }
-    // The same happens as if the player dropped that, once the running handlers have returned.
+    // Acts as if the player had dropped that, once the running handlers have returned.
     static void Drop(const std::string& dropped);
 
     void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
@@ -92,7 +92,7 @@ class SdlPlatform final : public Platform {
     RandomNumbers random;
     Window* main = nullptr;
     std::atomic<bool> isEndedBySystem = false;  // set on whichever thread the event comes from
-    std::atomic<bool> isSaving = false;         // the end may break in on that
+    std::atomic<bool> isSaving = false;         // the end may come in the middle of a save
     bool isFailedSaveTold = false;
 };
 

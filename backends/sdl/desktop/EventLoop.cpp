@@ -1,5 +1,5 @@
 // Waiting. SDL wakes up to a millisecond late. Where ticks follow each other closely, the last stretch before one is
-// slept by the clock; elsewhere a millisecond is not noticeable, and one wake-up instead of two saves power.
+// slept with the system clock; elsewhere a millisecond is not noticeable, and one wake-up instead of two saves power.
 #include "backends/sdl/desktop/EventLoop.h"
 
 #include <SDL.h>
@@ -17,7 +17,7 @@ constexpr Nanoseconds kSleptByClock = 1ms;  // at least; the last stretch before
 constexpr Nanoseconds kNearby = 20ms;       // timers due within this time tick exactly on time
 constexpr Nanoseconds kLongestWait = 24h;
 constexpr Nanoseconds kYieldRest = 1ms;
-constexpr Nanoseconds kPaintPause = 15ms;  // between two checks for exposed windows while nothing else may happen
+constexpr Nanoseconds kPaintPause = 15ms;  // between checks for exposed windows while nothing else may happen
 constexpr int kEventsAtOnce = 64;          // then timers and painting get their turn
 
 void SleepUntil(Nanoseconds moment) {

@@ -1,5 +1,5 @@
-// The one loop that everything runs on: takes events, lets due timers tick, has windows repainted, and sleeps until
-// there is something to do.
+// The one loop that everything runs on: takes events, lets due timers tick, repaints windows, and sleeps until there is
+// something to do.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@ namespace prismfall {
 
 class EventLoop {
   public:
-    // `whenEndAsked` is called when the player or the system wants to end the program while nothing else may happen.
+    // `whenEndAsked` is called when the player or the system asks the program to end while nothing else may happen.
     EventLoop(SdlDesktop& shownWindows, std::function<void()> whenEndAsked)
         : desktop(shownWindows), endAsked(std::move(whenEndAsked)) {}
 
@@ -20,15 +20,15 @@ class EventLoop {
     TimerWheel& Timers() { return timers; }
     void SetPace(int percent) { time.SetPace(percent); }
 
-    // Runs forever: the outermost level, the only one that tells the main window that it was minimised or restored.
+    // Runs forever. The outermost loop, and the only one that tells the main window that it was minimised or restored.
     [[noreturn]] void Run();
-    // Runs inside a handler as long as `condition` holds.
+    // Runs inside a handler while `condition` is true.
     void RunWhile(const std::function<bool()>& condition);
-    // The same, but game time is stopped and no timer ticks.
+    // The same, but game time stands still and no timer ticks.
     void FreezeWhile(const std::function<bool()>& condition);
-    // Handles what is pending. If nothing is, sleeps for a moment, so that a caller may wait by calling it in a loop.
+    // Handles pending events. If there are none, sleeps briefly, so a caller may wait by calling it in a loop.
     void LetEventsRun();
-    // Waits for a time during which game time is stopped and nothing happens except painting and the program's end.
+    // Waits for `length` while game time stands still and nothing happens except painting and the program's end.
     void PaintFor(Nanoseconds length);
 
   private:

@@ -9,7 +9,7 @@ namespace prismfall {
 
 namespace {
 
-// Of a stick's way of 32767: where it counts as held in a direction, and where as let go again.
+// Where a stick, which moves up to 32767, counts as held in a direction, and where as released again.
 constexpr int kHeldFrom = 20000;
 constexpr int kLetGoBelow = 10000;
 
@@ -56,7 +56,7 @@ Key Gamepads::KeyOf(const SDL_Event& event) {
     }
 }
 
-// A stick is an arrow once, until it has been let go.
+// A stick counts as an arrow once, until it is released.
 Key Gamepads::KeyOfStick(const SDL_ControllerAxisEvent& event) {
     const bool isSideways = event.axis == SDL_CONTROLLER_AXIS_LEFTX;
     if (!isSideways && event.axis != SDL_CONTROLLER_AXIS_LEFTY) return Key::None;

@@ -1,5 +1,5 @@
-// Gamepads as keys: stick and cross are the arrows, the buttons press, pause and turn pages. They may come and go at
-// any time.
+// Gamepads as keys: stick and cross are the arrows, the buttons press, pause and turn pages. They may be plugged in and
+// out at any time.
 #pragma once
 
 #include <SDL.h>
@@ -14,11 +14,11 @@ class Gamepads {
     Gamepads(const Gamepads&) = delete;
     Gamepads& operator=(const Gamepads&) = delete;
 
-    // Begins to look for gamepads. A system that cannot is one without any.
+    // Starts looking for gamepads. On a system that cannot, there are none.
     static void Begin();
 
-    // The key that an event of a gamepad stands for; None for all other events. Takes in a gamepad that has come, and
-    // lets one go that has gone.
+    // The key that a gamepad event stands for; None for all other events. Opens gamepads as they are plugged in and
+    // closes those that are removed.
     Key KeyOf(const SDL_Event& event);
 
   private:

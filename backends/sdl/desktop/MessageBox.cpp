@@ -1,5 +1,4 @@
-// What the error box looks like: as tall as its text needs, and drawn in code, so that it works without any picture
-// file.
+// The look of the error box: as tall as its text needs, and drawn in code, so it needs no picture files.
 #include "backends/sdl/desktop/MessageBox.h"
 
 #include <algorithm>

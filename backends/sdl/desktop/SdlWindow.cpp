@@ -74,7 +74,7 @@ void SdlWindow::Expose() {
     marginsLost = true;
 }
 
-// Only now may a desktop say what size it gives the window, and how many pixels a point has.
+// Only now does the desktop say what size the window has, and how many pixels a point has.
 void SdlWindow::FitTo(const SDL_Surface& shown) {
     if (shown.w == shownSize.width && shown.h == shownSize.height) return;
     shownSize = {shown.w, shown.h};

@@ -1,4 +1,4 @@
-// One real window of the desktop, while it is shown: creates it from a Window's data and presents what has changed.
+// One real window on the desktop, while it is shown: creates it from a Window's data and presents what has changed.
 // Whatever size the desktop gives it, the whole picture is shown. WindowInput handles the input.
 #pragma once
 
@@ -26,7 +26,7 @@ class SdlWindow {
         Looks* layer = nullptr;            // of the main window
         SDL_Window* owner = nullptr;       // of a dialog
         std::optional<Place> frameCorner;  // in points of the desktop; if unset, the desktop chooses
-        float pointsPerGamePixel = 1;      // the scale to request; points are the desktop's unit for places and sizes
+        float pointsPerGamePixel = 1;      // the scale to request; points are the desktop's unit of length
     };
 
     // Creates the window and shows it. If the desktop refuses, IsReal is false and SDL_GetError says why.
@@ -40,23 +40,23 @@ class SdlWindow {
 
     // Presents what has changed since the last call.
     void Refresh();
-    // Presents everything at the next call: the desktop has lost the window's contents.
+    // Makes the next call present everything: the desktop has lost the window's contents.
     void Expose();
     void HideNow() { SDL_HideWindow(real.get()); }
-    // The whole display, or the window's own size again.
+    // Switches between the whole display and the window's own size.
     void ToggleFullScreen();
     void Raise() { SDL_RaiseWindow(real.get()); }
     bool IsMinimised() const { return (SDL_GetWindowFlags(real.get()) & SDL_WINDOW_MINIMIZED) != 0; }
     // The frame in the desktop's points, or nothing if the desktop does not report one.
     std::optional<FrameBorders> Borders() const;
-    // The scale that the desktop has given.
+    // The scale chosen by the desktop.
     float PointsPerGamePixel() const { return fit.scale / pixelsPerPoint; }
-    // Where the picture begins inside the window, in points.
+    // The top left corner of the picture inside the window, in points.
     Place PictureCorner() const;
-    // Converts a place in the window, in points, to a place on its picture, or outside it on the black border.
+    // Converts a position in the window, in points, to one in its picture, or outside it on the black border.
     GamePlace ToGame(int x, int y) const;
     bool IsOnPicture(const GamePlace& place) const;
-    // Where the picture begins on the desktop, in game pixels; nothing if the desktop does not say.
+    // The picture's top left corner on the desktop, in game pixels; nothing if the desktop does not say.
     std::optional<Place> Origin() const;
 
   private:

@@ -1,7 +1,7 @@
 // A thread that sleeps until a signal arrives. A signal handler could not do this: pushing an event takes a lock, and a
-// flag alone would not wake the loop. Only a main thread that hangs is interrupted by a handler. It is found waiting
-// for the display, where no lock is held that saving needs; if one is held all the same, the signal's own effect is
-// left.
+// flag alone would not wake the loop. Only a hanging main thread is interrupted by a handler. Usually it hangs waiting
+// for the display, holding none of the locks that saving needs; if it does hold one, the signal's default action ends
+// the program.
 #include "backends/sdl/desktop/SignalWatch.h"
 
 #include <SDL.h>
@@ -24,7 +24,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kGracePeriod = 2s;     // for an orderly end
-constexpr auto kNextBreakIn = 100ms;  // on a main thread that hangs
+constexpr auto kNextBreakIn = 100ms;  // between interruptions of a hanging main thread
 constexpr int kBreakIns = 8;
 constexpr int kBreakInSignal = SIGUSR1;
 
@@ -64,7 +64,7 @@ void PushQuit() {
     AwaitEnd(first);
 }
 
-// Until the other side of the connection has gone.
+// Waits until the other end of the connection is gone.
 [[noreturn]] void AwaitHangUp(int connection) {
     pollfd wait{connection, 0, 0};
     while (poll(&wait, 1, -1) < 0 && errno == EINTR) continue;
@@ -73,7 +73,7 @@ void PushQuit() {
 
 void BreakIn(int) { (*endOfWhatHangs.load())(); }
 
-// False if the system gives no thread.
+// Returns false if the system cannot start a thread.
 template <typename... Arguments>
 bool RunBeside(void (*task)(Arguments...), Arguments... arguments) {
     try {
@@ -99,7 +99,7 @@ bool WatchEndSignals() {
     return isWatching;
 }
 
-// SDL has handlers of its own for the other two.
+// SDL has its own handlers for the other two.
 void DeliverEarlySignal() {
     if (!isWatching && !IsIgnored(SIGHUP)) std::signal(SIGHUP, [](int) { std::raise(SIGTERM); });
     takesEvents = true;
@@ -113,7 +113,7 @@ void WhenItHangs(std::function<void()> end) {
     action.sa_handler = BreakIn;
     action.sa_flags = SA_RESTART;
     sigaction(kBreakInSignal, &action, nullptr);
-    endOfWhatHangs = new std::function<void()>(std::move(end));  // for good: the program may hang in its very end
+    endOfWhatHangs = new std::function<void()>(std::move(end));  // never freed: the program may hang at its very end
 }
 
 void AwaitEnd(int signal) {

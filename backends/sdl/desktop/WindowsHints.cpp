@@ -35,23 +35,23 @@ void SeeMessagesFirst(HWND window, WNDPROC procedure) {
     SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
 
-// When this message has been answered, Windows may end the process at any moment.
+// Once this message is answered, Windows may end the process at any moment.
 LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM word, LPARAM value) {
     if (message == WM_ENDSESSION && word != 0 && endOfSession) endOfSession();
     return PassOn(window, message, word, value);
 }
 
-// A modal dialog's owner takes no input. It must be enabled again before the dialog is closed, or else the focus goes
-// to another program.
+// The owner of a modal dialog takes no input. It must be enabled again before the dialog is closed; otherwise the focus
+// goes to another program.
 LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM word, LPARAM value) {
     if (message == WM_SHOWWINDOW && value == 0) EnableWindow(GetWindow(window, GW_OWNER), word == 0);
-    // SDL would keep the whole window to the size that it has with a plain frame.
+    // SDL would limit the whole window to the size it has with a plain frame.
     if (message == WM_GETMINMAXINFO) return DefWindowProcW(window, message, word, value);
     return PassOn(window, message, word, value);
 }
 
-// A small title without an icon. SDL takes the frame for a plain one when it counts the size of the whole window, and
-// takes the place that was meant for the frame for that of what is inside.
+// A small title bar without an icon. SDL assumes a plain frame when it computes the size of the whole window, and takes
+// the position meant for the frame as that of the inner area.
 void SetToolFrame(SDL_Window* dialog, HWND handle) {
     int left = 0;
     int top = 0;
@@ -70,10 +70,10 @@ void SetToolFrame(SDL_Window* dialog, HWND handle) {
 
 }  // namespace
 
-// SDL turns none of the messages that Windows sends a program with windows into SDL_QUIT; WhenSessionEnds handles them
-// all.
+// SDL turns none of the messages that Windows sends to a program with windows into SDL_QUIT; WhenSessionEnds handles
+// them all.
 void PrepareDesktop() {
-    // Libraries come from beside the program or from Windows: never from the current folder, nor from the path.
+    // Libraries are loaded from the program's folder or from Windows, never from the current folder or the path.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
 }
 

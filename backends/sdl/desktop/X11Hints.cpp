@@ -1,5 +1,5 @@
 // X11 desktops, with Xlib: window properties, and the settings that a desktop publishes as resources and as XSETTINGS.
-// On Wayland SDL does what can be done.
+// On Wayland SDL does all that is possible.
 #include "backends/sdl/desktop/DesktopHints.h"
 
 #include <SDL.h>
@@ -32,7 +32,7 @@ namespace {
 
 constexpr float kPlainDotsPerInch = 96;
 constexpr float kLargestScale = 4;
-constexpr int kFirstPatchOverSdl3 = 50;  // of a version: SDL2 itself has smaller numbers
+constexpr int kFirstPatchOverSdl3 = 50;  // the patch level; SDL2 itself has lower ones
 
 // The Motif hints that window managers still follow.
 constexpr unsigned long kMotifHasFunctions = 1;
@@ -74,8 +74,8 @@ void SetAtoms(const X11Window& x, const char* property, const char* value, int m
                     reinterpret_cast<const unsigned char*>(&atom), 1);
 }
 
-// SDL2 as a layer over SDL3 takes the place that was meant for the frame for that of what is inside. The dialog has no
-// frame yet, but its owner has one.
+// SDL2 on top of SDL3 takes the position meant for the frame as that of the inner area. The dialog has no frame yet,
+// but its owner has one.
 void PlaceByFrame(SDL_Window* dialog, SDL_Window* owner) {
     SDL_version linked;
     SDL_GetVersion(&linked);
@@ -89,7 +89,7 @@ void PlaceByFrame(SDL_Window* dialog, SDL_Window* owner) {
     SDL_SetWindowPosition(dialog, left + frameLeft, top + frameTop);
 }
 
-// The integers among a desktop's XSETTINGS, by name.
+// The integers in a desktop's XSETTINGS, by name.
 class DesktopSettings {
   public:
     explicit DesktopSettings(std::string_view block) : bytes(block) {
@@ -146,8 +146,8 @@ int IgnoreError(Display*, XErrorEvent*) { return 0; }
 
 XErrorHandler otherErrors = nullptr;
 
-// SDL wakes its own wait by sending an event to one of the windows on a second connection. The server may read it after
-// that window, a dialog, has been closed, and then answers with an error that would end the program.
+// SDL interrupts its own wait by sending an event to one of the windows over a second connection. The server may read
+// it after that window, a dialog, has been closed, and then reply with an error that would end the program.
 int IgnoreLateWakeUp(Display* display, XErrorEvent* error) {
     constexpr unsigned char kSendEvent = 25;  // the request's number in the X protocol
     if (error->error_code == BadWindow && error->request_code == kSendEvent) return 0;
@@ -159,8 +159,9 @@ void IgnoreLateWakeUpErrors() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp)
 std::function<void()> endWithoutDisplay;
 std::thread::id endingThread;
 
-// SDL wakes its loop from other threads over a separate connection. A thread that finds it broken waits for the end.
-int MeetDisplayLoss(Display*) {
+// SDL wakes its loop from other threads over a separate connection. A thread that finds it broken waits for the
+// program's end.
+int OnDisplayLost(Display*) {
     if (std::this_thread::get_id() != endingThread) AwaitEnd(SIGHUP);
     endWithoutDisplay();
     return 0;
@@ -193,8 +194,8 @@ std::optional<float> ResourceDotsPerInch(Display* display) {
     return std::strtof(text, nullptr);
 }
 
-// The kinds of desktop to try, without the dummy ones that nobody would see. The user's environment takes precedence.
-// Where there can be no Wayland its library is not asked, since it complains on standard error.
+// The kinds of desktop to try, without the dummy ones that nobody could see. The user's environment takes precedence.
+// Where Wayland is impossible its library is left alone, since it complains on standard error.
 const char* Desktops() { return std::getenv("XDG_RUNTIME_DIR") != nullptr ? "x11,wayland" : "x11"; }
 
 bool IsDesktop(const char* name) {
@@ -204,8 +205,8 @@ bool IsDesktop(const char* name) {
 
 void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
 
-// On a machine without a sound device ALSA complains at length on standard error. SDL has loaded the library; taking
-// the function from there saves the game a dependency.
+// Without a sound device, ALSA complains at length on standard error. SDL has loaded the library; taking the function
+// from there saves the game a dependency.
 void SilenceAlsa() {
     using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
     using SetHandler = int (*)(Handler);
@@ -216,8 +217,8 @@ void SilenceAlsa() {
     dlclose(library);
 }
 
-// SDL waits for good for a compositor that goes while a window opens. Whether it is there is seen by a connection of
-// our own; SDL has loaded the library, and taking its functions from there spares the game a dependency of its own.
+// SDL waits forever for a compositor that disappears while a window opens. A separate connection shows whether it is
+// still there. SDL has loaded the library; taking its functions from there saves the game a dependency.
 void EndWithWayland() {
     using Connect = wl_display* (*)(const char*);
     using GetConnection = int (*)(wl_display*);
@@ -244,7 +245,7 @@ void PrepareDesktop() {
 
 bool OpenDisplay(std::string& failure) {
     SDL_SetHint(SDL_HINT_VIDEODRIVER, Desktops());
-    // The game takes no text input: without this the table of all composed characters is read, which takes a quarter of
+    // The game takes no text input. Without this, X11 reads its table of composed characters, which takes a quarter of
     // the time until the first picture is shown. Wayland's keyboards would complain about the empty table.
     if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
     // Before SDL sets its own handler: that one calls this one, and restores it when the connections are closed.
@@ -265,7 +266,7 @@ void WhenSessionEnds(std::function<void()> end) {
     WhenItHangs(end);
     endWithoutDisplay = std::move(end);
     endingThread = std::this_thread::get_id();
-    XSetIOErrorHandler(MeetDisplayLoss);
+    XSetIOErrorHandler(OnDisplayLost);
 }
 
 DesktopFacts AskDesktop() {

@@ -1,4 +1,4 @@
-// Drawing on a block of pixels: fills, pictures, and the few smooth shapes that marks consist of.
+// Drawing on a block of pixels: fills, pictures, and the few smooth shapes that marks are made of.
 #include "backends/sdl/drawing/Canvas.h"
 
 #include <algorithm>

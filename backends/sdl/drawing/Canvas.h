@@ -40,7 +40,7 @@ Neighbours NeighboursAt(int place, float scale, int size);
 std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Neighbours& column,
                       std::uint32_t shareOfLower);
 
-// The picture in another size, smoothed.
+// The picture at another size, smoothed.
 Image Scaled(const Image& image, int width, int height);
 
 class Canvas {
@@ -48,7 +48,7 @@ class Canvas {
     // `stride` is the distance between rows in pixels. The pixels must outlive the canvas.
     Canvas(std::uint32_t* pixels, int width, int height, int stride);
 
-    // From now on nothing outside `clip` is drawn; initially nothing is clipped.
+    // Nothing is drawn outside `clip` from now on; initially nothing is clipped.
     void SetClip(const PixelBox& box);
     const PixelBox& Clip() const { return clip; }
     int Width() const { return bounds.right; }

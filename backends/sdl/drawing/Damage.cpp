@@ -1,11 +1,11 @@
-// Two boxes become one if the box around both is hardly larger than they are.
+// Two boxes become one if their bounding box is hardly larger than they are.
 #include "backends/sdl/drawing/Damage.h"
 
 namespace prismfall {
 
 namespace {
 
-// Pixels that may be drawn needlessly to save a box: about what sending one costs.
+// How many pixels may be drawn needlessly to save a box: about what it costs to send one.
 constexpr long kSlack = 64;
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The boxes of a picture that must be redrawn. Boxes close together are joined, so that no place is drawn several times
+// The boxes of a picture that must be redrawn. Boxes close together are joined, so that nothing is drawn several times
 // and the desktop is not sent a swarm of tiny boxes.
 #pragma once
 

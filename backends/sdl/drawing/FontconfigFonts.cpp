@@ -1,4 +1,4 @@
-// Fonts from fontconfig. Its own substitutes for two families that are missing here are poor, so better ones are named
+// Fonts from fontconfig. Its substitutes for two families that are often missing are poor, so better ones are named
 // here.
 #include "backends/sdl/drawing/FontFinder.h"
 

@@ -12,7 +12,7 @@ float LargestScale(Extent inner, Extent given, float wantedScale) {
                                    static_cast<float>(given.height) / static_cast<float>(inner.height));
     const float onePixel = 1.01F / static_cast<float>(std::max(inner.width, inner.height));
     if (std::abs(largest - wantedScale) <= onePixel) return wantedScale;
-    // A whole factor is sharp, which is worth a pixel.
+    // A whole factor gives sharp pixels, which is worth a pixel of size.
     const float whole = std::floor(largest);
     return largest - whole <= onePixel ? std::max(whole, onePixel) : largest;
 }

@@ -34,7 +34,7 @@ constexpr png_uint_32 kLargestSide = 4096;  // far beyond any picture of the gam
 
 struct Reading {
     std::optional<Image> image = {};
-    std::string fault = {};  // what is wrong with the file, if it gives no picture
+    std::string fault = {};  // what is wrong with the file, if it yields no picture
 };
 
 // Whatever kind of PNG the file is, libpng converts it to our pixel format.
@@ -75,7 +75,7 @@ Reading ReadScaled(const std::filesystem::path& folder, float scale, std::string
 PictureStore::PictureStore(std::filesystem::path picturesFolder) : folder(std::move(picturesFolder)) {}
 
 void PictureStore::ReadAhead(std::span<const std::string_view> names) {
-    // Where the system gives no thread for it, they are read when the first picture is asked for.
+    // If the system cannot start a thread, they are read when the first picture is requested.
     constexpr std::launch policy = std::launch::async | std::launch::deferred;
     readAhead = std::async(policy, [path = folder, list = std::vector(names.begin(), names.end())] {
         Images read;

@@ -1,5 +1,5 @@
-// The game's pictures by name, each read from its file when it is first shown and kept in its size on the display. The
-// first that cannot be loaded is reported with the reason.
+// The game's pictures by name, each read from its file when it is first shown and kept at its display size. The first
+// that cannot be loaded is reported with the reason.
 #pragma once
 
 #include <array>
@@ -21,14 +21,14 @@ class PictureStore {
     // `folder` contains 1x/NAME.png, one file pixel per game pixel, and 2x/NAME.png, twice as large.
     explicit PictureStore(std::filesystem::path folder);
 
-    // Starts reading pictures in the background, in the size for a standard display. Requests wait until that is done;
+    // Starts reading pictures in the background, at the size for a standard display. Requests wait until that is done;
     // on a display with another scale they are read again.
     void ReadAhead(std::span<const std::string_view> names);
     // Display pixels per game pixel. Pictures for this and for the previous scale are kept: windows may differ.
     void SetScale(float displayScale);
     // The picture, or null. The pointer is valid until the scale changes.
     const Image* Find(std::string_view name);
-    // Adds a picture that is not read from a file: `draw` returns it in its size on the display for a scale.
+    // Adds a picture that does not come from a file: `draw` returns it at its display size for a scale.
     void Add(std::string_view name, std::function<Image(float scale)> draw);
 
   private:

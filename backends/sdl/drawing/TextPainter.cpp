@@ -1,5 +1,4 @@
-// Each face is opened once and resized as needed, so that trying out sizes for a text that has to fit leaves nothing
-// open.
+// Each face is opened once and resized as needed, so trying out sizes for a text that has to fit leaves nothing open.
 #include "backends/sdl/drawing/TextPainter.h"
 
 #include <SDL.h>
@@ -34,7 +33,7 @@ TextPainter::~TextPainter() {
     if (TTF_WasInit() != 0) TTF_Quit();
 }
 
-// Between whole scales, the smaller size, which fits its box as the text does at scale 1.
+// Between whole scales, rounds down, so that the text fits its box as it does at scale 1.
 int TextPainter::Pixels(const Font& font) const {
     constexpr float kInexactness = 0.01F;
     return std::max(1, static_cast<int>(font.points * kPixelsPerPoint * scale + kInexactness));
@@ -62,7 +61,8 @@ TTF_Font* TextPainter::Load(const Font& font) {
         Report("no font is installed");
         return nullptr;
     }
-    // The glyphs' exact widths: with whole-pixel ones lines get several letters longer and no longer fit their boxes.
+    // Uses the glyphs' exact widths: with whole-pixel ones, lines become several letters longer and no longer fit their
+    // boxes.
     TTF_SetFontHinting(opened, TTF_HINTING_LIGHT_SUBPIXEL);
     const bool thicken = font.bold && !file.bold;
     const bool slope = font.italic && !file.italic;

@@ -1,4 +1,4 @@
-// Text on a canvas: opens the font of a family, and has SDL_ttf break lines and draw the letters.
+// Text on a canvas: opens a family's font, and has SDL_ttf break lines and draw the letters.
 #pragma once
 
 #include <SDL_ttf.h>
@@ -17,7 +17,7 @@ namespace prismfall {
 // How a text is laid out, in display pixels except for the font. It always breaks at line feeds.
 struct TextLayout {
     Font font;
-    int wrapWidth = 0;  // if above 0, lines break before this width, between words or within one that is too long
+    int wrapWidth = 0;  // if above 0, lines break before this width, between words or within an overlong one
     int fitHeight = 0;  // if above 0, the text is made smaller, pixel by pixel, until it fits this height
 };
 
@@ -31,7 +31,8 @@ class TextPainter {
     // Display pixels per game pixel.
     void SetScale(float displayScale) { scale = displayScale; }
 
-    // All sizes and places from here on are display pixels. Without any font there is no text, and its height is 0.
+    // All sizes and positions below are in display pixels. If there is no font at all there is no text, and its height
+    // is 0.
     int LineHeight(const Font& font);
     int Width(std::string_view line, const Font& font);
     int Height(std::string_view text, const TextLayout& layout);

@@ -1,4 +1,4 @@
-// Fonts from GDI, which returns the file of the font that it would draw with.
+// Fonts from GDI, which gives us the file of the font that it would draw with.
 #include "backends/sdl/drawing/FontFinder.h"
 
 #include <SDL_rwops.h>

@@ -1,6 +1,6 @@
 // The new text is written next to the old file under a unique name, flushed to disk, and then renamed over the old
-// file. The lock is on the folder, so it leaves no file behind. A save that was killed leaves what it had written; the
-// next save removes it.
+// file. The lock is on the folder, so it leaves no file behind. A save that is killed leaves its unfinished file
+// behind; the next save removes it.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <fcntl.h>
@@ -33,7 +33,7 @@ constexpr auto kLongestWait = 2s;  // for another run; a save takes milliseconds
 constexpr auto kNextLook = 5ms;
 constexpr int kTries = 20;  // while other runs replace the file
 constexpr int kChangedMeanwhile = EAGAIN;
-constexpr std::string_view kNewText = ".new-";  // between the file's name and what tells the new texts apart
+constexpr std::string_view kNewText = ".new-";  // between the file's name and the unique part
 
 class Descriptor {
   public:
@@ -96,9 +96,9 @@ int MakeFolders(const fs::path& folder) {
     return ::mkdir(folder.c_str(), kNewFolderMode) == 0 || errno == EEXIST ? 0 : errno;
 }
 
-// Waits for the other runs. False for a folder that cannot be locked, and for one that is held for so long that its
-// holder is stopped or has a very slow disk. It is used without a lock then: whoever comes second sees that the file is
-// another one and begins anew.
+// Waits for the other runs. Returns false if the folder cannot be locked, or is locked for so long that the holder must
+// be stopped or have a very slow disk. The file is then used without a lock: whoever comes second sees that it has been
+// replaced and starts over.
 bool Lock(const Descriptor& folder) {
     const auto end = std::chrono::steady_clock::now() + kLongestWait;
     while (::flock(folder.Number(), LOCK_EX | LOCK_NB) != 0) {
@@ -108,7 +108,7 @@ bool Lock(const Descriptor& folder) {
     return true;
 }
 
-// Removes what saves that were killed have left. Only for the holder of the lock: nobody else is writing then.
+// Removes what killed saves have left behind. Only for the holder of the lock: nobody else is writing then.
 void RemoveLeftovers(const fs::path& path) {
     const std::string beginning = path.filename().string().append(kNewText);
     std::error_code error;
@@ -127,8 +127,8 @@ bool WriteAll(int descriptor, std::string_view text) {
     return true;
 }
 
-// 0, or the reason why nothing was written. The file that mkostemp makes is the user's own; where a file system knows
-// no other rights, it stays so.
+// Returns 0, or the reason why nothing was written. mkostemp makes the file readable only by the user; if the file
+// system cannot set `mode`, it stays that way.
 int WriteNew(std::string& temporary, std::string_view text, mode_t mode) {
     Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.IsOpen()) return errno;
@@ -136,7 +136,7 @@ int WriteNew(std::string& temporary, std::string_view text, mode_t mode) {
     return WriteAll(file.Number(), text) && ::fsync(file.Number()) == 0 && file.Close() ? 0 : errno;
 }
 
-// 0, or the reason why the file is not replaced: `kChangedMeanwhile` if it no longer is what was read.
+// Returns 0, or the reason why the file was not replaced: `kChangedMeanwhile` if it is no longer the one that was read.
 int TakeName(const std::string& temporary, const fs::path& path, const Content& old) {
     if (ReadAll(path).text != old.text) return kChangedMeanwhile;
     if (::rename(temporary.c_str(), path.c_str()) == 0) return 0;
@@ -191,7 +191,7 @@ fs::path UsersSettingsFolder() { return OfTheGame(UsersFolder("XDG_CONFIG_HOME",
 
 fs::path UsersDataFolder() { return OfTheGame(UsersFolder("XDG_DATA_HOME", ".local/share")); }
 
-// The desktop's own list of folders names it, as in XDG_DOCUMENTS_DIR="$HOME/Documents".
+// The desktop's own list of folders has it, as in XDG_DOCUMENTS_DIR="$HOME/Documents".
 fs::path UsersDocumentsFolder() {
     constexpr std::string_view kEntry = "XDG_DOCUMENTS_DIR=\"";
     constexpr std::string_view kHome = "$HOME/";

@@ -1,6 +1,6 @@
 // The new text is written next to the old file, flushed to disk, and then renamed over it. Runs of the game wait for
-// each other with a mutex, which Windows releases when its holder ends. What a save that was ended has left is removed
-// by the next one.
+// each other with a mutex, which Windows releases when its holder ends. What an interrupted save leaves behind is
+// removed by the next one.
 #include "backends/sdl/settings/ReplaceFile.h"
 
 #include <windows.h>
@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kLargestFile = 1 << 20;  // far more than the game writes; a larger file is not ours
 constexpr DWORD kLongestWait = 2000;           // milliseconds, for another run; a save takes a few
-constexpr int kTries = 50;                     // while a virus scanner, or a run that is being terminated, holds a file
+constexpr int kTries = 50;                     // while a virus scanner, or a dying run, holds a file
 constexpr DWORD kNextTry = 20;                 // milliseconds
 constexpr int kMerges = 20;                    // while other runs replace the file
 constexpr DWORD kChangedMeanwhile = ERROR_RETRY;
@@ -45,8 +45,8 @@ class Handle {
 
 class Lock {
   public:
-    // One that is held for so long that its holder is stopped or has a very slow disk is not waited for: whoever comes
-    // second sees that the file is another one and begins anew.
+    // Gives up waiting if the lock is held for so long that the holder must be stopped or have a very slow disk:
+    // whoever comes second sees that the file has been replaced and starts over.
     Lock() : mutex(CreateMutexW(nullptr, FALSE, L"Local\\Prismfall settings")) {
         const DWORD outcome = mutex.IsOpen() ? WaitForSingleObject(mutex.Get(), kLongestWait) : WAIT_FAILED;
         isHeld = outcome == WAIT_OBJECT_0 || outcome == WAIT_ABANDONED;
@@ -108,7 +108,7 @@ bool TakeName(const fs::path& from, const fs::path& to) {
     return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
-// Removes what saves that were ended have left. What another run is writing cannot be removed.
+// Removes what interrupted saves have left behind. A file that another run is writing cannot be removed.
 void RemoveLeftovers(const fs::path& path) {
     const std::wstring beginning = path.filename().wstring() + kNewText;
     std::error_code error;
@@ -117,7 +117,8 @@ void RemoveLeftovers(const fs::path& path) {
     }
 }
 
-// The reason why the file is not replaced, or ERROR_SUCCESS; `kChangedMeanwhile` if it no longer is what was read.
+// The reason why the file was not replaced, or ERROR_SUCCESS; `kChangedMeanwhile` if it is no longer the one that was
+// read.
 DWORD TryToReplace(const fs::path& path, const fs::path& temporary, const std::string& old, const std::string& text) {
     if (!WriteAll(temporary, text)) return GetLastError();
     if (ReadAll(path).text != old) return kChangedMeanwhile;

@@ -1,4 +1,4 @@
-// The settings store on disk: one readable INI file, read as a whole and replaced as a whole.
+// The settings store on disk: one readable INI file, always read and replaced as a whole.
 #pragma once
 
 #include <filesystem>

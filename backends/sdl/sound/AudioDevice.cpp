@@ -1,5 +1,5 @@
 // Opening and closing. The audio subsystem is closed with the device, so that the next opening finds the sound server
-// of that time.
+// running at that time.
 #include "backends/sdl/sound/AudioDevice.h"
 
 #include <cstdlib>
@@ -20,7 +20,7 @@ bool AudioDevice::Open() {
     const auto now = std::chrono::steady_clock::now();
     if (failedAt && now - *failedAt < kNextTry) return false;
     SDL_AudioSpec wanted{};
-    // What is left unset, SDL takes from these environment variables of the user.
+    // SDL takes what is left unset from these environment variables.
     if (std::getenv("SDL_AUDIO_FREQUENCY") == nullptr) wanted.freq = kRate;
     if (std::getenv("SDL_AUDIO_CHANNELS") == nullptr) wanted.channels = kChannels;
     wanted.format = AUDIO_S16SYS;
@@ -51,7 +51,7 @@ void AudioDevice::Callback(void* self, std::uint8_t* samples, int bytes) {
     const auto& device = *static_cast<const AudioDevice*>(self);
     const std::span space(samples, static_cast<std::size_t>(bytes));
     std::memset(space.data(), device.form.silence, space.size());
-    // SDL goes on requesting samples for a lost device. What nobody hears must not count as played.
+    // SDL keeps requesting samples for a lost device. What nobody hears must not count as played.
     if (!device.IsLost()) device.fill(space);
 }
 

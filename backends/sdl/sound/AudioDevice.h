@@ -29,7 +29,8 @@ class AudioDevice {
     bool Open();
     void Close();
     bool IsOpen() const { return id != 0; }
-    // It was open and has disappeared: it was unplugged, or its sound server has ended. `Fill` is no longer called.
+    // The device was open and has disappeared: it was unplugged, or its sound server has ended. `Fill` is no longer
+    // called.
     bool IsLost() const { return IsOpen() && SDL_GetAudioDeviceStatus(id) == SDL_AUDIO_STOPPED; }
 
     // The sample format. Opening determines it.

@@ -13,7 +13,7 @@ namespace prismfall {
 AudioThread::~AudioThread() { Finish(std::chrono::hours(1)); }
 
 bool AudioThread::Post(Task task) {
-    if (ending || !Start()) return false;  // `ending` is this thread's to change
+    if (ending || !Start()) return false;  // only this thread changes `ending`
     {
         const std::lock_guard lock(mutex);
         tasks.push_back(std::move(task));
@@ -22,13 +22,13 @@ bool AudioThread::Post(Task task) {
     return true;
 }
 
-// The system refuses when a user has as many threads as are allowed, or memory is short.
+// The system refuses when the user has too many threads, or when memory is short.
 bool AudioThread::Start() {
     if (thread.joinable()) return true;
     try {
         thread = std::thread([this] {
             Run();
-            SDL_TLSCleanup();  // SDL keeps the last error of each thread, and does not see this one end
+            SDL_TLSCleanup();  // SDL keeps each thread's last error, and does not notice this one ending
         });
     } catch (const std::system_error&) {
         return false;

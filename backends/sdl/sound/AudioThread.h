@@ -1,5 +1,5 @@
 // The thread on which everything that touches the sound device happens, one task at a time. Opening and closing a
-// device waits for the sound server, up to seconds if that hangs; the game's timers must not wait for it.
+// device waits for the sound server, for seconds if that hangs; the game's timers must not wait for it.
 #pragma once
 
 #include <chrono>
@@ -21,14 +21,14 @@ class AudioThread {
     AudioThread& operator=(const AudioThread&) = delete;
     ~AudioThread();
 
-    // Runs a task as soon as those before it are done. The first one starts the thread. False if the system gives none,
-    // or after `Finish`: the task is forgotten then.
+    // Runs a task as soon as those before it are done. The first one starts the thread. Returns false, and drops the
+    // task, if the system cannot start the thread, or after `Finish`.
     bool Post(Task task);
-    // Runs a task likewise and returns true when it is done, or false if it is not done within `limit`; it may be done
-    // later then, so what it refers to must last.
+    // Runs a task the same way and returns true when it is done, or false if it is not done within `limit`. It may then
+    // be done later, so what it refers to must stay alive.
     bool Call(Task task, std::chrono::milliseconds limit);
-    // Only within a task: schedules another task after some time, replacing the one scheduled before. Nothing means
-    // none.
+    // Only within a task: schedules another task after a delay, replacing the one scheduled before. Without a delay,
+    // none is scheduled.
     void RunLater(std::optional<std::chrono::milliseconds> delay, Task task);
     // Finishes the posted tasks and ends the thread. Returns false if that takes longer than `limit`; then the thread
     // is left running and must not be destroyed.

@@ -25,7 +25,7 @@ std::string MusicFile::Open(const std::string& path) {
         return told;
     }
     rate = static_cast<int>(samplesPerSecond);
-    // Later changes of rate and channels are converted to those at the beginning.
+    // Later changes of the rate or the number of channels are converted to those at the beginning.
     mpg123_format_none(decoder.get());
     mpg123_format(decoder.get(), samplesPerSecond, channels, MPG123_ENC_SIGNED_16);
     return {};
@@ -43,7 +43,7 @@ std::span<const std::byte> MusicFile::Read() {
 
 void MusicFile::Rewind() { Seek(0); }
 
-// The decoder's place is where the block that it has just given begins.
+// The decoder's position is the beginning of its last block.
 void MusicFile::StepBack(int samples) {
     constexpr std::int64_t kBytes = sizeof(std::int16_t);
     const std::int64_t bytesOfOne = channels * kBytes;

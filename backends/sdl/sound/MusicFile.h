@@ -1,4 +1,4 @@
-// An MP3 file that is being decoded, block by block, without the silence that encoders put around a track.
+// An MP3 file being decoded, block by block, without the silence that encoders add around a track.
 #pragma once
 
 #include <cstddef>
@@ -13,13 +13,13 @@ namespace prismfall {
 
 class MusicFile {
   public:
-    // Returns nothing if the file can be played, else its path and the decoder's reason. Closes the previous file.
+    // Returns nothing if the file can be played, otherwise its path and the decoder's reason. Closes the previous file.
     std::string Open(const std::string& path);
     void Close() { decoder.reset(); }
     bool IsOpen() const { return decoder != nullptr; }
 
     // The track's next samples, 16-bit, interleaved, valid until the next call. Rate and channels are always those at
-    // its beginning. Empty at its end, and from where the file can no longer be read.
+    // its beginning. Empty at the end of the track, and once the file can no longer be read.
     std::span<const std::byte> Read();
     void Rewind();
     // Rereads the last samples (of each channel), across the beginning if the track has looped.
@@ -36,7 +36,7 @@ class MusicFile {
     };
 
     std::unique_ptr<mpg123_handle_struct, Free> decoder;
-    std::span<const std::byte> block;  // what the last reading has given
+    std::span<const std::byte> block;  // the last block read
     int rate = 0;
     int channels = 0;
 };

@@ -9,7 +9,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kSilenceBeforeClosing = 3s;
-constexpr auto kLongestWait = 700ms;  // for the audio thread; a device opens and closes within a tenth of it
+constexpr auto kLongestWait = 700ms;  // for the audio thread; a device takes at most a tenth of it to open or close
 constexpr int kFailureCode = 1;
 
 }  // namespace
@@ -62,17 +62,17 @@ void SdlAudio::DeviceLost() {
     thread.Post([this] {
         if (!device.IsLost()) return;
         Silence();
-        music.TakeUp();
+        music.ResumeOnDevice();
         PlanAhead();
     });
 }
 
-// Decides when the audio thread wakes by itself: to look for a device while music waits for one, or to close a device
-// that nothing has used for a while.
+// Decides when the audio thread wakes up by itself: to look for a device while music waits for one, or to close a
+// device that has not been used for a while.
 void SdlAudio::PlanAhead() {
-    if (music.AwaitsDevice()) {
+    if (music.WaitsForDevice()) {
         return thread.RunLater(AudioDevice::kNextTry, [this] {
-            music.TakeUp();
+            music.ResumeOnDevice();
             PlanAhead();
         });
     }

@@ -26,12 +26,12 @@ class SdlAudio {
     int MusicOpen(const std::string& path);
     std::string MusicFailureText(int code) const;
     void DoWithMusic(std::function<void(SdlMusic&)> action);
-    // Of the volumes that the game asks for, in percent.
+    // Percentages applied to the volumes that the game sets.
     void SetShares(int musicPercent, int effectsPercent);
-    // A device has disappeared. If it was the one in use, music resumes as soon as there is another one.
+    // A device has disappeared. If it was the one in use, music resumes as soon as another one is available.
     void DeviceLost();
-    // Stops all sound and ends the audio thread. Returns false if the sound server hangs; then only ending the process
-    // helps.
+    // Stops all sound and ends the audio thread. Returns false if the sound server hangs; then the only way out is to
+    // end the process.
     bool Finish();
 
   private:

@@ -11,8 +11,8 @@ namespace prismfall {
 namespace {
 
 constexpr int kFullVolume = 1000;
-constexpr int kTailsPerSecond = 10;  // as much silence has SDL's resampler give out all that it holds back
-constexpr int kDecodedAhead = 12;    // times the requested amount; many frames at once cost half as much as single ones
+constexpr int kTailsPerSecond = 10;  // one tail is enough silence for SDL's resampler to give out all it holds back
+constexpr int kDecodedAhead = 12;    // times the requested amount; many frames at once take half as long as single ones
 
 }  // namespace
 
@@ -68,7 +68,7 @@ void SdlMusic::Resume() {
     if (!PlaysOnce()) Play(State::PlayingOnce);
 }
 
-// Or has done so.
+// True also when it has done so.
 bool SdlMusic::PlaysOnce() {
     const std::lock_guard lock(device);
     return state == State::PlayingOnce || state == State::Over;
@@ -96,12 +96,12 @@ bool SdlMusic::IsSounding() {
     return IsPlaying() && device.IsOpen();
 }
 
-bool SdlMusic::AwaitsDevice() {
+bool SdlMusic::WaitsForDevice() {
     const std::lock_guard lock(device);
     return IsPlaying() && !device.IsOpen();
 }
 
-void SdlMusic::TakeUp() {
+void SdlMusic::ResumeOnDevice() {
     if (IsPlaying()) Play(state);
 }
 
@@ -116,7 +116,7 @@ void SdlMusic::MixInto(std::span<std::uint8_t> samples) {
     if (got < wanted) state = State::Over;
 }
 
-// Beyond the track's end only as much as is requested: by then it may have been told not to repeat.
+// Beyond the track's end, decodes only as much as is requested: by then the track may have been told not to repeat.
 void SdlMusic::DecodeAhead(int wanted) {
     bool rewound = false;
     while (SDL_AudioStreamAvailable(stream.get()) < wanted * kDecodedAhead) {

@@ -1,5 +1,5 @@
 // The music player: one file at a time, looping or once to its end. Everything except `MixInto` is used only on the
-// audio thread. It keeps its place whatever happens to the device.
+// audio thread. It keeps its place in the track whatever happens to the device.
 #pragma once
 
 #include <SDL.h>
@@ -20,7 +20,7 @@ class SdlMusic {
   public:
     explicit SdlMusic(AudioDevice& soundDevice) : device(soundDevice) {}
 
-    // Returns nothing if the file can be played, else its path and the decoder's reason.
+    // Returns nothing if the file can be played, otherwise its path and the decoder's reason.
     std::string Open(const std::string& path);
     void Close();
     void SetVolume(int newVolume);
@@ -29,16 +29,16 @@ class SdlMusic {
     void Pause();
     void Stop();
 
-    // Of the volume, in percent. On any thread.
+    // A percentage applied to the volume. May be called on any thread.
     void SetShare(int percent) { sharePercent = percent; }
     bool IsSounding();
     bool IsLooping();
     // Whether it should be playing but has no device.
-    bool AwaitsDevice();
+    bool WaitsForDevice();
     // Resumes where it fell silent, if there is a device now.
-    void TakeUp();
-    // To be called before the device is closed, with which SDL's streams may go. Samples that have not been heard yet
-    // are decoded again.
+    void ResumeOnDevice();
+    // Call it before the device is closed, which may free SDL's streams. Samples that have not been heard yet are
+    // decoded again.
     void Release();
 
     // Mixes in the next samples, in the device's format. Call it with the device locked.

@@ -1,4 +1,4 @@
-// Sounds, read and converted to the device's format each time: that takes less than a millisecond, and nothing has to
+// Sounds, read and converted to the device's format every time: that takes less than a millisecond, and nothing has to
 // be kept.
 #include "backends/sdl/sound/SdlSound.h"
 

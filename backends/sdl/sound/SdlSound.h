@@ -19,7 +19,7 @@ class SdlSound {
 
     // Plays a complete WAVE file; invalid data is silent.
     void Play(std::span<const std::byte> wave);
-    // Of the volume, in percent. On any thread.
+    // A percentage applied to the volume. May be called on any thread.
     void SetShare(int percent) { sharePercent = percent; }
     bool IsSounding();
     void Release();
