@@ -1,4 +1,4 @@
-// What sounds and music are played with: an audio player, and the player's two switches.
+// What it takes to play sounds and music: an audio player, and the player's two switches.
 #pragma once
 
 #include "platform/AudioPlayer.h"

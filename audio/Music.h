@@ -22,7 +22,7 @@ void PlayLevelMusic(const Audio& audio, std::int16_t number);
 void SetMusicVolume(const Audio& audio, std::int16_t volume);
 void StopMusic(const Audio& audio);
 void PauseMusic(const Audio& audio);
-// The track plays on to its end, once; then there is silence until another track starts.
+// Plays the track on to its end, once; then there is silence until another track starts.
 void ResumeMusic(const Audio& audio);
 
 }  // namespace prismfall

@@ -33,7 +33,7 @@ class AudioPlayer : public Facet {
     virtual int MusicOpen(std::string_view name) = 0;
     virtual void MusicSetVolume(int volume) = 0;  // 0 to 1000
     virtual void MusicPlayLooping() = 0;
-    virtual void MusicResume() = 0;  // plays on to the track's end, once
+    virtual void MusicResume() = 0;  // plays on to the end of the track, once
     virtual void MusicPause() = 0;
     virtual void MusicStop() = 0;
     virtual std::string MusicFailureText(int code) = 0;

@@ -26,7 +26,7 @@ constexpr Colour kRed = 0x0000FF;
 enum class ElementKind {
     Picture,       // shows `picture`
     Button,        // shows `picture`; plays a sound when pressed and has a click
-    PressPicture,  // shows `picture`; gets presses with their place; has no click
+    PressPicture,  // shows `picture`; gets presses with their position; has no click
     Label,         // shows `text`; ignored by the mouse, which reaches what is beneath it
     RadioButton,   // a round mark when `checked`, then `text`; has a click, takes fast presses
     CheckBox,      // a square mark when `checked`, then `text`; has a click, takes fast presses
@@ -43,7 +43,7 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-// A place in a PressPicture that the player is asked to press, for players who use keys instead of a pointer.
+// A place in a PressPicture that the player is prompted to press, for those who use keys instead of a pointer.
 struct PressSpot {
     std::string_view accessibleName = {};  // for screen readers
     float left = 0;                        // in the picture
@@ -55,10 +55,10 @@ struct PressSpot {
     bool operator==(const PressSpot&) const = default;
 };
 
-// A label's place in the table that its window shows, for players who have it read to them. Row 1 holds the headings of
-// the columns, column 1 those of the rows.
+// A label's place in its window's table, for players who have it read aloud. Row 1 holds the column headings, column 1
+// the row headings.
 struct TableCell {
-    int row = 0;  // 0 for a label that is in no table
+    int row = 0;  // 0 for a label that is not in a table
     int column = 0;
 
     bool operator==(const TableCell&) const = default;
@@ -86,16 +86,16 @@ struct Element {
     bool fastPresses = false;              // the second press of a double click is a press as well
     std::string_view picture = {};         // name of the picture it shows, empty for none
     std::string_view accessibleName = {};  // for screen readers, read before the text; empty for decoration
-    std::string text = {};                 // starts at the left and top edge; what does not fit is cut off
-    ButtonFaces faces = {};                // of a Button: what `picture` changes between
+    std::string text = {};                 // starts at the top left corner; what does not fit is cut off
+    ButtonFaces faces = {};                // of a Button: what `picture` alternates between
     std::string_view tag = {};             // which of several meanings a button currently has
     Colour colour = kBlack;                // of text, marks and outlines
     std::optional<Colour> ground = {};     // the background of a label; without one, what is below shows through
     Font font = {};
-    bool wraps = false;           // break the text into lines at the box's right edge
-    int fitHeight = 0;            // above 0, the text is set smaller than its font if it would not fit this height
-    bool checked = false;         // radio buttons and check boxes
-    std::string_view group = {};  // of all radio buttons with the same group, one is checked
+    bool wraps = false;                   // break the text into lines at the box's right edge
+    int fitHeight = 0;                    // if above 0, the text is made smaller if it would not fit this height
+    bool checked = false;                 // radio buttons and check boxes
+    std::string_view group = {};          // only one radio button of a group is checked
     std::array<PressSpot, 2> spots = {};  // of a PressPicture
     Key shortcut = Key::None;             // the key that clicks it; Enter for the OK of a dialog
     TableCell cell = {};                  // of a label

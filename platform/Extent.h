@@ -1,4 +1,4 @@
-// Sizes and places of windows, in game pixels.
+// Sizes and positions of windows, in game pixels.
 #pragma once
 
 namespace prismfall {

@@ -1,6 +1,6 @@
-// Game time: the machine's clock minus all stalls. A stall is a period in which the game could not or should not go on.
+// Game time: the machine's clock minus all stalls. A stall is a period in which the game could not or should not run.
 // Leaving out stalls makes the game as a whole take longer, but nothing is lost and nothing speeds up to catch up. For
-// a player who wants more time all of it can pass more slowly.
+// players who want more time, all of it can be slowed down.
 #pragma once
 
 #include <chrono>
@@ -17,20 +17,21 @@ class GameTime {
     explicit GameTime(std::function<Nanoseconds()> machineClock) : clock(std::move(machineClock)) {}
 
     Nanoseconds Now() const { return (freezes > 0 ? stoppedAt : Paced()) - stalls; }
-    // How much of it passes in 100 ns of the machine's clock from now on, 1 to 100.
+    // How much game time passes in 100 ns of the machine's clock from now on, in ns, 1 to 100.
     void SetPace(int newPercent) {
         if (newPercent == percent) return;
         paced = Paced();
         pacedFrom = clock();
         percent = newPercent;
     }
-    // How long the machine's clock takes for a length of game time.
+    // How long a period of game time takes by the machine's clock.
     Nanoseconds ByClock(Nanoseconds length) const { return length * 100 / percent; }
     // Leaves out a period that has just passed. `length` is 0 or more.
     void Stall(Nanoseconds length) { stalls += length; }
 
     bool IsFrozen() const { return freezes > 0; }
-    // Game time stops while one of these exists: while the game waits for a sound, or while an error box is open.
+    // Game time stands still while one of these exists: while the game waits for a sound, or while an error box is
+    // open.
     class Freeze {
       public:
         explicit Freeze(GameTime& gameTime) : time(gameTime) {
@@ -47,7 +48,7 @@ class GameTime {
     };
 
   private:
-    // With stalls.
+    // Including stalls.
     Nanoseconds Paced() const { return paced + (clock() - pacedFrom) * percent / 100; }
 
     std::function<Nanoseconds()> clock;

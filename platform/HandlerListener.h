@@ -1,5 +1,5 @@
-// Hears of everything that is about to reach a handler: the ticks of timers, and what the player and the desktop do.
-// This is where a game is recorded, on every machine alike.
+// Is told of everything that is about to reach a handler: timer ticks, and what the player and the desktop do. Games
+// are recorded here, the same way on every machine.
 #pragma once
 
 #include <cstdint>
@@ -38,10 +38,10 @@ class HandlerListener {
 
     // A timer is about to tick. Moments are game time in whole milliseconds.
     virtual void BeforeTick(std::int64_t moment) = 0;
-    // A handler of a window is about to run, at the moment that TimerWheel has. Error boxes and dialogs that stop time
-    // are left out: what happens in them is no part of the game.
+    // A handler of a window is about to run, at the moment that TimerWheel gives it. Error boxes and dialogs that stop
+    // time are left out: what happens in them is not part of the game.
     virtual void BeforeInput(const InputEvent& event) = 0;
-    // The moment of the running handler is a new one: it has let events run, or a dialog that it had opened has closed.
+    // The running handler has a new moment: it has let events run, or a dialog that it had opened has closed.
     virtual void MomentRenewed(std::int64_t moment) = 0;
 };
 

@@ -18,7 +18,7 @@ struct Target {
     KeyChoice place;
     Element* element = nullptr;  // null for a place on the surface
     MouseButton button = MouseButton::Left;
-    bool isSpot = false;  // of the element, which is pressed there
+    bool isSpot = false;  // of the element, which is pressed at that spot
 };
 
 struct Targets {
@@ -66,7 +66,7 @@ void AddControl(Element& element, Targets& targets) {
                             .element = &element});
 }
 
-// Pictures that ask for a press come first, since the game waits for it.
+// Pictures that prompt for a press come first, since the game is waiting for it.
 Targets TargetsOf(const Window& window, KeyReach reach) {
     Targets targets;
     AddSurface(window, targets);
@@ -82,7 +82,7 @@ float Distance(const KeyChoice& a, const KeyChoice& b) {
     return std::hypot(MiddleX(a) - MiddleX(b), MiddleY(a) - MiddleY(b));
 }
 
-// The previously chosen target, or what continues in its place.
+// The previously chosen target, or the one that continues it.
 const Target* Chosen(const Targets& targets, const KeyChoice& choice) {
     if (choice.what == nullptr) return nullptr;
     const std::vector<Target>& list = targets.list;

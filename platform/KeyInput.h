@@ -13,11 +13,11 @@ enum class KeyReach {
     Surface,  // only the surface: on a page the browser handles keys for the elements
 };
 
-// Handles a key in a window, if that gets input. Arrows choose the nearest place in their direction, Tab the next one;
+// Handles a key in a window, if that takes input. Arrows choose the nearest place in their direction, Tab the next one;
 // while a game gives the surface the keys, only the heads of beams can be chosen. Space is a left press or a click at
-// the chosen place, Enter a right press or a click; where neither is possible, Enter is the window's OK. Other keys
-// click the element that has them as its shortcut, or else go to the window's `command`. The first Space or Enter
-// without a choice chooses.
+// the chosen place, Enter a right press or a click; where neither is possible, Enter is the window's OK. Any other key
+// clicks the element that has it as its shortcut; if none has, it goes to the window's `command`. If nothing is chosen
+// yet, the first Space or Enter only chooses.
 void PressKey(const WindowInput& input, Window& window, Key key, KeyReach reach = KeyReach::Window);
 
 // Updates `window.choice` if the chosen place has moved or is gone.
@@ -26,7 +26,7 @@ void FollowChoice(Window& window, KeyReach reach = KeyReach::Window);
 // The player is using the pointer: the chosen place is not marked until the next key.
 void NotePointer(Window& window, float x, float y);
 
-// The place on the surface to mark: what was chosen with keys, or with `ringsAtPointer` the head that a press at the
+// The place on the surface to mark: the one chosen with keys, or with `ringsAtPointer` the head that a press at the
 // pointer would reach. Not shown if there is none.
 KeyChoice PlaceToMark(Window& window, bool ringsAtPointer);
 

@@ -33,8 +33,8 @@ class Platform : public SurfacePainter,
     // be any number, for example one derived from Random().
     virtual void BeginRandom(std::uint64_t number) = 0;
 
-    // Lets pending events run: what has changed is painted, due timers tick, and from the second call in a handler on
-    // input is handled.
+    // Lets pending events run: changes are painted, due timers tick, and, from the second call in a handler on, input
+    // is handled.
     virtual void LetEventsRun() = 0;
     // The machine's clock in milliseconds since some fixed moment; never runs backwards.
     virtual std::int64_t Clock() = 0;

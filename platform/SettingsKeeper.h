@@ -1,4 +1,4 @@
-// Stores texts by application, section and key, for this user, beyond the end of the run.
+// Stores texts by application, section and key, for this user, from one run to the next.
 #pragma once
 
 #include <functional>
@@ -25,10 +25,10 @@ class SettingsKeeper : public Facet {
   public:
     virtual std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                                     std::string_view fallback) = 0;
-    // Changes the store atomically, even if other copies of the program write to it: `change` gets a way to read what
-    // the store contains now, whoever wrote it, and returns the values to write; it may be called again if the store
-    // has changed in the meantime. Either all values are stored or none: whatever happens, the store is afterwards the
-    // old or the new one. Returns false if nothing could be stored; the backend tells the player.
+    // Changes the store atomically, even if other copies of the program write to it: `change` is given a way to read
+    // what the store contains now, whoever wrote it, and returns the values to write; it may be called again if the
+    // store has changed in the meantime. Either all values are stored or none. Returns false if nothing could be
+    // stored; the backend tells the player.
     virtual bool ChangeSettings(std::string_view application, const SettingsChange& change) = 0;
 };
 

@@ -19,7 +19,7 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// `reserved` are the characters that would be misread in that place.
+// `reserved` are the characters that would be misread there.
 std::string Escaped(std::string_view text, std::string_view reserved) {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {

@@ -74,7 +74,7 @@ class Stroke {
         return {centreX - half, centreX + half};
     }
 
-    // Beside the segment (0 <= x dx + y dy <= length²) and near enough (|x dy - y dx| <= length * width / 2).
+    // Beside the segment (0 <= x dx + y dy <= length²) and close enough (|x dy - y dx| <= length * width / 2).
     Span Band(Wide y) const {
         const Span along = Solve(dx, -y * dy, length2 - y * dy);
         const Span across = Solve(dy, y * dx - reach, y * dx + reach);

@@ -19,7 +19,7 @@ class Surface {
     Surface();
 
     // The operations of SurfacePainter.h. Any coordinates are allowed: what is outside is cut off. A width of 0 or less
-    // paints nothing. While nothing is painted, the pixels take no memory.
+    // paints nothing. As long as nothing is painted, the pixels take no memory.
     void Line(int x1, int y1, int x2, int y2, Colour colour, int width);
     void Box(int x1, int y1, int x2, int y2, Colour colour, int width);
     void Restore(int x1, int y1, int x2, int y2);
@@ -30,7 +30,7 @@ class Surface {
     const std::uint32_t* Row(int y) const;
 
     // What has changed since the last call, as boxes on the surface that may overlap; long diagonals are split.
-    // Replaces the contents of `boxes`, which the caller keeps so that it is not allocated for each frame.
+    // Replaces the contents of `boxes`, which the caller keeps to avoid an allocation per frame.
     void TakeDamage(std::vector<PixelBox>& boxes);
 
   private:

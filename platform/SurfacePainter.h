@@ -1,5 +1,5 @@
 // Paints on the surface of the main window, above its background. What is painted stays until it is painted over.
-// Places and widths are game pixels.
+// Positions and widths are in game pixels.
 #pragma once
 
 #include "platform/Element.h"

@@ -7,7 +7,7 @@
 
 namespace prismfall {
 
-// In the order in which those that fall due at the same moment fire.
+// In the order in which timers due at the same moment fire.
 enum class Timer { LineDeleter, LineExtender, LineCreator, TimerMulti, TimerA, TimerPlayIntro };
 constexpr std::size_t kTimerCount = 6;
 

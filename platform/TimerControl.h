@@ -1,5 +1,5 @@
-// The timers of the game: repeating, each calling the one tick handler with its name. TimerWheel.h says what moment a
-// handler has, and what becomes of ticks that are late.
+// The game's timers: repeating, each calling the one tick handler with its name. TimerWheel.h says which moment a
+// handler has, and what happens to late ticks.
 #pragma once
 
 #include <functional>

@@ -7,7 +7,7 @@ namespace prismfall {
 
 namespace {
 
-constexpr int kTicksPerTurn = 64;  // far more than six timers need to make up for lateness below their intervals
+constexpr int kTicksPerTurn = 64;  // far more than six timers need to catch up on lateness below their intervals
 
 }  // namespace
 
@@ -73,7 +73,7 @@ void TimerWheel::StallFrom(Nanoseconds moment) {
 
 bool TimerWheel::TickDue() { return TickWithin(std::nullopt); }
 
-// Without a limit, everything due by game time.
+// Without a limit, ticks everything that is due by game time.
 bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
     for (int ticks = 0;; ++ticks) {
         ReadClock();

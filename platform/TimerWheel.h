@@ -39,8 +39,8 @@ class TimerWheel {
     int Interval(Timer timer) const;  // milliseconds
     // Milliseconds from the moment of the running handler until the timer is due, if it is on.
     std::int64_t Remaining(Timer timer) const;
-    // The earliest game time at which a timer is due that may tick: one that is on, has an interval above 0, and whose
-    // handler is not running. Nothing if there is none, or while game time is stopped.
+    // The earliest game time at which a timer that may tick is due: one that is on, has an interval above 0, and whose
+    // handler is not running. Nothing if there is none, or while game time stands still.
     std::optional<Nanoseconds> NextDue() const;
 
     // --- For a platform whose clock runs by itself.
@@ -48,10 +48,10 @@ class TimerWheel {
     // Ticks everything that is due, in the order of due times; at the same time, in the order of Timer. Before each
     // tick the clock is read once; if a timer that may tick is late by its interval or more, the lateness of the one
     // due first becomes a stall. If ticks take longer than their timers' intervals, a turn ends after a number of
-    // ticks. While game time is stopped nothing ticks. Returns whether anything did.
+    // ticks. While game time stands still nothing ticks. Returns whether anything did.
     bool TickDue();
 
-    // Runs the handler of an input, an activation or the like, after everything due by then has ticked.
+    // Runs the handler of an input event, an activation or the like, after everything due by then has ticked.
     template <typename Call>
     void Handle(Call handler) {
         TickDue();
@@ -61,8 +61,8 @@ class TimerWheel {
 
     // For a handler that lets events run. The first time, only what is due within 1 ms of its moment ticks, and
     // `takeInput` is not called; after that, everything due ticks, then `takeInput` is called, which may Handle pending
-    // input and returns whether there was any. Afterwards the handler's moment is game time. Returns whether anything
-    // happened.
+    // input and returns whether there was any. Afterwards the handler's moment is the current game time. Returns
+    // whether anything happened.
     template <typename TakeInput>
     bool LetEventsRun(TakeInput takeInput) {
         const bool isFirst = running && !running->hasLetEventsRun;
@@ -72,12 +72,12 @@ class TimerWheel {
         return worked;
     }
 
-    // Sets the running handler's moment to game time: a dialog that it opened has closed.
+    // Sets the running handler's moment to the current game time: a dialog that it opened has closed.
     void RenewMoment();
 
     // --- For a clock that is set by hand and never late.
 
-    // Ticks the timer that is due first; there must be one. The tick's moment is game time.
+    // Ticks the timer that is due first; there must be one. The tick's moment is the current game time.
     void TickFirst();
     // The same, but the tick's moment is its due time, even if that has passed.
     void TickFirstAtItsTime() { Tick(*First(), *NextDue()); }

@@ -85,11 +85,11 @@ struct Window {
     int innerHeight = 0;
     std::string_view background;  // a picture placed at the top left and cut off at the edges
     bool isDialog = false;        // has a small frame without minimise and maximise buttons
-    bool stopsTime = false;  // of a dialog outside the game: game time stands still meanwhile, and no recording has it
+    bool stopsTime = false;  // a dialog outside the game: game time stands still meanwhile, and recordings leave it out
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works
-    bool isErrorBox = false;         // opened by a backend, and no part of the game
+    bool isErrorBox = false;         // opened by a backend, and not part of the game
     std::vector<Element*> elements;  // stacking order, later ones on top
     KeyChoice choice;                // see KeyInput.h
     Pointer pointer;
@@ -115,7 +115,7 @@ struct Window {
         return nullptr;
     }
 
-    // The element of that name. The program ends here, with a line on standard error, if there is none.
+    // The element of that name. If there is none, the program ends here, with a line on standard error.
     Element& operator[](std::string_view elementName) {
         if (Element* element = Find(elementName)) return *element;
         std::fprintf(stderr, "no element %.*s\n", static_cast<int>(elementName.size()), elementName.data());

@@ -1,5 +1,5 @@
-// Shows windows. Their elements are plain data: a backend draws what has changed without being asked. Whatever runs the
-// backend opens the main window; then its `activate` handler runs.
+// Shows windows. Their elements are plain data: a backend draws what has changed without being asked. The backend's run
+// function opens the main window; then its `activate` handler runs.
 #pragma once
 
 #include "platform/Facet.h"
@@ -10,7 +10,7 @@ namespace prismfall {
 
 class WindowHost : public Facet {
   public:
-    // The machine's way from pointer and keys to the handlers of its windows.
+    // Routes the machine's pointer and keys to the handlers of its windows.
     virtual WindowInput& Input() = 0;
     // Shows a dialog, which is then the only window that gets input, runs its `activate`, and returns when a handler
     // has hidden it (true) or its close box was used (false); timers keep running. Returns true at once if the dialog

@@ -13,13 +13,13 @@
 
 namespace prismfall {
 
-// Where and when a mouse button went down. Places are game pixels.
+// Where and when a mouse button was pressed. Positions are in game pixels.
 struct PressPlace {
     float x = 0;  // in the window's inner area
     float y = 0;
     std::uint32_t time = 0;  // milliseconds, may wrap
-    // Where the window's inner area begins on the desktop, so that presses in two windows can be compared; nothing if
-    // the desktop does not say: then any two presses in different windows count as near each other.
+    // Where the window's inner area begins on the desktop, so that presses in two windows can be compared. Nothing if
+    // the desktop does not say; then any two presses in different windows count as near each other.
     std::optional<Place> origin = {};
 };
 
@@ -28,7 +28,7 @@ class WindowInput {
     explicit WindowInput(int doubleClickMilliseconds = 500)
         : doubleClickTime(static_cast<std::uint32_t>(doubleClickMilliseconds)) {}
 
-    // Null for none. It must outlive this, or be taken away.
+    // Null for none. It must outlive this, or be removed first.
     void SetListener(HandlerListener* newListener) { listener = newListener; }
 
     // --- The open windows, the latest in front. Only the front window gets input, as long as it is visible and takes
@@ -44,15 +44,16 @@ class WindowInput {
     // right one; the backend translates it.
 
     void Move(Window& window, float x, float y) const;
-    // The second press of a double click is dropped if it hits something other than the first, or the same element,
-    // unless that takes fast presses. On the same surface it is a double click. A third press is a press again.
+    // The second press of a double click is dropped if it hits something else than the first did, or the same element,
+    // unless that takes fast presses. If both hit the surface, it is a double click. A third press is a normal press
+    // again.
     void Press(Window& window, MouseButton button, const PressPlace& place);
     // A left press and its release on the same element are a click.
     void Release(Window& window, MouseButton button, float x, float y);
     void Key(const Window& window, std::int32_t code) const;
     // The close box of the dialog in front.
     void UseCloseBox(const Window& dialog);
-    // Whether a dialog is open and goes on: it has neither been hidden nor closed.
+    // Whether a dialog is open and stays so: it has been neither hidden nor closed.
     bool IsOpen(const Window& dialog) const { return dialog.visible && closed != &dialog; }
     // The main window has been minimised or restored; whether it gets input does not matter.
     void Resize(const Window& window, bool isMinimised) const;

@@ -37,16 +37,17 @@ class Recorder final : public HandlerListener {
     Recorder(const TimerWheel& timers, std::function<void(std::ostream&)> dump)
         : wheel(timers), printState(std::move(dump)) {}
 
-    // A game begins at the moment of the running handler. `head` are the lines that describe its start, each with a
-    // newline.
+    // A game begins at the moment of the running handler. `head` contains the lines that describe its start, each
+    // ending in a newline.
     void Begin(std::string_view head);
-    // It ends at that moment: the last check, and a line `end MOMENT how`. What comes after that is not recorded.
+    // The game ends at that moment: writes the last check, and a line `end MOMENT how`. What comes after that is not
+    // recorded.
     void End(std::string_view how);
     // Forgets what has been recorded.
     void Drop();
 
     bool IsRecording() const { return isRecording; }
-    // The text so far, or that of the game that has ended.
+    // The text so far, or that of the last game, if it has ended.
     const std::string& Text() const { return text; }
     // Milliseconds since the game began.
     std::int64_t Moment() const { return wheel.MomentInMilliseconds() - origin; }

@@ -19,7 +19,7 @@ constexpr std::int64_t kFormat = 1;
 struct EventWord {
     std::string_view word;
     InputKind kind;
-    std::size_t words;  // after it
+    std::size_t words;  // after the name
 };
 
 constexpr auto kEventWords = std::to_array<EventWord>({
@@ -174,7 +174,7 @@ class Reader {
         if (arguments.Left() < 2) return Fail("too few words");
         if (arguments.Name() == "at") return ReadEvent(arguments);
         if (arguments.Name() != "check" && arguments.Name() != "end") return Fail("no such line: " + arguments.Name());
-        // What follows their moments is compared as text when the game is played again.
+        // What follows these moments is compared as text when the game is played again.
         Moment(arguments);
         isAtEnd = arguments.Name() == "end";
     }

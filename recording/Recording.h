@@ -16,7 +16,7 @@ namespace prismfall {
 constexpr std::int64_t kMostRecordedTime = 36'000'000;  // milliseconds
 constexpr std::size_t kMostRecordedBytes = 2'000'000;
 
-// A number of the state that a game begins with, by its name in the text.
+// One of the numbers that a game begins with, by its name in the text.
 struct StartValue {
     std::string name;
     std::int64_t value = 0;
@@ -51,16 +51,16 @@ struct Recording {
     std::size_t headBytes = 0;  // of the text, up to and including the seed's line
 };
 
-// Why a text is not a recording, for people to read.
+// Why a text is not a recording, in words for people.
 struct RecordingFault {
     int line = 0;  // from 1
     std::string reason;
 };
 
-// Parses a text. It may come from anywhere: whatever is wrong with it, the fault names the first bad line.
+// Parses a text, which may come from anywhere: whatever is wrong with it, the fault names the first bad line.
 std::optional<RecordingFault> ReadRecording(std::string_view text, Recording& recording);
 
-// The line of an event, without its newline; empty for input that does not change a game, such as a press on a button,
+// The line for an event, without its newline; empty for input that does not change a game, such as a press on a button,
 // which counts only when it becomes a click.
 std::string EventLine(std::int64_t moment, const InputEvent& event);
 std::string RenewalLine(std::int64_t moment);

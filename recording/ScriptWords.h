@@ -15,8 +15,8 @@ using Words = std::vector<std::string>;
 // The words of a line, without the comment that starts at a #.
 Words SplitWords(std::string_view line);
 
-// The words after a command's name, taken one after the other; there must be a next one. The first bad word is the
-// line's error. Later calls still return values in their ranges, but these must not be used.
+// The words after a command's name, taken one by one; there must be a next one. The first bad word becomes the line's
+// error. Later calls still return values in their ranges, but these must not be used.
 class Arguments {
   public:
     explicit Arguments(Words line) : words(std::move(line)) {}

@@ -21,7 +21,7 @@ struct StoreMemory {
     std::map<std::pair<std::string, std::string>, std::string> texts;  // by section and key, as last read or saved
     // Since the score table was last read or saved:
     bool scoresCleared = false;
-    std::vector<ScoreRow> gamesEntered;  // after the clearing, if there was one
+    std::vector<ScoreRow> gamesEntered;  // after the scores were cleared, if they were
 };
 
 // What the player may change about how the game looks, sounds and runs. Stored in a separate section, and only if not
@@ -31,7 +31,7 @@ struct Extras {
     std::int16_t Patterns = 0;       // along the beams, a different one for each colour
     std::int16_t Rings = 0;          // around the head that a press would reach
     std::int16_t Pace = 100;         // percent: 100, 80, 60 or 40
-    std::int16_t SameBeams = 0;      // the next Arcade game has the chance of the last one; not kept
+    std::int16_t SameBeams = 0;      // the next Arcade game repeats the last one's random numbers; not stored
     std::int16_t PauseAway = 0;      // pause when another window gets the focus
     std::int16_t MusicVolume = 100;  // percent: 100, 75, 50 or 25
     std::int16_t EffectsVolume = 100;

@@ -126,7 +126,7 @@ void AddExtras(std::vector<SettingValue>& values, const Extras& extras) {
         values.push_back({std::string(kExtras), std::string(row.key), TextOf(extras.*row.value)});
 }
 
-// The 79 that the store is to hold and the extras, in the order in which they are written.
+// The 79 values that the store should contain, and the extras, in the order in which they are written.
 std::vector<SettingValue> AllValues(const Settings& settings, const ScoreTable& scores) {
     std::vector<SettingValue> values = {{std::string(kGeneral), "PlayFirstTime", TextOf(settings.PlayFirstTime)},
                                         {std::string(kGeneral), "StartLevel", TextOf(settings.StartLevel)},

@@ -1,4 +1,4 @@
-// What can be done to a beam, by the player, the tutorial or a solution: find it, bend it, run it forward.
+// What the player, the tutorial or a solution can do to a beam: find it, bend it, run it forward.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +12,9 @@ namespace prismfall {
 // if it is 50 pixels away or more.
 CLine* FindNearestLine(const Field& field, std::int16_t X, std::int16_t Y);
 
-// The beams that a press can reach, by their heads: the nearest to the ground first, of those equally near the earliest
-// in Lines. One whose head lies exactly on that of an earlier beam is left out, since a press there reaches the other.
+// The beams that a press can reach, by their heads: those nearest to the ground first; of those equally near, the
+// earliest in Lines. A beam whose head is exactly on that of an earlier one is left out, since a press there reaches
+// the other.
 std::vector<const CLine*> ReachableHeads(const Field& field);
 
 // Turns a beam in the entry zone around on the spot: erases what was drawn of it and reverses its direction.

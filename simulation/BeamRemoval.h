@@ -12,19 +12,19 @@ namespace prismfall {
 // `ByFastLine`.
 void DeleteLine(Field& field, CLine& oLine, std::int16_t Thickness, bool ByFastLine);
 
-// Does the first step for a beam that has been struck, and adds it to DyingLines for the following ones.
+// Takes the first step for a beam that has been struck, and adds it to DyingLines for the following ones.
 void StartRemoval(Field& field, CLine& oLine, bool ByFastLine);
 
-// Does the next step for all of DyingLines and removes those that are gone from the list. A beam that is in it twice
+// Takes the next step for all of DyingLines and drops those that are gone from the list. A beam that is in it twice
 // loses two steps, and is erased once more after it is gone. Returns whether there was any.
 bool ThinDyingLines(Field& field);
 
-// Removes the beams from Lines that have thinned to nothing, and lets those that waited behind them grow on. Returns
+// Removes the beams that have thinned to nothing from Lines, and lets those that waited behind them grow on. Returns
 // whether there was any.
 bool RemoveGoneLines(Field& field);
 
-// Repaints all beams, since a removal has erased what was under it. Those that begin above the blue line are left to
-// the growth tick.
+// Repaints all beams, since a removal has erased whatever was under it. Those that begin above the blue line are left
+// to the growth tick.
 void RedrawLines(const Field& field);
 
 // Removes all beams. Paints nothing.

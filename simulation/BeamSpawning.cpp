@@ -53,7 +53,7 @@ BeamColor RandomColor(Chance& chance) {
         std::ranges::count_if(kColorBounds, [random](double bound) { return random >= bound; }));
 }
 
-// A growing beam without length.
+// A growing beam of length 0.
 BeamBody MakeSpot(std::int16_t x, std::int16_t y, Heading heading, BeamColor color) {
     return {.XStart = x,
             .XEnd = x,

@@ -12,7 +12,7 @@ namespace prismfall {
 
 class BeamStore {
   public:
-    // A new beam with that body, not linked to any other. It lives until Clear, or until KeepReachable cannot reach it.
+    // Makes a new beam with that body and no links. It lives until Clear, or until KeepReachable cannot reach it.
     CLine& Make(const BeamBody& body = {});
     void Clear() { beams.clear(); }
     // Frees the beams that cannot be reached from the two lists through LinkedLines and StoppingLines. Does nothing

@@ -8,7 +8,7 @@
 
 namespace prismfall {
 
-// Scripts of the headless driver use and print the numbers of these.
+// Scripts of the headless driver use and print these numbers.
 enum class Heading : std::int8_t { Leftwards = 1, Rightwards = 2 };
 enum class BeamColor : std::int8_t { Blue, Green, Red, Yellow, Grey };  // no beam is grey; a lost game paints them grey
 enum class Motion : std::int8_t {

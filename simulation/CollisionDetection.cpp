@@ -15,7 +15,8 @@ constexpr float kHitDistance = 1.0F;
 constexpr float kStruckThicknes = 4.0F;  // the first step of a removal
 constexpr int kHeadsMeet = 3;            // heads closer than this in x and y collide
 
-// Beyond this distance from a beam's box no rounding error can bring it down to kHitDistance, so it is not computed.
+// Farther than this from a beam's box, no rounding error can bring the distance down to kHitDistance, so it is not
+// computed.
 constexpr int kSurelyApart = 3;
 static_assert(kHeadsMeet <= kSurelyApart, "a head that can be hit is no farther away than that either");
 

@@ -7,10 +7,10 @@
 
 namespace prismfall {
 
-// The first beam in Lines that is near enough to the test point (X, Y), or null. A beam is hit at a distance of 1 or
-// less, or at its head, if that runs in the other direction at about the height `PrevY` that the moving head had before
-// its step. Nothing is hit at or above the blue line. `FastLine` is for a beam that runs forward: it passes through all
-// dying beams; a growing one still strikes those in the first step of their removal.
+// The first beam in Lines that is close enough to the test point (X, Y), or null. A beam is hit at a distance of 1 or
+// less, or at its head, if that moves in the other direction at about the height `PrevY`, where the moving head was
+// before its step. Nothing is hit at or above the blue line. `FastLine` is for a beam that runs forward: it passes
+// through all dying beams; a growing one still strikes those in the first step of their removal.
 CLine* FindCollision(const Field& field, std::int16_t X, std::int16_t Y, std::int16_t PrevY, Heading Direction,
                      bool FastLine);
 

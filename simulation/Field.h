@@ -27,7 +27,7 @@ struct Field {
     std::vector<CLine*> DyingLines;   // those struck directly; a beam can be in it twice
     BeamStore Beams;                  // owns them
     std::int16_t CollisionLineY = 0;  // where the entry zone ends, minus the fixed heights in Playfield.h
-    std::int16_t GrowthToggle = 0;    // 0 or 1, flips at every growth tick; in the entry zone beams move at 0 only
+    std::int16_t GrowthToggle = 0;    // 0 or 1, flips at every growth tick; in the entry zone beams move only at 0
 };
 
 // The outcome of a beam's step or run.

@@ -1,5 +1,5 @@
-// A second set of colours for the beams, which replaces LineColors in Playfield.h when they are shown. Any two colours
-// of a row can be told apart by people who lack one of the three kinds of cones, and all of them stand out from black.
+// A second set of beam colours, shown instead of LineColors in Playfield.h. Any two colours of a row can be told apart
+// by people who lack one of the three kinds of cones, and all of them stand out from black.
 #pragma once
 
 #include <array>

@@ -46,7 +46,8 @@ constexpr Colour OfColor(const std::array<Colour, 5>& colours, BeamColor color) 
     return colours[static_cast<std::size_t>(color)];
 }
 
-// The next place of a head, one pixel down and one sideways, and the point ahead of it that is tested for collisions.
+// The next position of a head, one pixel down and one sideways, and the point ahead of it that is tested for
+// collisions.
 struct Step {
     std::int16_t x;
     std::int16_t y;

@@ -30,7 +30,7 @@ class HeadlessScript {
 
     // Lets time pass until the next thing that happens, and lets it happen. Returns false if there is none.
     virtual bool LetNextHappen() = 0;
-    // The moment that the running handler goes on at, if the script knows one.
+    // The moment at which the running handler continues, if the script knows one.
     virtual std::optional<Nanoseconds> TakeRenewal() = 0;
 };
 
