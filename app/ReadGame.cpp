@@ -12,10 +12,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// One byte more than a recording has shows that a file is none.
+// One byte more than the longest recording shows that a file is not one.
 constexpr std::size_t kMostBytes = kMostRecordedBytes + 1;
 
-// Nothing if the file cannot be read.
+// Returns nothing if the file cannot be read.
 std::optional<std::string> TextOf(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
     std::string text(kMostBytes, '\0');

@@ -7,8 +7,8 @@
 
 namespace prismfall {
 
-// `fileOrLink` is UTF-8; it is a link only if there is no file of that name. Both may come from anywhere. Returns why
-// there is no game in it, in one line for the player, or nothing.
+// `fileOrLink` is UTF-8; it counts as a link only if there is no file of that name. Both may come from anywhere.
+// Returns nothing, or, in one line for the player, why there is no game in it.
 std::string ReadGame(const std::string& fileOrLink, Recording& recording);
 
 }  // namespace prismfall

@@ -1,4 +1,4 @@
-// The game: connects the desktop backend and the game's state and runs. Its one argument is a recorded game to watch.
+// The game: connects the desktop backend and the game's state and runs. Its only argument is a recorded game to watch.
 #include <SDL_filesystem.h>
 #include <SDL_stdinc.h>
 
@@ -43,7 +43,7 @@ fs::path FindPictures() {
 
 struct Wishes {
     bool areGood = true;
-    bool mustWatch = false;    // without a game to watch there is nothing to do
+    bool mustWatch = false;    // without a game to watch, exit at once
     std::string watched = {};  // a file or a link
 };
 

@@ -9,8 +9,8 @@
 
 namespace {
 
-// Where the stack is saved during a wait in browsers that cannot suspend a program: from the first address to the
-// second.
+// The memory in which the stack is saved during a wait, in browsers that cannot suspend a program: from the first
+// address to the second.
 struct SuspendedStack {
     std::uint8_t* start;
     std::uint8_t* end;

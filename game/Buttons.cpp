@@ -34,7 +34,7 @@ constexpr std::array<ButtonClick, 10> kClicks = {{
     {"CommandExit", CommandExit_Click},
 }};
 
-// Opens a dialog, pausing a running game meanwhile, and restores the button's Up picture.
+// Opens a dialog, pausing a running game while it is open, and restores the button's Up picture.
 template <typename Show>
 void OpenDialog(VMain& main, Element& button, Show show) {
     const bool wasRunning = main.GameRunning;

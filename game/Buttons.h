@@ -1,4 +1,4 @@
-// The buttons of the main window: which face they show when, what their clicks call, and the three that open a dialog.
+// The main window's buttons: which face each shows and when, what their clicks call, and the three that open a dialog.
 #pragma once
 
 #include "game/VMain.h"
@@ -10,7 +10,7 @@ void Form_MouseMove(VMain& main, float X);
 
 void Button_Click(VMain& main, const Element& element);
 
-// Each opens its dialog and pauses a running game meanwhile.
+// Each opens its dialog, pausing a running game while it is open.
 void CmdOptions_Click(VMain& main);
 void CmdScores_Click(VMain& main);
 void CmdAbout_Click(VMain& main);

@@ -26,10 +26,10 @@ void Form_KeyDown(VMain& main, std::int16_t KeyCode);
 // The window was minimised, which pauses the game, or restored, which resumes the music and a solution replay.
 void Form_Resize(VMain& main, bool isMinimised);
 
-// Another program's window has got the keys: a game that runs is paused by its button, if the player wants that.
+// Another program's window has the focus now: pauses a running game by its button, if the player wants that.
 void Form_Deactivate(VMain& main);
 
-// In the very first run, shows About, then the tutorial.
+// On the very first run, shows About, then the tutorial.
 void Form_Activate(VMain& main);
 
 }  // namespace prismfall

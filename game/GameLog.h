@@ -1,5 +1,4 @@
-// Is notified when a game begins and ends, no matter who plays it. Recording games implements it; this one does
-// nothing.
+// Is told when a game begins and ends, no matter who plays it. Recording games implements it; this one does nothing.
 #pragma once
 
 #include <cstdint>
@@ -21,7 +20,8 @@ class GameLog {
     // Called before the game does anything; a solution is a game that the player may take over. A game in progress
     // counts as left.
     virtual void Begins(VMain&, GameKind) {}
-    // Called with beams, score and level as they are at the end. Leaving a menu ends no game, since none has begun.
+    // Called while beams, score and level are still as they were at the end. Leaving a menu ends no game, since none
+    // has begun.
     virtual void Ends(VMain&, GameEnding) {}
 };
 

@@ -14,14 +14,14 @@ namespace prismfall {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> kKinds = {"arcade", "puzzle", "solution"};  // in the order of GameKind
+constexpr std::array<std::string_view, 3> kKinds = {"arcade", "puzzle", "solution"};  // indexed by GameKind
 
 constexpr std::int64_t kLowest = std::numeric_limits<std::int16_t>::min();
 constexpr std::int64_t kHighest = std::numeric_limits<std::int16_t>::max();
 
 struct StartMember {
     std::string_view name;
-    std::int64_t atStart;  // of the program
+    std::int64_t atStart;  // when the program starts
     std::int64_t lowest;
     std::int64_t highest;
     std::int64_t (*get)(const VMain& main);

@@ -10,8 +10,8 @@
 
 namespace prismfall {
 
-// The line of the kind and its numbers, then one for each timer that is on or has a changed interval, each with a
-// newline. Numbers that have their start-up values are left out.
+// The line with the kind and its numbers, then one for each timer that is on or has a changed interval, each ending in
+// a newline. Numbers that have their start-up values are left out.
 std::string StartLines(VMain& main, GameKind kind);
 
 // Brings a program in its main menu to the state that the recording begins with, and begins the game. Returns why that

@@ -47,7 +47,7 @@ void ExtendLines(VMain& main) {
                 PlaySound2(main.audio, Sound::Stopped, false);
                 break;
             case Outcome::Destroyed:
-                SetLevelSpeed(main);  // a level rise reaches the timers with the next hit
+                SetLevelSpeed(main);  // after a level rise, the timers change with the next hit
                 CountHit(main, hits, beam);
                 PlaySoundOfHit(main);
                 break;

@@ -81,7 +81,7 @@ void MakeHighScores(VMain& main) {
     main.VHighScore2->hasIcon = true;
 }
 
-// Not while a game is in progress: it would be left.
+// Not while a game is in progress, since that would be abandoned.
 bool MayWatch(const VMain& main) {
     return main.watchScore && (!RowOf(main.GameMode).isGame || !main.window.takesInput);
 }

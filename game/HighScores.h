@@ -10,8 +10,8 @@ namespace prismfall {
 // tenth row is dropped. A score of 0 never enters.
 void SaveScore(VMain& main);
 
-// Fills the dialog with current values and shows it; returns when it has closed. Where games are kept, a press on a row
-// closes it and watches that game, unless another is in progress.
+// Fills the dialog with the current values and shows it; returns when it has been closed. Where games are kept, a press
+// on a row closes it and shows that game, unless another is in progress.
 void ShowHighScores(VMain& main);
 
 // Clears the table, HighScore and the dialog's display, without asking.

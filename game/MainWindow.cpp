@@ -23,7 +23,7 @@ namespace {
 
 constexpr Extent kOuterSize{806, 629};  // with a nominal frame; the inner area is 802 by 602 whatever the desktop draws
 
-// One second after start-up: the intro track, once.
+// One second after start-up: plays the intro track, once.
 void TimerPlayIntro_Timer(VMain& main) {
     PlayIntroMusic(main.audio);
     main.platform.StopTimer(Timer::TimerPlayIntro);
@@ -74,7 +74,7 @@ void Connect(VMain& main) {
 void ShowStartNumbers(VMain& main) {
     ShowNumber(main.VScore, 0);
     main.Level = 1;
-    ShowNumber(main.VLevel, 0);  // until a game shows its own
+    ShowNumber(main.VLevel, 0);  // until a game shows its own level
 }
 
 void TakeHighScore(VMain& main) {

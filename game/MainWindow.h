@@ -13,10 +13,10 @@ void Form_Load(VMain& main);
 void Form_QueryUnload(VMain& main);
 void Form_Unload(VMain& main);
 
-// Of a timer, when the program starts; milliseconds.
+// A timer's interval when the program starts, in milliseconds.
 int IntervalAtStart(Timer timer);
 
-// The tick of a timer.
+// Handles a tick of the timer.
 void TickTimer(VMain& main, Timer timer);
 
 // Fills main.window, connects it and the timers to their handlers, and loads it. `main` must outlive the platform's use

@@ -1,5 +1,5 @@
-// The modes of the game, described by one row each. Code asks for the property it means, as in
-// RowOf(main.GameMode).isScored, and for a mode by name only where no property distinguishes it.
+// The modes of the game, one row each. Code asks for the property it means, as in RowOf(main.GameMode).isScored, and
+// for a mode by name only where no property distinguishes it.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ struct ModeRow {
     bool marksSolved = false;         // a cleared puzzle counts as solved
     Mode exitTo = Mode::MainMenu;     // where Exit and Esc lead; from the main menu they end the program
     Track track = Track::None;
-    int clears = 1;  // of the surface when entering the screen; one would do, but the exact number is kept
+    int clears = 1;  // of the surface on entering the screen; one would do, but the exact number is kept
 };
 
 const ModeRow& RowOf(Mode mode);
@@ -34,7 +34,7 @@ void EnterMode(VMain& main, Mode mode);
 // the game's timers alone; starts the logo's flicker in the main menu and stops it elsewhere.
 void EnterScreen(VMain& main, Mode mode);
 
-// Says in the main menu that an Arcade game would be slower than usual, and enter no table.
+// Tells the player in the main menu that an Arcade game would be slower than usual, and not enter the table.
 void ShowPaceNote(VMain& main);
 
 // Plays the music that belongs to the mode, if it has any.

@@ -8,15 +8,15 @@
 
 namespace prismfall {
 
-// A press on the playfield at (X, Y), in game pixels. Any button except the left one acts as the right one. The place
-// is remembered in every mode; presses do not reach beams during the tutorial, a pause or a replay.
+// A press on the playfield at (X, Y), in game pixels. Any button except the left one acts as the right one. The
+// position is remembered in every mode; presses do not reach beams during the tutorial, a pause or a replay.
 void Form_MouseDown(VMain& main, MouseButton Button, float X, float Y);
 
-// The second press of a double click: a left press at the place of the last press, while a game runs.
+// The second press of a double click: acts as a left press at the position of the last one, while a game is running.
 void Form_DblClick(VMain& main);
 
-// What keys can choose on the surface: in a game that takes presses the heads of the beams, which then have the keys
-// alone; in the puzzle menu the previews.
+// What keys can choose on the surface: in a game that takes presses, the heads of the beams, and then keys can choose
+// nothing else; in the puzzle menu, the previews.
 void ListSpots(VMain& main, SurfaceSpots& spots);
 // The head that a press at (X, Y) would reach now.
 std::optional<SurfaceSpot> ReachedHead(const VMain& main, float X, float Y);

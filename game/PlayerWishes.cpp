@@ -21,7 +21,7 @@ struct ColourRow {
 constexpr std::array<ColourRow, 3> kColourRows = {
     {{LineColors, kClearColors}, {LineColorsUpper, kClearColorsUpper}, {LineColorsLower, kClearColorsLower}}};
 
-// By beam colour. Lines of the field and frames of previews are painted in the blue of beams, so that is solid.
+// By beam colour. The field's lines and the previews' frames are painted in the same blue as beams, so blue is solid.
 constexpr std::array<Pattern, 4> kPatterns = {Pattern::Solid, Pattern::Dashes, Pattern::Dots, Pattern::DashDots};
 
 std::vector<Recolouring> RecolouringsOf(const Extras& extras) {

@@ -1,14 +1,14 @@
-// What the player has chosen among the extras, carried to the machine.
+// Applies the player's choices among the extras.
 #pragma once
 
 #include "game/VMain.h"
 
 namespace prismfall {
 
-// Lets the machine show and sound as the extras say. The pace is not among it: a game keeps the one it began with.
+// Makes the machine look and sound as the extras say. The pace is left out: a game keeps the one it began with.
 void ApplyExtras(const VMain& main);
 
-// A game begins: at the pace of the extras. At any but the full one it enters no table.
+// A game begins at the pace set in the extras. At any pace but the full one, it does not enter the score table.
 void BeginAtPace(VMain& main);
 
 // F1 opens the extras, M switches all sound. Other keys do nothing.

@@ -19,8 +19,7 @@ struct LayoutBeam {
     BeamColor Color = BeamColor::Blue;
 };
 
-// A step of a solution. It is triggered by a growing beam with the number TriggerLineNr whose head is exactly at
-// TriggerYEnd.
+// A step of a solution. It is triggered by a growing beam numbered TriggerLineNr whose head is exactly at TriggerYEnd.
 struct SolutionStep {
     std::int16_t TriggerLineNr = 0;
     std::int16_t TriggerYEnd = 0;  // pixels of the surface

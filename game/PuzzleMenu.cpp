@@ -41,7 +41,7 @@ constexpr auto kPages = std::to_array<Page>({
 });
 static_assert(kPages.size() == kPageCount, "every page of the puzzle menu needs its name and its picture");
 
-// The mark's place leaves out where the playfield begins.
+// The mark's position leaves out the playfield's offset.
 void PlaceMark(Element& mark, const PreviewBox& cell, std::int16_t puzzle, bool isSolved) {
     mark.left = static_cast<float>(cell.left - kLeftWall + kMarkPlace * cell.width);
     mark.top = static_cast<float>(cell.top - kPlayfieldTop + kMarkPlace * cell.height);

@@ -16,7 +16,7 @@ constexpr std::int16_t PuzzleInCell(std::int16_t page, int cell) {
     return static_cast<std::int16_t>((page - 1) * kPuzzlesPerPage + cell + 1);
 }
 
-// Where the preview in a cell is painted, game pixels.
+// Where the preview in a cell is painted, in game pixels.
 struct PreviewBox {
     int left;
     int top;

@@ -5,9 +5,9 @@
 
 namespace prismfall {
 
-// Shows VPuzzleResult. A solved puzzle offers the next one (the button is disabled after the last) and the menu, a lost
-// one its solution, the menu and another try. Returns when the dialog has closed and the player's choice was carried
-// out.
+// Shows VPuzzleResult. A solved puzzle offers the next one (the button is disabled after the last) and the menu, a
+// failed one its solution, the menu and another try. Returns when the dialog is closed and the player's choice has been
+// carried out.
 void ShowPuzzleResult(VMain& main, bool Solved);
 
 }  // namespace prismfall

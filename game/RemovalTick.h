@@ -1,5 +1,5 @@
-// The removal tick: it thins dying beams, takes those that are gone out of play, lets the beams that they had stopped
-// grow on, and detects that a puzzle is solved.
+// The removal tick: thins dying beams, takes those that are gone out of play, lets the beams they had stopped grow on,
+// and detects that a puzzle is solved.
 #pragma once
 
 #include "game/VMain.h"

@@ -5,7 +5,7 @@
 
 namespace prismfall {
 
-// Runs the beam to its end. If that was at another beam, plays the sound without waiting for it, and in a scored game
+// Runs the beam to its end. If it ended at another beam, plays the sound without waiting for it, and in a scored game
 // adds the points and repaints the blue line.
 Outcome RunForward(VMain& main, CLine& beam);
 

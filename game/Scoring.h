@@ -7,7 +7,7 @@
 
 namespace prismfall {
 
-// The collisions of one moment: how many, and the sums of their heads' coordinates.
+// The collisions of one moment: how many, and the sums of the coordinates of their heads.
 struct Hits {
     std::int16_t N = 0;
     std::int16_t MultiSumX = 0;
@@ -17,9 +17,9 @@ struct Hits {
 // Adds the collision of a growing beam, whose color and direction become those of the pop-up.
 void CountHit(VMain& main, Hits& hits, const BeamBody& beam);
 
-// Scores the collisions of one moment, 1 or more: 10 points, doubled for each further one. Several collisions show the
-// pop-up with their points, at the average of their places. Raises the level, and changes the music, after enough
-// collisions. Only for a scored game.
+// Scores the collisions of one moment, 1 or more: 10 points, doubled for each further one. If there are several, their
+// points pop up at the average of their positions. Raises the level, and changes the music, after enough collisions.
+// Only for a scored game.
 void AddScore(VMain& main, const Hits& hits);
 
 // One step of the pop-up: it drifts down and away from the beam, darkens, and disappears after seven steps.

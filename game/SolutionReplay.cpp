@@ -61,7 +61,7 @@ void Act(VMain& main, const SolutionStep& step, CLine& beam) {
 void PlaySolutionStep(VMain& main, std::span<const SolutionStep> script) {
     const std::vector<CLine*>& beams = main.field.Lines;
     const std::size_t count = beams.size();
-    // A step can yield, and then beams may disappear.
+    // A step can let events run, in which beams may disappear.
     for (std::size_t i = 0; i < count && i < beams.size(); ++i) {
         CLine& beam = *beams[i];
         if (beam.RunMode != Motion::Growing) continue;

@@ -1,4 +1,4 @@
-// The state of a game as text: two games that print the same here go on in the same way.
+// The state of a game as text: two games that print the same here will continue in the same way.
 #pragma once
 
 #include <ostream>

@@ -1,5 +1,5 @@
-// The state of the game. There is one per run of the program; every topic of this folder is a pair of files with free
-// functions on it. The layers below have their own states and take only those.
+// The state of the game, one per run of the program; each topic in this folder is a pair of files with free functions
+// that work on it. The layers below have their own states and know only those.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@
 
 namespace prismfall {
 
-// The game in progress in numbers, and what it leaves for the next one.
+// The numbers of the game in progress, and what it leaves for the next one.
 struct GameNumbers {
     Mode GameMode = Mode::MainMenu;  // changed only by EnterMode
     bool GameRunning = false;
@@ -39,7 +39,7 @@ struct GameNumbers {
     std::int16_t PuzzlePage = 1;     // of the puzzle menu, 1 to kPageCount
 
     // --- The pop-up of a collision of several beams.
-    BeamColor MultiColor = BeamColor::Blue;  // of the last collision in a growth tick, of several beams or not
+    BeamColor MultiColor = BeamColor::Blue;  // of the last collision in a growth tick, single or not
     Heading MultiDirection = Heading::Leftwards;
     std::int16_t MultiTicks = 0;  // since it appeared
 
@@ -61,11 +61,11 @@ struct VMain : MainElements, GameNumbers {
     DialogHost dialogs;
     GameLog* log = &noGameLog;
 
-    std::optional<std::uint64_t> ArcadeSeed;  // of the last Arcade game that was given one
-    bool EntersTable = true;                  // the score of the game that is played may enter the table
-    bool IsPlayedOn = false;                  // that game was taken over from a recording: nothing of it is kept
+    std::optional<std::uint64_t> ArcadeSeed;  // of the last Arcade game that began with one
+    bool EntersTable = true;                  // the score of the game in progress may enter the table
+    bool IsPlayedOn = false;                  // it was taken over from a recording: nothing of it is kept
 
-    // Watches the game of a row of the score table; whether it is kept. Empty where no games are kept.
+    // Shows the game behind a row of the score table; returns whether it is kept. Empty where no games are kept.
     std::function<bool(const ScoreRow& row)> watchScore;
 
     // --- The dialogs, each built on first use.

@@ -7,7 +7,7 @@
 
 namespace prismfall {
 
-// Shows the dialog, which is built on first use and kept in `VAbout`; returns when it has closed.
+// Shows the dialog, which is built on first use and kept in `VAbout`; returns when it has been closed.
 void ShowAbout(const DialogHost& host, std::unique_ptr<Window>& VAbout);
 
 }  // namespace prismfall

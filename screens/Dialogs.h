@@ -21,11 +21,11 @@ constexpr Colour kCream = 0xC0FFFF;
 
 // --- Buttons.
 
-// Gives all buttons of a window their Up pictures back.
+// Restores the Up pictures of all buttons in a window.
 void ResetFaces(Window& window);
-// The pointer is over an element: a button shows its Down picture, others do nothing.
+// The pointer is over an element: if it is a button, shows its Down picture.
 void ShowDownFace(Element& element);
-// The press sound of a button, for any mouse button; the click follows when it has ended. Other elements do nothing.
+// Plays a button's press sound, for any mouse button; the click follows when it has ended. Other elements do nothing.
 void PressElement(const Audio& audio, const Element& element);
 
 // --- Dialogs.
@@ -37,7 +37,7 @@ struct DialogHost {
     const Audio& audio;
 };
 
-// A label, a check box, a radio button or the frame around some of them, in the look that they share.
+// A label, a check box, a radio button or the frame around some of them, in their common style.
 Element MakeOption(std::string_view name, ElementKind kind, int left, int top, int width, int height, std::string text);
 
 // What a click on an element of a dialog does.

@@ -1,4 +1,4 @@
-// The elements of the main window, each in its place. The game reads and changes them by name.
+// The elements of the main window, each in its position. The game reads and changes them by name.
 #pragma once
 
 #include <array>
@@ -31,7 +31,7 @@ inline Element MakeButton(std::string_view name, int left, int top, int width, i
     return button;
 }
 
-// What a button with several meanings shows and does at the moment.
+// What a button with several meanings currently shows and does.
 struct ButtonMeaning {
     ButtonFaces faces;
     std::string_view tag;
@@ -98,7 +98,7 @@ struct MainElements {
                           .visible = false,
                           .font = {.family = "Felix Titling", .points = 9.75F}};
 
-    Element LabelPace = {.name = "LabelPace",  // in the main menu, where an Arcade game would be a slower one
+    Element LabelPace = {.name = "LabelPace",  // shown in the main menu when an Arcade game would be a slower one
                          .kind = ElementKind::Label,
                          .left = 345,
                          .top = 476,

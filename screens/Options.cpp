@@ -15,7 +15,7 @@ constexpr std::array<std::string_view, 10> kLevelOptions = {"Option1", "Option2"
 constexpr int kFirstOptionY = 40;
 constexpr int kOptionStep = 24;
 
-// The OK button.
+// Called by the OK button.
 void ApplyLevel(Window& dialog, Settings& settings) {
     for (std::size_t i = 0; i < kLevelOptions.size(); ++i) {
         if (!dialog[kLevelOptions[i]].checked) continue;
@@ -29,7 +29,7 @@ void SelectOption(Window& dialog, std::string_view option) {
     for (const std::string_view name : kLevelOptions) dialog[name].checked = name == option;
 }
 
-// Whether it is checked now.
+// Returns whether the box is checked now.
 bool Toggle(Element& box) { return box.checked = !box.checked; }
 
 std::vector<Element> MakeElements() {
@@ -47,7 +47,7 @@ std::vector<Element> MakeElements() {
     return table;
 }
 
-// Marks the current settings. A start level without a button is not marked.
+// Marks the current settings. If the start level has no button, none is marked.
 void Options_Load(Window& dialog, const Settings& settings) {
     for (std::size_t i = 0; i < kLevelOptions.size(); ++i)
         dialog[kLevelOptions[i]].checked = settings.StartLevel == static_cast<std::int16_t>(i + 1);
