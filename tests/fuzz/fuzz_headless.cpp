@@ -10,7 +10,7 @@
 
 namespace {
 
-// A script may ask for years of play. Here each gets half a minute in all, and no line may ask for more than is left.
+// A script may ask for years of play. Here each gets half a minute in total, and no line may ask for more than is left.
 class Patience {
   public:
     bool Endures(const std::string& line) {

@@ -1,5 +1,5 @@
-// Recordings come from strangers, and so do links to them: anything is refused or played, without a crash, and within
-// the time that -timeout gives.
+// Recordings come from strangers, and so do links to them: whatever it is must be refused or played, without a crash,
+// and within the limit of -timeout.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// What happens when a beam, growing or run forward, ends at another: sounds, points, timer speed, the blue line.
+// What happens when a beam, growing or run forward, ends at another one: sounds, points, timer speed, the blue line.
 #include <gtest/gtest.h>
 
 #include "game/GrowthTick.h"
@@ -19,7 +19,7 @@ constexpr char kCollisions[] = R"(
     arcade | 600,100 550,150 green stopped; 500,100 510,110 red stopped     |               |
 )";
 
-TEST(Collisions, SoundAndScoreAndReachTheTimers) {
+TEST(Collisions, MakeSoundsScoreAndSpeedUpTheTimers) {
     for (const auto& row : Rows(kCollisions)) {
         for (const bool isRun : {false, true}) {
             if (isRun && row[3].empty()) continue;

@@ -1,4 +1,4 @@
-// The extras: chosen in their window, kept, and what a slower game does without.
+// The extras: chosen in their window, stored, and what a slower game leaves out.
 #include <gtest/gtest.h>
 
 #include "game/GameRecorder.h"
@@ -13,7 +13,7 @@ namespace {
 
 class ExtrasPlayer : public TestGame {
   public:
-    // Opens the window, clicks what is named in it, leaves it, and ends the run; the store's section then.
+    // Opens the window, clicks the named elements, closes it, and ends the run. Returns the store's section after that.
     std::string Choose(std::initializer_list<std::string_view> names) {
         machine.onDialog = [&](Window& dialog) { opened = &dialog; };
         for (const std::string_view name : names) machine.QueueAnswer(std::string(name));
@@ -29,7 +29,7 @@ class ExtrasPlayer : public TestGame {
     Window* opened = nullptr;
 };
 
-TEST(Extras, AreKeptOnlyOnceTheyDiffer) {
+TEST(Extras, AreStoredOnlyOnceTheyDiffer) {
     ExtrasPlayer player;
     player.QuietStore().Load();
     EXPECT_EQ(player.Choose({}), "");
@@ -60,7 +60,7 @@ TEST(Extras, ASlowerGameSaysSoAndEntersNoTable) {
     }
 }
 
-TEST(Extras, TheLastGamesBeamsComeAgainIfWanted) {
+TEST(Extras, TheLastGamesBeamsComeBackIfWanted) {
     ExtrasPlayer player;
     VMain& main = player.QuietStore().Load();
     GameRecorder recorder(main, {});

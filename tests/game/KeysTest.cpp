@@ -1,5 +1,5 @@
-// The game without a mouse: every puzzle is picked, started and solved by keys alone, at the moments and beams of its
-// solution, and what keys must leave alone.
+// The game without a mouse: every puzzle is picked, started and solved with keys alone, at the moments and beams of its
+// solution; and what keys must leave alone.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace {
 class KeyPlayer : public TestGame {
   public:
     void Press(Key key) { PressKey(machine.Input(), main->window, key); }
-    // Goes through what can be chosen until it comes to `what`.
+    // Cycles through what can be chosen until it gets to `what`.
     void Choose(const void* what) {
         for (int tries = 0; tries < 60 && main->window.choice.what != what; ++tries) Press(Key::Tab);
         ASSERT_EQ(main->window.choice.what, what);

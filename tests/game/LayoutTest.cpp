@@ -1,5 +1,5 @@
-// Everything in the windows, as a list to be compared with layout.expected: places, texts, button faces, and where the
-// tutorial pictures can be pressed. The window tests find their way by that file.
+// Everything in the windows, as a list to be compared with layout.expected: positions, texts, button faces, and where
+// the tutorial pictures can be pressed. The window tests find their way with that file.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -74,7 +74,7 @@ void DescribeSpots(std::ostream& out, TestGame& game, std::size_t picture) {
     }
 }
 
-// When the tutorial pictures appear, by the height of the beam that is its clock, and where.
+// When the tutorial pictures appear, by the height of the beam that serves as the clock, and where.
 void DescribeMoments(std::ostream& out, TestGame& game) {
     VMain& main = game.Main();
     AddBeams(game.Main().field, "400,20 400,20 red #4; 300,300 324,324 red #4; 300,300 324,324 red #3");

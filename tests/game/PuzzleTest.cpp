@@ -27,7 +27,7 @@ constexpr char kLayouts[] = R"(
     100,100 150,150 red; 200,100 120,180 blue; 80,80 150,150 green | 142,142:/ 120,180:/1 3 146,146:/1
 )";
 
-TEST(LinkPuzzleLines, AppliesTheFirstRuleThatHolds) {
+TEST(LinkPuzzleLines, AppliesTheFirstRuleThatMatches) {
     for (const auto& row : Rows(kLayouts)) {
         TestGame game(Mode::PuzzleGame, row[0]);
         VMain& main = game.Main();

@@ -28,7 +28,7 @@ class RandomPlayer : public TestGame {
   public:
     explicit RandomPlayer(std::uint32_t seed) : random(seed) { QuietStore().Load().settings.SoundEffects = false; }
 
-    // Clicks now and then, and lets about one growth tick pass. Between games it starts a puzzle, a replay or an Arcade
+    // Clicks now and then, and lets about one growth tick pass. Between games, starts a puzzle, a replay or an Arcade
     // game at a random level.
     void PlayATick() {
         if (main->GameRunning && Number(1, 1000) == 1) CommandExit_Click(*main);  // a puzzle can come to a standstill
@@ -54,7 +54,7 @@ class RandomPlayer : public TestGame {
         if (!isSolution) CmdStart_Click(*main);
     }
 
-    // Mostly on beams. Bending a beam that is on a wall leads out of the field, so that is left out.
+    // Mostly on beams. Bending a beam that touches a wall would take it out of the field, so that is left out.
     void Press() {
         int x = Number(0, 700), y = Number(0, 600);
         if (!main->field.Lines.empty() && Chance(90)) {

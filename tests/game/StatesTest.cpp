@@ -27,7 +27,7 @@ std::string Looks(TestGame& game) {
     return looks;
 }
 
-// Carries out one word.
+// Executes one word.
 void Do(TestGame& game, const std::string& what) {
     VMain& main = game.Main();
     const bool isFirst = what == "tutorial";
@@ -96,7 +96,7 @@ TEST(States, AnArcadeGameBeginsAfresh) {
     EXPECT_EQ(std::tuple(main.LevelLineCount, main.HighScore), std::tuple(0, 90));
 }
 
-// While a game's end runs, no input reaches the game.
+// Input does not reach the game while it is ending.
 TEST(States, AGamesEndTakesNoInput) {
     TestGame game;
     VMain& main = game.QuietStore().Load();

@@ -1,5 +1,5 @@
 // Game time and its timers, on a clock that the test sets: what ticks when the machine is late, and from which moment
-// the timers count that a handler starts.
+// the timers that a handler starts are counted.
 #include "platform/TimerWheel.h"
 
 #include <gtest/gtest.h>

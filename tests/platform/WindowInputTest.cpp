@@ -1,4 +1,4 @@
-// Which input reaches a window's handlers: places, clicks, double clicks, and what is kept from them.
+// Which input reaches a window's handlers: positions, clicks, double clicks, and what is kept from them.
 #include "platform/WindowInput.h"
 
 #include <gtest/gtest.h>

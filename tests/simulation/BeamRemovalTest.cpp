@@ -20,7 +20,7 @@ TEST(DeleteLine, GoesThroughTheChainInOneColour) {
                    "150,250 100,300 green; 100,300 150,350 blue");
     Field& field = test.field;
     for (std::size_t beam = 1; beam < 5; ++beam) Link(test.Beam(beam), test.Beam(beam + 1));
-    Link(test.Beam(3), test.Beam(1));  // and around in a ring
+    Link(test.Beam(3), test.Beam(1));  // and back around, as a ring
     test.painter.isPrinting = true;
     DeleteLine(field, test.Beam(2), 4, true);
     EXPECT_EQ(InShort(field),

@@ -28,7 +28,7 @@ TEST(CreateLine, ARandomBeamByItsNumbers) {
 }
 
 TEST(CreateLine, SkipsTakenColumns) {
-    // A dying beam takes its column too, a head alone does not.
+    // A dying beam takes up its column too, a head alone does not.
     TestField test("arcade", "41,20 50,29 blue dying; 61,200 90,229 blue; 100,200 81,219 blue");
     EXPECT_EQ(Spawn(test, {1.5 * 20 / 642, 2.5 * 20 / 642, 3.5 * 20 / 642})->XStart, 81);
     for (int column = 0; column < 33; ++column)

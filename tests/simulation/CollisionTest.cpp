@@ -8,7 +8,7 @@
 namespace prismfall {
 namespace {
 
-constexpr std::int16_t kFarAway = 5000;  // as PrevY: no head hits another
+constexpr std::int16_t kFarAway = 5000;  // as PrevY, so that no head hits another
 
 TEST(FindCollision, HitsWhatTheTableSays) {
     struct Case {

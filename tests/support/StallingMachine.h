@@ -9,7 +9,7 @@
 
 namespace prismfall {
 
-// Prints like a headless machine, but has the timers and the game time of a real one.
+// Prints like a headless machine, but has a real machine's timers and game time.
 class StallingMachine : public HeadlessPlatform {
   public:
     StallingMachine(std::ostream& events, std::uint32_t seed) : HeadlessPlatform(events), random(seed) {}

@@ -26,7 +26,7 @@ class TestPainter : public SurfacePainter {
 
 class TestDice : public Chance {
   public:
-    std::deque<double> numbers;  // the next ones; afterwards always 0
+    std::deque<double> numbers;  // the next ones; after that always 0
 
     double Random() override;
     void SeedRandomFromClock() override {}

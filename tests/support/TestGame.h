@@ -20,7 +20,7 @@ class TestGame {
     // A machine without a running program; settings can be stored before Load. Effects, music and the first run are as
     // with an empty store, unless QuietStore is called first.
     TestGame() : machine(printed), main(std::make_unique<VMain>(machine)) {}
-    // A quiet program with beams, given as text, on an otherwise empty playfield of `mode`, in play; no timer runs.
+    // A quiet program with a game in `mode` in play, on a playfield with only the given beams; no timer runs.
     explicit TestGame(Mode mode, std::string_view beams = {});
 
     TestMachine& Machine() { return machine; }
@@ -35,7 +35,7 @@ class TestGame {
     // A press and a click of the left button on an element of the main window.
     void Click(std::string_view element);
 
-    // Adds text of the test's own.
+    // Adds the test's own text.
     void Print(std::string_view text) { printed << text; }
     // The lines printed since the last call.
     std::string TakePrinted();

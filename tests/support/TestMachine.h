@@ -1,4 +1,4 @@
-// A headless machine that lets a test inspect and act while a dialog is open or a handler yields.
+// A headless machine that lets a test look and act while a dialog is open or a handler yields.
 #pragma once
 
 #include <functional>

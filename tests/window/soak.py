@@ -41,7 +41,7 @@ def play(screen, program, chance, end):
     while run.is_running() and time.monotonic() < stop:
         found = screen.output("xdotool", "search", "--onlyvisible", "--class", "prismfall").split()
         for number in found[-2:] or screen.output("xdotool", "search", "--name", f"^{layout.MAIN}$").split():
-            words = [] if found else ["windowmap", number, "windowactivate", number]  # by its button in the taskbar
+            words = [] if found else ["windowmap", number, "windowactivate", number]  # with its button in the taskbar
             for action in chance.choices(list(ACTIONS), list(ACTIONS.values()), k=4):
                 words += [part for word in action.split() for part in chosen(chance, number).get(word, word).split()]
             screen.mouse(*words)

@@ -19,12 +19,12 @@ class Arcade(harness.WindowTest):
         run.press("CommandArcade")
         wait_for(lambda: run.coloured(layout.ENTRY_ZONE) > 20, 5, "spots in the entry zone")
         pause = run.face("cmdPause")
-        run.main.click(*layout.middle("cmdPause"), times=2, delay=100)  # the second is a double click's, for no button
+        run.main.click(*layout.middle("cmdPause"), times=2, delay=100)  # the second is half of a double click, so ignored
         run.rest_mouse()
         wait_for(run.stands_still, 3, "beams to stand still")
         resume = run.face("cmdPause")
         self.assertNotEqual(resume, pause)
-        time.sleep(0.5)  # so that it is no double click
+        time.sleep(0.5)  # to avoid a double click
         run.press("cmdPause")
         run.wait_for_motion()
         run.rest_mouse()

@@ -4,7 +4,7 @@ import layout
 from desktop import holds_for, wait_for
 from game import later_run
 
-HASTY_ROUNDS = 25  # the fault that this is for showed in one of dozens
+HASTY_ROUNDS = 25  # the bug this looks for appeared once in dozens
 
 
 class Dialogs(harness.WindowTest):
@@ -37,7 +37,7 @@ class Dialogs(harness.WindowTest):
         self.check_window(run, dialog, layout.ABOUT)
         dialog.use_close_box()
         run.wait_for_close(layout.ABOUT)
-        # Another button than the last one: at once, that would be the second press of a double click.
+        # A different button each time: the same one at once would make it the second press of a double click.
         for key, (button, title) in zip(("Escape", "Return"), reversed(layout.DIALOGS.items())):
             run.open_dialog(button, title).key(key)
             run.wait_for_close(title)

@@ -10,7 +10,7 @@ from game import later_run
 
 class Installed(harness.WindowTest):
     def play(self, command):
-        run = self.start(self.settings(later_run(Music="True")), self.folder(), command)  # which finds all by itself
+        run = self.start(self.settings(later_run(Music="True")), self.folder(), command)  # it finds everything itself
         time.sleep(1.5)  # the music begins after a second
         self.assertFalse(self.desktop.windows(layout.ERROR))
         self.end_in_menu(run)

@@ -1,4 +1,4 @@
-"""Keys in a real window: the same way through the game as in a headless one, and what marks the place that is chosen."""
+"""Keys in a real window: the same path through the game as in a headless one, and the mark at the chosen place."""
 import harness
 from desktop import wait_for
 

@@ -1,4 +1,4 @@
-"""Machines on which something is missing or goes away: a window manager, a display, a sound device, files, time."""
+"""Machines on which something is missing or disappears: a window manager, a display, a sound device, files, time."""
 import signal
 import time
 
@@ -9,7 +9,7 @@ from desktop import holds_for, wait_for
 from game import later_run
 
 ASLEEP = 3  # seconds
-STEP = 0.075  # seconds a pixel, in an Arcade game of the first level
+STEP = 0.075  # seconds per pixel, in an Arcade game at level 1
 
 
 class Ends(harness.WindowTest):
@@ -42,7 +42,7 @@ class PlainDisplay(harness.WindowTest):
     manager = False
 
     def resize(self, window, width, height):
-        """Acts like a desktop that gives no window the size it asks for."""
+        """Acts like a desktop that never gives a window the size it asks for."""
         self.desktop.output("xdotool", "windowsize", str(window.number), str(width), str(height))
 
     def test_a_window_of_another_size_shows_its_whole_picture(self):

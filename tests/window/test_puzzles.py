@@ -36,7 +36,7 @@ class Puzzles(harness.WindowTest):
         run.main.click(*head, button=3)
         run.answer_dialog(layout.RESULT, "CommandSolution", 10)
         run.wait_for_motion()
-        run.main.click(*head, button=3)  # no business of the player's in a solution
+        run.main.click(*head, button=3)  # which a replay must ignore
         run.answer_dialog(layout.RESULT, "Command1", 30)
         self.assertTrue(holds_for(run.is_running, 0.2))
 

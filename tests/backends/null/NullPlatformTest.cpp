@@ -1,4 +1,4 @@
-// A game on the starting point of a port: it fulfils everything in the interface that the game relies on.
+// A game on the starting point for a port: it provides everything in the interface that the game relies on.
 #include "backends/null/NullPlatform.h"
 
 #include <gtest/gtest.h>

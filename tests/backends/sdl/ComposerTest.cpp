@@ -11,7 +11,7 @@ namespace {
 constexpr int kWidth = Surface::kWidth;
 constexpr int kHeight = Surface::kHeight;
 
-// A picture of random colours, half of its pixels see-through.
+// A picture of random colours, half of its pixels transparent.
 Image Speckled(int width, int height, std::mt19937& random) {
     Image image(width, height);
     for (std::uint32_t& pixel : image.pixels) {

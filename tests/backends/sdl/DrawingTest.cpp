@@ -1,4 +1,4 @@
-// How large a picture is drawn, pictures that cannot be loaded, and text that has to fit.
+// The size at which a picture is drawn, pictures that cannot be loaded, and text that has to fit.
 #include <gtest/gtest.h>
 #include <png.h>
 
@@ -43,7 +43,7 @@ TEST(PictureStoreTest, ReportsExactlyWhatIsWrongWithAPicture) {
     fs::remove_all(folder);
 }
 
-// The row below the last one with a letter in it.
+// The row below the last one that has part of a letter in it.
 int BottomOfText(int fitHeight, float scale) {
     Display display(PictureStore("/nowhere"));
     display.SetScale(scale);

@@ -1,4 +1,4 @@
-// Gamepads, as one that SDL makes up: what its buttons and its stick stand for, and that it may come and go.
+// Gamepads, with a virtual one from SDL: what its buttons and its stick stand for, and that it may come and go.
 #include "backends/sdl/desktop/Gamepads.h"
 
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ class GamepadTest : public ::testing::Test {
         ASSERT_NE(joystick, nullptr) << "the gamepad is taken in";
     }
 
-    // The numbers of the keys that have been pressed.
+    // The codes of the keys pressed so far.
     std::string Keys() {
         std::string keys;
         SDL_JoystickUpdate();
@@ -55,7 +55,7 @@ class GamepadTest : public ::testing::Test {
     SDL_Joystick* joystick = nullptr;
 };
 
-TEST_F(GamepadTest, IsKeysAndMayComeAndGo) {
+TEST_F(GamepadTest, ActsAsKeysAndMayComeAndGo) {
     for (int round = 0; round < 2; ++round) {
         PlugIn();
         EXPECT_EQ(Press(SDL_CONTROLLER_BUTTON_A) + Press(SDL_CONTROLLER_BUTTON_B) + Press(SDL_CONTROLLER_BUTTON_START) +

@@ -1,5 +1,5 @@
-// What the sound device gets to play: music, exact to the sample, across loops, pauses and its end, from good and bad
-// files, and the single voice for sounds. The device is SDL's dummy, and the test reads the samples in its place.
+// What the sound device is given to play: music, exact to the sample, across loops, pauses and its end, from good and
+// bad files, and the single voice for sounds. The device is SDL's dummy, and the test reads the samples instead.
 #include <gtest/gtest.h>
 #include <mpg123.h>
 #include <sys/resource.h>
@@ -180,7 +180,7 @@ TEST_F(PlayingTest, AFileThatChangesItsRateAndChannelsKeepsItsLength) {
     EXPECT_NEAR(length, 1152 * (50 + 200 * 44.1 / 32 + 50 * 44.1 / 48), kChunk);
 }
 
-// What a device of SDL's disk driver has played. Until playback starts it writes chunks of silence.
+// What a device of SDL's disk driver has played. Until playback starts, it writes chunks of silence.
 Samples ReadSamples(const fs::path& file) {
     Samples samples(fs::file_size(file) / 2);
     std::ifstream(file, std::ios::binary)
@@ -213,7 +213,7 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndResumesInTheFormatOfTheNext) {
     getrlimit(RLIMIT_FSIZE, &room);
     const rlimit little{1'000'000, room.rlim_max};
     setrlimit(RLIMIT_FSIZE, &little);
-    setenv("SDL_DISKAUDIODELAY", "15", 1);  // milliseconds per chunk, so that there is time before the file is full
+    setenv("SDL_DISKAUDIODELAY", "15", 1);  // milliseconds per chunk, to leave time before the file is full
     setenv("SDL_DISKAUDIOFILE", first.c_str(), 1);
 
     SdlAudio audio;
@@ -223,7 +223,7 @@ TEST_F(PlayingTest, MusicWaitsForADeviceAndResumesInTheFormatOfTheNext) {
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     setenv("SDL_AUDIODRIVER", "disk", 1);
     ASSERT_TRUE(WaitFor([&] { return size(first) > 300'000; })) << "a device has come";
-    audio.DeviceLost();  // but that was not this one
+    audio.DeviceLost();  // but that was a different one
     ASSERT_TRUE(WaitFor([] {
         SDL_PumpEvents();
         return SDL_HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE;

@@ -1,4 +1,4 @@
-// Links to recordings: what comes out of them, and what strangers may have made of them.
+// Links to recordings: what comes out of them, and what strangers may have done to them.
 #include "backends/sdl/recordings/RecordingLink.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kMost = 2'000'000;
 
-TEST(RecordingLink, HoldsAnyTextAndAThreeMinuteGameIn2000Letters) {
+TEST(RecordingLink, HoldsAnyTextAndAThreeMinuteGameIn2000Characters) {
     std::mt19937 random(1);
     for (std::size_t length = 0; length < 300; ++length) {
         std::string text(length, '\0');

@@ -26,7 +26,7 @@ std::uint32_t Seed() {
     return given != nullptr ? static_cast<std::uint32_t>(std::strtoul(given, nullptr, 10)) : std::random_device{}();
 }
 
-// The file itself included.
+// Including the file itself.
 std::ptrdiff_t FilesBeside(const fs::path& file) {
     return std::distance(fs::directory_iterator(file.parent_path()), fs::directory_iterator());
 }
@@ -55,7 +55,7 @@ class SettingsFileTest : public ::testing::Test {
     fs::path path;
 };
 
-// Two copies count their saves in the file, each in its own key and in all the others, until they are killed.
+// Two copies count their saves in the file, each under its own key and in all the others, until they are killed.
 TEST_F(SettingsFileTest, CopiesKilledWhileSavingLoseNothingOfEachOther) {
     using Counts = std::array<std::atomic<int>, 2>;
     void* shared = mmap(nullptr, sizeof(Counts), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
@@ -95,7 +95,7 @@ TEST_F(SettingsFileTest, CopiesKilledWhileSavingLoseNothingOfEachOther) {
     EXPECT_EQ(FilesBeside(path), 1) << "what killed saves have left is cleared away";
 }
 
-// What the disk does while it is to keep a text.
+// What happens on the disk while it is supposed to keep a text.
 std::function<void()> whenSyncing;
 
 TEST_F(SettingsFileTest, ASlowSaveLosesNothingOfAnothersAndKeepsWhatItWrites) {
@@ -108,7 +108,7 @@ TEST_F(SettingsFileTest, ASlowSaveLosesNothingOfAnothersAndKeepsWhatItWrites) {
     EXPECT_EQ(Get("Copy", "1") + Get("Copy", "2"), "TrueTrue");
 }
 
-TEST_F(SettingsFileTest, NothingIsSavedThatCouldNotBeReadAgain) {
+TEST_F(SettingsFileTest, NothingIsSavedThatWouldBeTooLargeToRead) {
     const std::string most((1 << 20) - 100, 'x');
     ASSERT_EQ(Write(path, {{"General", "Music", most}}), "");
     EXPECT_NE(Write(path, {{"General", "Sound", std::string(100, 'x')}}), "");
@@ -155,7 +155,7 @@ TEST_F(SettingsFileTest, ALinkIsFollowed) {
 }  // namespace
 }  // namespace prismfall
 
-// In place of the system's. There is no disk below these tests.
+// Replaces the system's. There is no disk beneath these tests.
 extern "C" int fsync(int) {
     if (prismfall::whenSyncing) prismfall::whenSyncing();
     return 0;

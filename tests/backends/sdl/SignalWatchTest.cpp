@@ -43,7 +43,7 @@ TEST(SignalWatchTest, EndsAHangingProgramAndLeavesIgnoredSignalsAlone) {
                 testing::ExitedWithCode(7), "");
 }
 
-// No memory is large enough for their stacks.
+// Makes starting a thread fail: no memory is large enough for such a stack.
 void DenyThreads() {
     pthread_attr_t attributes;
     pthread_attr_init(&attributes);
@@ -63,7 +63,7 @@ bool GoesOnWithoutThreads() {
     return isSilent && !isWatching && BecomesAnEvent(SIGHUP) && pictures.Find("Icon") != nullptr;
 }
 
-TEST(SignalWatchTest, WhereTheSystemGivesNoThreadsTheGameGoesOn) {
+TEST(SignalWatchTest, WithoutThreadsTheGameStillRuns) {
     EXPECT_EXIT((DenyThreads(), _exit(GoesOnWithoutThreads() ? 0 : 1)), testing::ExitedWithCode(0), "");
 }
 

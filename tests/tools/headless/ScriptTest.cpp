@@ -12,7 +12,7 @@ namespace {
 
 constexpr char kQuiet[] = "setting General PlayFirstTime False\nsetting General Music False\nload\n";
 
-// Runs a script with each command of a list in turn (each ends with a semicolon), and passes on the result.
+// Runs a script with each command of a list in turn (each ends with a semicolon), and passes the result to `check`.
 template <typename Check>
 void Try(const std::string& before, const std::string& commands, const std::string& after, Check check) {
     std::istringstream list(commands);
