@@ -10,15 +10,15 @@ export default tseslint.config(
         extends: [tseslint.configs.strictTypeChecked, tseslint.configs.stylisticTypeChecked],
         languageOptions: { parserOptions: { projectService: true } },
         rules: {
-            // A handler may be an arrow that hands the call on.
+            // A handler may be an arrow function that passes the call on.
             '@typescript-eslint/no-confusing-void-expression': ['error', { ignoreArrowShorthand: true }],
             // The program's numbers become enums where its records are read.
             '@typescript-eslint/no-unsafe-enum-assignment': 'off',
-            // Numbers in texts are meant.
+            // Numbers in texts are intended.
             '@typescript-eslint/restrict-template-expressions': ['error', { allowNumber: true }],
-            // The compiler asks for the brackets.
+            // The compiler requires the brackets.
             '@typescript-eslint/dot-notation': ['error', { allowIndexSignaturePropertyAccess: true }],
-            // Waiting in turn is the point of most loops that wait, and a loop that ends by a return is plain.
+            // Most loops that wait have to wait one step at a time, and a loop that ends with a return is easy to read.
             '@typescript-eslint/no-unnecessary-condition': ['error', { allowConstantLoopConditions: true }],
         },
     },
@@ -31,7 +31,7 @@ export default tseslint.config(
                         (name) => [name, 'readonly'],
                     ),
                 ),
-                // What is said to a page in a test runs there.
+                // Functions that a test passes to a page run there.
                 ...Object.fromEntries(
                     [
                         'document',

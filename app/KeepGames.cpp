@@ -8,7 +8,7 @@ namespace prismfall {
 namespace {
 
 constexpr std::size_t kGamesKept = 20;
-constexpr std::int64_t kShortest = 1000;  // milliseconds; what is left at once is no game
+constexpr std::int64_t kShortest = 1000;  // milliseconds; a game left at once is not kept
 
 std::string ArcadeTitle(std::int16_t score, std::int16_t level) {
     return "Arcade " + std::to_string(score) + " points level " + std::to_string(level);

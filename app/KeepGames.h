@@ -1,4 +1,4 @@
-// Keeps a recording of every game that was played: the last twenty, and those of the score table.
+// Keeps a recording of every game played: the last twenty, and those of the score table.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace prismfall {
 
-// A folder that cannot be written costs a recording and nothing else: one line on standard error says why.
+// If the folder cannot be written, only the recording is lost: one line on standard error says why.
 void KeepGame(const RecordingFolder& folder, const VMain& main, const PlayedGame& game);
 
 // What the title of a kept Arcade game says; nothing for other titles.
@@ -20,7 +20,7 @@ struct ArcadeResult {
 };
 std::optional<ArcadeResult> ParseArcadeTitle(std::string_view title);
 
-// Whether a file of that name holds the game of a row of the score table.
+// Whether a file of that name contains the game of a row of the score table.
 bool IsGameOf(const ScoreRow& row, std::string_view name);
 
 }  // namespace prismfall

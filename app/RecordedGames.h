@@ -1,4 +1,4 @@
-// What the player does with recorded games: the window of F2, games that are dropped on the main window or opened by
+// What the player does with recorded games: the window opened with F2, games dropped on the main window or opened by
 // the desktop, rows of the score table.
 #pragma once
 
@@ -17,15 +17,15 @@ namespace prismfall {
 
 class RecordedGames {
   public:
-    // For a program whose main window is made and not yet shown. All must outlive this.
+    // For a program whose main window has been made but not yet shown. All the arguments must outlive this.
     RecordedGames(SdlPlatform& desktop, VMain& game, const RecordingFolder& keptGames);
 
     // Watches a game, now that the program is in its main menu.
     void Watch(Recording recording);
 
   private:
-    // Watches a game of the player's choice, in a file or a link, and leaves whatever is in progress. An error box says
-    // why it cannot be watched.
+    // Watches a game of the player's choice, from a file or a link, and leaves whatever is in progress. An error box
+    // says why it cannot be watched.
     void Open(const std::string& fileOrLink);
     void Show();
     bool WatchScore(const ScoreRow& row);

@@ -81,7 +81,7 @@ int main(int count, char** words) {
         main, [&](const prismfall::PlayedGame& game) { prismfall::KeepGame(folder, main, game); });
     prismfall::RecordedGames games(*platform, main, folder);
     if (!fault.empty()) {
-        prismfall::SdlPlatform::Drop(wishes.watched);  // which says so in a box
+        prismfall::SdlPlatform::Drop(wishes.watched);  // an error box says so
     } else if (!wishes.watched.empty()) {
         games.Watch(std::move(watched));
     }

@@ -1,5 +1,5 @@
-// The baseline that the benchmarks compare with: the game's arithmetic in bare loops over arrays, without lists, states
-// or rules. It does not play a game.
+// The baseline for the benchmarks: the game's arithmetic in bare loops over arrays, without lists, states or rules. It
+// does not play a game.
 #pragma once
 
 #include <cstddef>

@@ -48,7 +48,7 @@ struct Pair {
         bare.Add(tailX, tailY, headX, headY, color, grows);
     }
 
-    // Puts the heads back to where they were.
+    // Puts the heads back where they were.
     void Rewind(std::size_t beam, int headX, int headY) {
         main.field.Lines[beam]->XEnd = bare.xEnd[beam] = static_cast<std::int16_t>(headX);
         main.field.Lines[beam]->YEnd = bare.yEnd[beam] = static_cast<std::int16_t>(headY);

@@ -1,4 +1,4 @@
-# The toolchain that cross-builds for Linux on arm64, with the libraries of the Debian that script/package-linux has unpacked.
+# The toolchain that cross-builds for Linux on arm64, with the Debian libraries that script/package-linux has unpacked.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)

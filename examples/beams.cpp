@@ -14,7 +14,7 @@
 
 using namespace prismfall;
 
-// One letter per 10 by 20 pixels. A beam's core is painted as a letter, its edges are left out.
+// One letter per 10 by 20 pixels. A beam's core is painted as a letter; its edges are left out.
 struct Terminal : SurfacePainter {
     std::array<std::string, 31> rows;
     Terminal() { rows.fill(std::string(68, ' ')); }

@@ -1,9 +1,9 @@
-# Run by `cmake --install`, which sets CMAKE_INSTALL_PREFIX: makes ENTRY of TEMPLATE and puts it into the folder ENTRIES. The
-# entry names the command in the folder COMMANDS by its whole path, unless every desktop looks there anyway.
+# Run by `cmake --install`, which sets CMAKE_INSTALL_PREFIX: makes ENTRY from TEMPLATE and puts it into the folder ENTRIES. The
+# entry gives the full path of the command in the folder COMMANDS, unless every desktop looks there anyway.
 cmake_path(ABSOLUTE_PATH COMMANDS BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE)
 set(command prismfall)
 if(NOT COMMANDS MATCHES "^/(app|usr|usr/local)/(bin|games)$")
-    # Quoted as desktop entries need it: once as an argument, and once more as a value of the file.
+    # Quoted as desktop entries require: once as an argument, and once more as a value in the file.
     string(REGEX REPLACE "([\"`$])" "\\\\\\\\\\1" command "${COMMANDS}/prismfall")
     string(REPLACE "%" "%%" command "\"${command}\"")
 endif()

@@ -63,7 +63,7 @@ long TimeToChange(const volatile std::uint32_t* pixel, const Act& act) {
     act();
     auto now = begin;
     while (*pixel == before) {
-        std::this_thread::sleep_for(kLook);  // a loop without rest would keep a processor from those it waits for
+        std::this_thread::sleep_for(kLook);  // a loop without pauses would take the processor from those it waits for
         now = Clock::now();
         if (now - begin > kLongest) return -1;
     }

@@ -20,7 +20,7 @@ const site = await serve('build/web');
 const browser = await puppeteer.launch({ executablePath: '/usr/bin/chromium', args: ['--no-sandbox'] });
 
 const sorted = (numbers) => [...numbers].sort((a, b) => a - b);
-/** Says whether a figure keeps its limit. */
+/** Reports whether a figure is within its limit. */
 function against(limit, figure, unit = '') {
     if (figure >= limit) process.exitCode = 1;
     return `${figure < limit ? 'below' : 'NOT BELOW'} ${limit}${unit}`;
@@ -42,7 +42,7 @@ async function openGame(startLevel, prepare = '', density = 1) {
     return new Game(driven).open(site.address);
 }
 
-/** In milliseconds, of the browser and all processes that it started. */
+/** In milliseconds, for the browser and all processes that it has started. */
 function processorTime() {
     const processes = readdirSync('/proc').filter((name) => /^\d+$/.test(name));
     const stats = processes.flatMap((pid) => {
@@ -62,7 +62,7 @@ function processorTime() {
 }
 
 async function bytes(density) {
-    // Before the sounds, which are the first files that can wait.
+    // Ahead of the sounds, which are the first files that can wait.
     const note = `addEventListener('DOMContentLoaded', () => {
         const loading = document.getElementById('loading');
         new MutationObserver(() => {
@@ -109,7 +109,7 @@ async function pressToPixel() {
         addEventListener('mousedown', (event) => (pressed = event.button === 2 ? event.timeStamp : 0), true);
         CanvasRenderingContext2D.prototype.putImageData = function (...rest) {
             put.apply(this, rest);
-            if (pressed) waits.push(performance.now() - pressed); // painting is a part of the frame
+            if (pressed) waits.push(performance.now() - pressed); // painting is part of the frame
             pressed = 0;
         };`;
     const game = await openGame(1, watch);

@@ -19,7 +19,7 @@ class Arcade(harness.WindowTest):
         run.press("CommandArcade")
         wait_for(lambda: run.coloured(layout.ENTRY_ZONE) > 20, 5, "spots in the entry zone")
         pause = run.face("cmdPause")
-        run.main.click(*layout.middle("cmdPause"), times=2, delay=100)  # the second is half of a double click, so ignored
+        run.main.click(*layout.middle("cmdPause"), times=2, delay=100)  # the second makes a double click: ignored
         run.rest_mouse()
         wait_for(run.stands_still, 3, "beams to stand still")
         resume = run.face("cmdPause")

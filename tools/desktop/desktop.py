@@ -17,11 +17,11 @@ import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "assets/pictures/drawing"))
 
-import png  # noqa: E402  which the assets are drawn with
+import png  # noqa: E402  one of the tools that draw the assets
 
 ENDING = []  # what to end, newest last
-PAUSE = 0.01  # between two looks at a condition
-PATIENCE = 8  # how many times as long as on an idle machine something may take on a busy one
+PAUSE = 0.01  # between two checks of a condition
+PATIENCE = 8  # how many times longer than on an idle machine something may take on a busy one
 
 
 def end_all():
@@ -34,11 +34,11 @@ signal.signal(signal.SIGTERM, lambda *_: os._exit(end_all() or 1))
 
 
 class Missing(Exception):
-    """What was waited for has not appeared."""
+    """What a test waited for has not appeared."""
 
 
 def wait_for(condition, seconds=5, what="the condition"):
-    """Calls `condition` until it gives something true, and gives that back. `seconds` are those of an idle machine."""
+    """Calls `condition` until its result is true, and returns that. `seconds` is the limit on an idle machine."""
     seconds *= PATIENCE
     end = time.monotonic() + seconds
     while True:
@@ -169,7 +169,7 @@ class Desktop:
 
 
 class Window:
-    """A window of the program; places are pixels of its inner area."""
+    """A window of the program; positions are in pixels of its inner area."""
 
     def __init__(self, desktop, number):
         self.desktop, self.number = desktop, number
@@ -215,7 +215,7 @@ class Window:
         return self.viewer(x, y, width, height)()
 
     def viewer(self, x, y, width, height):
-        """A function that reads one place quickly, as long as the window is not moved."""
+        """Returns a function that reads one place quickly, as long as the window is not moved."""
         left, top, _, _ = self.place()
         return lambda: self.desktop.screen.pixels(left + x, top + y, width, height)
 

@@ -11,18 +11,18 @@ from desktop import ENDING, Missing, holds_for, wait_for
 
 
 def later_run(**general):
-    """Settings of a run that is not the first, silent unless a test asks for sound."""
+    """Settings for a run that is not the first, silent unless a test asks for sound."""
     return {"General": {"PlayFirstTime": "False", "Music": "False"} | general}
 
 
 def still(look, seconds):
-    """Whether the picture does not change for that long."""
+    """Whether the picture stays the same for that long."""
     before = look()
     return holds_for(lambda: look() == before, seconds)
 
 
 def click_in(dialog, title, element):
-    """Clicks an element of a dialog, whose frame may be a part of the window, as it is with Windows' small ones."""
+    """Clicks an element of a dialog, whose frame may be part of the window, like the small ones on Windows."""
     (width, height), (_, _, outer_width, outer_height) = layout.SIZES[title], dialog.place()
     edge = (outer_width - width) // 2
     x, y = layout.middle(element, title)
@@ -109,7 +109,7 @@ class Game:
         return self.main.pixels(*layout.BOXES[layout.MAIN, element])
 
     def in_main_menu(self):
-        return self.face("CommandPuzzle").count(0) < 6500  # in a game there is nothing but black
+        return self.face("CommandPuzzle").count(0) < 6500  # everywhere else this area is black
 
     def wait_for_main_menu(self, seconds=5):
         self.rest_mouse()

@@ -17,8 +17,8 @@ DIALOGS = {"CmdAbout": ABOUT, "CmdScores": SCORES, "CmdOptions": OPTIONS}
 PLAYFIELD = (14, 20, 656, 566)
 ENTRY_ZONE = (14, 20, 656, 38)
 BELOW_BLUE_LINE = (14, 66, 656, 520)
-NO_ELEMENT = (676, 340)  # bare surface right of the playfield: there all buttons get their Up faces
-STRAIGHT_DOWN = 37, (334, 340)  # a puzzle on the last page, and the head of a beam that runs straight to its floor
+NO_ELEMENT = (676, 340)  # bare surface right of the playfield, where all buttons get their Up faces back
+STRAIGHT_DOWN = 37, (334, 340)  # a puzzle on the last page, and the head of a beam that runs straight to the floor
 
 CORES = (0x0000FF, 0x008000, 0xFF0000, 0xC0C000)  # of beams: blue, green, red, yellow
 GREY = 0x808080

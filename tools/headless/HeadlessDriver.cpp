@@ -221,7 +221,7 @@ void HeadlessDriver::Press(Arguments& words) {
     if (words.IsGood()) platform.Input().PressSurface(main->window, button, x, y);
 }
 
-// A number is a key as the game's own handler gets it, a name is one that plays.
+// A number is a key code for the game's own handler, a name is a key that plays.
 void HeadlessDriver::PressKeyOf(Arguments& words) {
     const auto row = std::ranges::find(kKeys, std::string_view(words.Next()), &KeyName::name);
     if (row != kKeys.end()) return PressKey(platform.Input(), main->window, row->key);

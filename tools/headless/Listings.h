@@ -1,4 +1,4 @@
-// Prints what the windows and the settings hold, for scripts and people to read.
+// Prints what the windows and the settings contain, for scripts and people to read.
 #pragma once
 
 #include <ostream>

@@ -1,5 +1,5 @@
-// prismfall-headless: reads a script on standard input and prints what the game does on standard output, or, as
-// `prismfall-headless verify FILE...`, plays recordings of games again and says whether they are true.
+// prismfall-headless: reads a script from standard input and prints what the game does to standard output;
+// `prismfall-headless verify FILE...` plays recordings again and says whether they are true.
 #include <array>
 #include <cstdio>
 #include <iostream>
@@ -18,7 +18,7 @@
 
 namespace {
 
-// Nothing if the file cannot be read. By C's means, since WebAssembly's C++ library has no file streams.
+// Returns nothing if the file cannot be read. Uses C's functions, since WebAssembly's C++ library has no file streams.
 std::optional<std::string> ContentsOf(const char* name) {
     std::FILE* const file = std::fopen(name, "rb");
     if (file == nullptr) return std::nullopt;
@@ -30,7 +30,7 @@ std::optional<std::string> ContentsOf(const char* name) {
     return isWhole ? std::optional(text) : std::nullopt;
 }
 
-// A line `FILE: VERDICT` for each. The exit status: 0 if all are true, otherwise 1.
+// Prints a line `FILE: VERDICT` for each. Returns the exit status: 0 if all are true, otherwise 1.
 int VerifyFiles(std::span<char* const> names) {
     int status = 0;
     for (const char* name : names) {
