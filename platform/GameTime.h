@@ -30,7 +30,7 @@ class GameTime {
     void Stall(Nanoseconds length) { stalls += length; }
 
     bool IsFrozen() const { return freezes > 0; }
-    // Game time stands still while one of these exists: while the game waits for a sound, or while an error box is
+    // Game time is frozen while one of these exists: while the game waits for a sound, or while an error box is
     // open.
     class Freeze {
       public:

@@ -40,7 +40,7 @@ class TimerWheel {
     // Milliseconds from the moment of the running handler until the timer is due, if it is on.
     std::int64_t Remaining(Timer timer) const;
     // The earliest game time at which a timer that may tick is due: one that is on, has an interval above 0, and whose
-    // handler is not running. Nothing if there is none, or while game time stands still.
+    // handler is not running. Nothing if there is none, or while game time is frozen.
     std::optional<Nanoseconds> NextDue() const;
 
     // --- For a platform whose clock runs by itself.
@@ -48,7 +48,7 @@ class TimerWheel {
     // Ticks everything that is due, in the order of due times; at the same time, in the order of Timer. Before each
     // tick the clock is read once; if a timer that may tick is late by its interval or more, the lateness of the one
     // due first becomes a stall. If ticks take longer than their timers' intervals, a turn ends after a number of
-    // ticks. While game time stands still nothing ticks. Returns whether anything did.
+    // ticks. While game time is frozen, nothing ticks. Returns whether anything did.
     bool TickDue();
 
     // Runs the handler of an input event, an activation or the like, after everything due by then has ticked.

@@ -85,7 +85,7 @@ struct Window {
     int innerHeight = 0;
     std::string_view background;  // a picture placed at the top left and cut off at the edges
     bool isDialog = false;        // has a small frame without minimise and maximise buttons
-    bool stopsTime = false;  // a dialog outside the game: game time stands still meanwhile, and recordings leave it out
+    bool stopsTime = false;  // a dialog outside the game: game time is frozen meanwhile, and recordings leave it out
     bool hasIcon = false;
     bool visible = false;            // set when the backend opens it, cleared by Hide or the close box
     bool takesInput = true;          // if false, only the close box works

@@ -24,11 +24,11 @@ class EventLoop {
     [[noreturn]] void Run();
     // Runs inside a handler while `condition` is true.
     void RunWhile(const std::function<bool()>& condition);
-    // The same, but game time stands still and no timer ticks.
+    // The same, but game time is frozen and no timer ticks.
     void FreezeWhile(const std::function<bool()>& condition);
     // Handles pending events. If there are none, sleeps briefly, so a caller may wait by calling it in a loop.
     void LetEventsRun();
-    // Waits for `length` while game time stands still and nothing happens except painting and the program's end.
+    // Waits for `length` while game time is frozen and nothing happens except painting and the program's end.
     void PaintFor(Nanoseconds length);
 
   private:
