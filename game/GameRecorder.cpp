@@ -30,7 +30,7 @@ std::uint64_t SeedFor(VMain& main, GameKind kind) {
 
 GameRecorder::GameRecorder(VMain& main, std::function<void(const PlayedGame& game)> keepGame)
     : game(main),
-      recorder(main.platform.Timers(), [&main](std::ostream& out) { PrintDump(out, main); }),
+      recorder(main.platform.Timers(), [&main](Printer& out) { PrintDump(out, main); }),
       keep(std::move(keepGame)) {
     game.log = this;
     game.platform.Timers().SetListener(&recorder);

@@ -20,7 +20,7 @@ std::ptrdiff_t PlaceOf(const Field& field, const CLine* beam) {
     return found == field.Lines.end() ? 0 : found - field.Lines.begin() + 1;
 }
 
-void PrintPlaces(std::ostream& out, const Field& field, const std::vector<CLine*>& beams, char separator) {
+void PrintPlaces(Printer& out, const Field& field, const std::vector<CLine*>& beams, char separator) {
     if (beams.empty()) out << '-';
     for (std::size_t i = 0; i < beams.size(); ++i) {
         if (i > 0) out << separator;
@@ -28,7 +28,7 @@ void PrintPlaces(std::ostream& out, const Field& field, const std::vector<CLine*
     }
 }
 
-void PrintBeam(std::ostream& out, const Field& field, const CLine& beam) {
+void PrintBeam(Printer& out, const Field& field, const CLine& beam) {
     out << "beam " << PlaceOf(field, &beam) << ' ' << beam.XStart << ',' << beam.YStart << ' ' << beam.XEnd << ','
         << beam.YEnd << " dir=" << NumberOf(beam.Direction) << " color=" << NumberOf(beam.Color)
         << " mode=" << NumberOf(beam.RunMode) << " thick=" << static_cast<int>(beam.Thicknes)
@@ -40,7 +40,7 @@ void PrintBeam(std::ostream& out, const Field& field, const CLine& beam) {
     out << '\n';
 }
 
-void PrintState(std::ostream& out, const VMain& main) {
+void PrintState(Printer& out, const VMain& main) {
     out << "state mode=" << NumberOf(main.GameMode) << " running=" << Flag(main.GameRunning)
         << " waiting=" << Flag(main.PuzzleWaiting) << " puzzle=" << main.CurrentPuzzle << " page=" << main.PuzzlePage
         << " level=" << main.Level << " count=" << main.LevelLineCount << " score=" << main.Score
@@ -49,7 +49,7 @@ void PrintState(std::ostream& out, const VMain& main) {
         << " liney=" << main.field.CollisionLineY << '\n';
 }
 
-void PrintTimers(std::ostream& out, const TimerWheel& timers) {
+void PrintTimers(Printer& out, const TimerWheel& timers) {
     out << "timers";
     for (const TimerName& row : kTimerNames)
         out << ' ' << row.name << '=' << (timers.IsOn(row.timer) ? "on" : "off") << ':' << timers.Interval(row.timer);
@@ -58,7 +58,7 @@ void PrintTimers(std::ostream& out, const TimerWheel& timers) {
 
 }  // namespace
 
-void PrintDump(std::ostream& out, const VMain& main) {
+void PrintDump(Printer& out, const VMain& main) {
     PrintState(out, main);
     PrintTimers(out, main.platform.Timers());
     for (const CLine* beam : main.field.Lines) PrintBeam(out, main.field, *beam);

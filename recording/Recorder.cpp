@@ -1,8 +1,5 @@
 #include "recording/Recorder.h"
 
-#include <array>
-#include <cstdio>
-
 #include "recording/Recording.h"
 
 namespace prismfall {
@@ -13,18 +10,24 @@ constexpr std::int64_t kCheckEvery = 5000;  // milliseconds
 constexpr std::uint32_t kPrime = 16777619U;
 constexpr std::size_t kUsualBytes = 8192;  // for a game of a few minutes
 
-}  // namespace
+class TextPrinter final : public Printer {
+  public:
+    explicit TextPrinter(std::string& printed) : text(printed) {}
+    void Print(std::string_view more) override { text += more; }
 
-Fingerprint::int_type Fingerprint::overflow(int_type letter) {
-    const char written = traits_type::to_char_type(letter);
-    xsputn(&written, 1);
-    return letter;
+  private:
+    std::string& text;
+};
+
+void PrintHexadecimal(Printer& out, std::uint32_t number) {
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    for (int shift = 28; shift >= 0; shift -= 4) out << kDigits[number >> shift & 15];
 }
 
-std::streamsize Fingerprint::xsputn(const char* letters, std::streamsize count) {
-    for (const char letter : std::string_view(letters, static_cast<std::size_t>(count)))
-        value = (value ^ static_cast<unsigned char>(letter)) * kPrime;
-    return count;
+}  // namespace
+
+void Fingerprint::Print(std::string_view text) {
+    for (const char letter : text) value = (value ^ static_cast<unsigned char>(letter)) * kPrime;
 }
 
 void Recorder::Begin(std::string_view head) {
@@ -32,7 +35,7 @@ void Recorder::Begin(std::string_view head) {
     text.reserve(kUsualBytes);
     text += head;
     ofLines.Begin();
-    ofLines.Add(head);
+    ofLines.Print(head);
     origin = wheel.MomentInMilliseconds();
     nextCheck = kCheckEvery;
     isRecording = true;
@@ -78,18 +81,20 @@ void Recorder::CheckBefore(std::int64_t moment) {
 void Recorder::WriteCheck(std::int64_t moment) {
     Fingerprint whole;
     whole.Begin(ofLines.Value());
-    std::ostream state(&whole);
-    printState(state);
-    std::array<char, 16> digits{};
-    std::snprintf(digits.data(), digits.size(), "%08x", static_cast<unsigned>(whole.Value()));
-    Write("check " + std::to_string(moment) + ' ' + digits.data());
+    printState(whole);
+    const std::size_t before = text.size();
+    TextPrinter line(text);
+    line << "check " << moment << ' ';
+    PrintHexadecimal(line, whole.Value());
+    line << '\n';
+    ofLines.Print(std::string_view(text).substr(before));
 }
 
 void Recorder::Write(std::string_view line) {
     const std::size_t before = text.size();
     text += line;
     text += '\n';
-    ofLines.Add(std::string_view(text).substr(before));
+    ofLines.Print(std::string_view(text).substr(before));
 }
 
 }  // namespace prismfall

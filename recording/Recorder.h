@@ -5,26 +5,21 @@
 
 #include <cstdint>
 #include <functional>
-#include <ostream>
-#include <streambuf>
 #include <string>
 #include <string_view>
 
 #include "platform/HandlerListener.h"
+#include "platform/Printer.h"
 #include "platform/TimerWheel.h"
 
 namespace prismfall {
 
-// A 32-bit fingerprint (FNV-1a) of everything written to it. Allocates nothing.
-class Fingerprint : public std::streambuf {
+// A 32-bit fingerprint (FNV-1a) of everything printed to it.
+class Fingerprint final : public Printer {
   public:
-    void Add(std::string_view text) { xsputn(text.data(), static_cast<std::streamsize>(text.size())); }
+    void Print(std::string_view text) override;
     std::uint32_t Value() const { return value; }
     void Begin(std::uint32_t from = kBasis) { value = from; }
-
-  protected:
-    int_type overflow(int_type letter) override;
-    std::streamsize xsputn(const char* letters, std::streamsize count) override;
 
   private:
     static constexpr std::uint32_t kBasis = 2166136261U;
@@ -34,7 +29,7 @@ class Fingerprint : public std::streambuf {
 class Recorder final : public HandlerListener {
   public:
     // `dump` prints the state of the game. The wheel provides the moments, and must outlive this.
-    Recorder(const TimerWheel& timers, std::function<void(std::ostream&)> dump)
+    Recorder(const TimerWheel& timers, std::function<void(Printer&)> dump)
         : wheel(timers), printState(std::move(dump)) {}
 
     // A game begins at the moment of the running handler. `head` contains the lines that describe its start, each
@@ -62,7 +57,7 @@ class Recorder final : public HandlerListener {
     void Write(std::string_view line);
 
     const TimerWheel& wheel;
-    std::function<void(std::ostream&)> printState;
+    std::function<void(Printer&)> printState;
     std::string text;
     Fingerprint ofLines;
     std::int64_t origin = 0;

@@ -6,12 +6,14 @@
 #include <array>
 #include <deque>
 #include <map>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <utility>
 
 #include "platform/Platform.h"
+#include "platform/Printer.h"
 #include "platform/RandomNumbers.h"
 #include "platform/SettingsText.h"
 #include "platform/Surface.h"
@@ -36,8 +38,9 @@ class HeadlessScript {
 
 class HeadlessPlatform : public Platform {
   public:
+    HeadlessPlatform() : printer(std::make_unique<Printer>()) {}
     // Everything that happens is written to `events`, which must outlive the platform.
-    explicit HeadlessPlatform(std::ostream& events) : out(events) {}
+    explicit HeadlessPlatform(std::ostream& events) : printer(std::make_unique<StreamPrinter>(events)) {}
 
     // --- For the driver.
 
@@ -117,7 +120,8 @@ class HeadlessPlatform : public Platform {
     void AnswerDialog(Window& dialog);
     void RenewMoment();
 
-    std::ostream& out;
+    std::unique_ptr<Printer> printer;
+    Printer& out = *printer;
     Surface surface;
     Nanoseconds clock{0};
     GameTime time{[this] { return clock; }};

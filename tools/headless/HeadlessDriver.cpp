@@ -136,7 +136,11 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
         {"puzzle", 1, 1, true, [](Driver& driver, Arguments& words) { driver.StartPuzzle(words, false); }},
         {"solution", 1, 1, true, [](Driver& driver, Arguments& words) { driver.StartPuzzle(words, true); }},
         {"paint", 1, 1, false, [](Driver& driver, Arguments& words) { driver.ChoosePainting(words); }},
-        {"dump", 0, 0, true, [](Driver& driver, Arguments&) { PrintDump(driver.out, *driver.main); }},
+        {"dump", 0, 0, true,
+         [](Driver& driver, Arguments&) {
+             StreamPrinter printer(driver.out);
+             PrintDump(printer, *driver.main);
+         }},
         {"elements", 0, 0, true, [](Driver& driver, Arguments&) { PrintElements(driver.out, *driver.main); }},
         {"store", 0, 0, false, [](Driver& driver, Arguments&) { PrintStore(driver.out, driver.platform); }},
         {"settings", 0, 0, true,

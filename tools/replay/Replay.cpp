@@ -23,7 +23,7 @@ Replay::Replay(HeadlessPlatform& playedOn, VMain& played, const Recording& recor
     : machine(playedOn),
       main(played),
       recording(recorded),
-      recorder(machine.Timers(), [this](std::ostream& out) { PrintDump(out, main); }),
+      recorder(machine.Timers(), [this](Printer& out) { PrintDump(out, main); }),
       start(machine.Now()) {
     main.log = this;
     machine.Timers().SetListener(this);

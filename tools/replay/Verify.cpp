@@ -43,8 +43,7 @@ std::string Result(const VMain& main, const Recording& recording) {
 Verdict VerifyRecording(std::string_view text) {
     Recording recording;
     if (const auto fault = ReadRecording(text, recording)) return {false, LineWords(*fault)};
-    std::ostream silence(nullptr);
-    HeadlessPlatform machine(silence);
+    HeadlessPlatform machine;
     VMain main(machine);
     MakeMainWindow(main);
     machine.Open(main.window);

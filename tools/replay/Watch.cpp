@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <ostream>
 #include <utility>
 
 #include "game/MainWindow.h"
@@ -38,7 +37,7 @@ std::string Clock(std::int64_t milliseconds) {
 // player's speakers, if the game is shown at the pace it was played at.
 class StageMachine final : public HeadlessPlatform {
   public:
-    StageMachine(std::ostream& events, Platform& playersMachine) : HeadlessPlatform(events), real(playersMachine) {}
+    explicit StageMachine(Platform& playersMachine) : real(playersMachine) {}
 
     bool isHeard = false;
     bool isSeen = true;
@@ -69,7 +68,7 @@ class StageMachine final : public HeadlessPlatform {
 class Watch::Stage {
   public:
     Stage(VMain& player, const Recording& recording)
-        : machine(silence, player.platform), game(machine), replay((Load(player), machine), game, recording) {
+        : machine(player.platform), game(machine), replay((Load(player), machine), game, recording) {
         // What comes after the game is not shown.
         replay.whenOver = [this, &player] {
             Mirror(player);
@@ -99,7 +98,6 @@ class Watch::Stage {
         machine.isSeen = true;
     }
 
-    std::ostream silence{nullptr};
     StageMachine machine;
     VMain game;
     Replay replay;
