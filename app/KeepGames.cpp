@@ -8,7 +8,6 @@ namespace prismfall {
 namespace {
 
 constexpr std::size_t kGamesKept = 20;
-constexpr std::int64_t kShortest = 1000;  // milliseconds; a game left at once is not kept
 
 std::string ArcadeTitle(std::int16_t score, std::int16_t level) {
     return "Arcade " + std::to_string(score) + " points level " + std::to_string(level);
@@ -35,7 +34,7 @@ bool IsGameOf(const ScoreRow& row, std::string_view name) {
 }
 
 void KeepGame(const RecordingFolder& folder, const VMain& main, const PlayedGame& game) {
-    if (game.length < kShortest) return;
+    if (game.length < kShortestKept) return;
     const std::string failure = folder.Keep(TitleOf(game), game.recording);
     if (!failure.empty()) std::fprintf(stderr, "prismfall: the game is not kept: %s\n", failure.c_str());
     folder.Prune(kGamesKept, [&main](std::string_view name) {

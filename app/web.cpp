@@ -1,13 +1,31 @@
 // The game in a browser: the page calls `run`, which returns when the program has ended.
 #include <array>
 #include <cstdint>
+#include <string_view>
+#include <vector>
 
 #include "backends/web/Imports.h"
 #include "backends/web/WebPlatform.h"
+#include "game/GameRecorder.h"
 #include "game/MainWindow.h"
 #include "game/VMain.h"
 
 namespace {
+
+void KeepGame(const prismfall::VMain& main, const prismfall::PlayedGame& game) {
+    if (game.length < prismfall::kShortestKept) return;
+    std::vector<prismfall::page::ScoreRecord> table;
+    for (const prismfall::ScoreRow& row : main.settings.Scores)
+        if (row.score > 0) table.push_back({row.score, row.endLevel});
+    const prismfall::page::GameRecord record{.kind = static_cast<std::int32_t>(game.kind),
+                                             .ending = static_cast<std::int32_t>(game.ending),
+                                             .puzzle = game.puzzle,
+                                             .score = game.score,
+                                             .level = game.level,
+                                             .length = static_cast<std::int32_t>(game.length),
+                                             .recording = std::string_view(game.recording)};
+    prismfall::page::KeepGame(&record, table.data(), static_cast<std::int32_t>(table.size()));
+}
 
 // The memory in which the stack is saved during a wait, in browsers that cannot suspend a program: from the first
 // address to the second.
@@ -39,6 +57,7 @@ __attribute__((export_name("run"))) void Run() {
     prismfall::WebPlatform platform;
     prismfall::VMain main(platform);
     prismfall::MakeMainWindow(main);
+    const prismfall::GameRecorder recorder(main, [&](const prismfall::PlayedGame& game) { KeepGame(main, game); });
     machine = &platform;
     platform.Run(main.window);
     machine = nullptr;

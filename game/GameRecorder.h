@@ -10,6 +10,9 @@
 
 namespace prismfall {
 
+// Milliseconds; a shorter game was left at once, and is not worth keeping.
+constexpr std::int64_t kShortestKept = 1000;
+
 // A finished game and its result.
 struct PlayedGame {
     std::string recording;

@@ -74,6 +74,22 @@ struct ElementRecord {
 
 constexpr std::uint32_t kNoGround = 0xFFFFFFFF;
 
+// A game that is over.
+struct GameRecord {
+    std::int32_t kind = 0;    // 0 for Arcade, 1 for a puzzle, 2 for one taken over from a solution
+    std::int32_t ending = 0;  // 0 for lost, 1 for solved, 2 for left
+    std::int32_t puzzle = 0;
+    std::int32_t score = 0;
+    std::int32_t level = 0;
+    std::int32_t length = 0;  // milliseconds
+    Text recording;
+};
+
+struct ScoreRecord {
+    std::int32_t score = 0;
+    std::int32_t level = 0;  // at the end
+};
+
 enum class EventKind : std::int32_t {
     Move,      // the pointer moves: x, y
     Press,     // a button is pressed: number is a MouseButton, x, y
@@ -96,6 +112,7 @@ struct Event {
 struct RecordSizes {
     std::int32_t window = sizeof(WindowRecord);
     std::int32_t element = sizeof(ElementRecord);
+    std::int32_t game = sizeof(GameRecord);
     std::int32_t event = offsetof(Event, y) + sizeof(Event::y);
     std::int32_t elementKinds = static_cast<std::int32_t>(ElementKind::Outline) + 1;
     std::int32_t eventKinds = static_cast<std::int32_t>(EventKind::Close) + 1;
@@ -151,6 +168,12 @@ PAGE_IMPORT("openSettings") std::uint32_t OpenSettings();
 PAGE_IMPORT("readSettings") void ReadSettings(char* text);
 // Returns 0 if it could not be stored; what was stored before is then unchanged.
 PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::uint32_t length);
+
+// --- Games.
+
+// Keeps a game, together with the last ones and those of the score table, of which there are `rows`. The page stores it
+// when it can; if it cannot, the recording is lost.
+PAGE_IMPORT("keepGame") void KeepGame(const GameRecord* game, const ScoreRecord* table, std::int32_t rows);
 
 // --- Sound and music. The page finds the files by itself; one that cannot be loaded is silent.
 

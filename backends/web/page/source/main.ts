@@ -4,6 +4,7 @@ import { connectControls } from './controls';
 import { Focus } from './focus';
 import { Input } from './input';
 import { gameHeight, gameWidth, Layout } from './layout';
+import { KeptGames } from './keptGames';
 import { Keys } from './keys';
 import { Music } from './music';
 import { Notices } from './notices';
@@ -66,7 +67,9 @@ async function start(): Promise<void> {
         windows.end(sentence);
         back.noteEnd();
     };
-    const machine = { waiting, windows, surface, sounds, music, settings: new Settings(), notices, keys, focus, end };
+    const settings = new Settings();
+    const games = new KeptGames();
+    const machine = { waiting, windows, surface, sounds, music, settings, games, notices, keys, focus, end };
     const button = (id: string) => find(id, HTMLButtonElement);
     connectControls(input, keys, button('right'), button('extras'), button('full'));
     connectPads(() => keys.areForField);

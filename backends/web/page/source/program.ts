@@ -4,11 +4,21 @@
 import { build } from './build';
 import type { Focus } from './focus';
 import { Frames } from './frames';
+import type { KeptGames } from './keptGames';
 import type { Keys } from './keys';
 import type { Music } from './music';
 import type { Notices } from './notices';
 import { canSuspend, programFile } from './programFile';
-import { checkRecords, decodeText, readElement, readSpots, readWindow, writeEvent } from './records';
+import {
+    checkRecords,
+    decodeText,
+    readElement,
+    readGame,
+    readScores,
+    readSpots,
+    readWindow,
+    writeEvent,
+} from './records';
 import type { Settings } from './settings';
 import type { Sounds } from './sound';
 import type { Surface } from './surface';
@@ -22,6 +32,7 @@ export interface Machine {
     readonly sounds: Sounds;
     readonly music: Music;
     readonly settings: Settings;
+    readonly games: KeptGames;
     readonly notices: Notices;
     readonly keys: Keys;
     readonly focus: Focus;
@@ -107,7 +118,7 @@ async function instantiate(
     machine: Machine,
     suspending: (wait: Wait) => WebAssembly.ImportValue,
 ): Promise<Exports> {
-    const { waiting, windows, surface, sounds, music, settings, notices, keys, focus, end } = machine;
+    const { waiting, windows, surface, sounds, music, settings, games, notices, keys, focus, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
     const frames = new Frames(
         () => {
@@ -146,6 +157,8 @@ async function instantiate(
         openSettings: () => settings.open(),
         readSettings: (address: number) => settings.copyTo(new Uint8Array(memory.buffer, address)),
         writeSettings: (address: number, length: number) => (settings.write(text(address, length)) ? 1 : 0),
+        keepGame: (game: number, table: number, rows: number) =>
+            void games.keep(readGame(memory, game), readScores(memory, table, rows)),
         playSound: (id: number) => sounds.play(id),
         setEffectsVolume: (share: number) => (sounds.volume = share),
         openMusic: (address: number, length: number) => music.open(text(address, length)),

@@ -181,6 +181,54 @@ function elementFrom(field: FieldReader): ElementRecord {
     };
 }
 
+/** As in game/GameLog.h. */
+export enum GameKind {
+    Arcade,
+    Puzzle,
+    Solution,
+}
+
+export enum GameEnding {
+    Lost,
+    Solved,
+    Left,
+}
+
+/** A game that is over. */
+export interface GameRecord {
+    readonly kind: GameKind;
+    readonly ending: GameEnding;
+    readonly puzzle: number;
+    readonly score: number;
+    readonly level: number;
+    /** Milliseconds. */
+    readonly length: number;
+    readonly recording: string;
+}
+
+export function readGame(memory: WebAssembly.Memory, address: number): GameRecord {
+    return gameFrom(new FieldReader(memory, address));
+}
+
+function gameFrom(field: FieldReader): GameRecord {
+    return {
+        kind: field.whole(),
+        ending: field.whole(),
+        puzzle: field.whole(),
+        score: field.whole(),
+        level: field.whole(),
+        length: field.whole(),
+        recording: field.text(),
+    };
+}
+
+export type ScoreRecord = Pick<GameRecord, 'score' | 'level'>;
+
+export function readScores(memory: WebAssembly.Memory, address: number, count: number): ScoreRecord[] {
+    const field = new FieldReader(memory, address);
+    return Array.from({ length: count }, () => ({ score: field.whole(), level: field.whole() }));
+}
+
 export enum EventKind {
     Move,
     Press,
@@ -222,6 +270,7 @@ function ownSizes(): Record<string, number> {
     return {
         window: size(windowFrom),
         element: size(elementFrom),
+        game: size(gameFrom),
         event: eventSize,
         'kinds of elements': count(Kind),
         'kinds of events': count(EventKind),

@@ -1,0 +1,83 @@
+// The games that were played here, as recordings in the browser's own database: the last ones, and those of the score table.
+// A database that is full or refused costs a recording and nothing else.
+import { GameKind, type GameRecord, type ScoreRecord } from './records';
+
+const database = 'prismfall';
+const store = 'games';
+const mostLast = 20;
+
+export interface KeptGame extends GameRecord {
+    /** Milliseconds since 1970. */
+    readonly when: number;
+}
+
+export interface StoredGame extends KeptGame {
+    readonly id: number;
+}
+
+export class KeptGames {
+    /** The last game that was played since the page was loaded. */
+    last: KeptGame | undefined;
+    /** Called when there is another last game. */
+    whenPlayed: () => void = () => undefined;
+
+    /** Stores a game and drops others, all in one step. Resolves when that is done, or has failed. */
+    async keep(game: GameRecord, table: readonly ScoreRecord[]): Promise<void> {
+        this.last = { ...game, when: Date.now() };
+        this.whenPlayed();
+        const kept = this.last;
+        await change((games) => {
+            games.add(kept);
+            const all = games.getAll() as IDBRequest<StoredGame[]>;
+            all.onsuccess = () => {
+                for (const { id } of superfluous(all.result, table)) games.delete(id);
+            };
+        }).catch(() => undefined);
+    }
+
+    /** The newest first; none if the browser has no database for the page. */
+    async list(): Promise<StoredGame[]> {
+        let all: IDBRequest<StoredGame[]> | undefined;
+        await change((games) => (all = games.getAll()), 'readonly').catch(() => undefined);
+        return all?.readyState === 'done' && !all.error ? all.result.reverse() : [];
+    }
+
+    async forget(id: number): Promise<void> {
+        await change((games) => games.delete(id)).catch(() => undefined);
+    }
+}
+
+/** Of games from the oldest to the newest. Each row of the table keeps one. */
+function superfluous(games: readonly StoredGame[], table: readonly ScoreRecord[]): StoredGame[] {
+    const rows = [...table];
+    return [...games].reverse().filter(({ kind, score, level }, age) => {
+        const row = rows.findIndex((best) => kind === GameKind.Arcade && best.score === score && best.level === level);
+        if (row >= 0) rows.splice(row, 1);
+        return row < 0 && age >= mostLast;
+    });
+}
+
+/** Runs one transaction, and rejects if nothing of it was done. */
+async function change(act: (games: IDBObjectStore) => void, mode: IDBTransactionMode = 'readwrite'): Promise<void> {
+    const opened = await open();
+    try {
+        await new Promise<void>((resolve, reject) => {
+            const transaction = opened.transaction(store, mode);
+            transaction.oncomplete = () => resolve();
+            transaction.onabort = () => reject(transaction.error ?? new Error('aborted'));
+            act(transaction.objectStore(store));
+        });
+    } finally {
+        opened.close();
+    }
+}
+
+function open(): Promise<IDBDatabase> {
+    return new Promise((resolve, reject) => {
+        const request = indexedDB.open(database, 1);
+        request.onupgradeneeded = () => request.result.createObjectStore(store, { keyPath: 'id', autoIncrement: true });
+        request.onsuccess = () => resolve(request.result);
+        request.onerror = () => reject(request.error ?? new Error('refused'));
+        request.onblocked = () => reject(new Error('blocked'));
+    });
+}
