@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/WatchInPage.h"
 #include "backends/web/Imports.h"
 #include "backends/web/WebPlatform.h"
 #include "game/GameRecorder.h"
@@ -37,7 +38,9 @@ struct SuspendedStack {
 std::array<std::uint8_t, 65536> room;
 SuspendedStack stack;
 
-prismfall::WebPlatform* machine = nullptr;  // while the program runs
+// While the program runs.
+prismfall::WebPlatform* machine = nullptr;
+prismfall::WatchInPage* watching = nullptr;
 
 }  // namespace
 
@@ -58,13 +61,18 @@ __attribute__((export_name("run"))) void Run() {
     prismfall::VMain main(platform);
     prismfall::MakeMainWindow(main);
     const prismfall::GameRecorder recorder(main, [&](const prismfall::PlayedGame& game) { KeepGame(main, game); });
+    prismfall::WatchInPage watch(platform, main);
     machine = &platform;
+    watching = &watch;
     platform.Run(main.window);
     machine = nullptr;
+    watching = nullptr;
 }
 
 // The page calls this once a frame while the program waits.
 __attribute__((export_name("present"))) void Present() {
-    if (machine != nullptr) machine->Present();
+    if (machine == nullptr) return;
+    machine->Present();
+    watching->Report();
 }
 }

@@ -90,6 +90,29 @@ struct ScoreRecord {
     std::int32_t level = 0;  // at the end
 };
 
+// A recorded game as it is being watched. Times are milliseconds of that game.
+struct WatchRecord {
+    std::int32_t isWatching = 0;
+    std::int32_t isPaused = 0;
+    std::int32_t isOver = 0;  // it has come to its end, or to where it differs from its recording
+    std::int32_t differs = 0;
+    std::int32_t pace = 1;
+    std::int32_t position = 0;
+    std::int32_t length = 0;
+
+    bool operator==(const WatchRecord&) const = default;
+};
+
+enum class WatchCommand : std::int32_t {
+    Begin,  // the recording that the page has ready; whatever is being played is left
+    Pause,
+    GoOn,
+    Pace,  // x: how many times as fast
+    GoTo,  // x: seconds since the game began
+    PlayOn,
+    Leave,
+};
+
 enum class EventKind : std::int32_t {
     Move,      // the pointer moves: x, y
     Press,     // a button is pressed: number is a MouseButton, x, y
@@ -97,6 +120,7 @@ enum class EventKind : std::int32_t {
     Activate,  // an element is clicked without a pointer, by a key or a screen reader: number is the element
     Key,       // a key is pressed: number is 27 for Esc, or a Key
     Close,     // the close box of a dialog
+    Watch,     // the page's controls for watching: number is a WatchCommand, x
 };
 
 struct Event {
@@ -113,9 +137,11 @@ struct RecordSizes {
     std::int32_t window = sizeof(WindowRecord);
     std::int32_t element = sizeof(ElementRecord);
     std::int32_t game = sizeof(GameRecord);
+    std::int32_t watch = sizeof(WatchRecord);
     std::int32_t event = offsetof(Event, y) + sizeof(Event::y);
     std::int32_t elementKinds = static_cast<std::int32_t>(ElementKind::Outline) + 1;
-    std::int32_t eventKinds = static_cast<std::int32_t>(EventKind::Close) + 1;
+    std::int32_t eventKinds = static_cast<std::int32_t>(EventKind::Watch) + 1;
+    std::int32_t watchCommands = static_cast<std::int32_t>(WatchCommand::Leave) + 1;
 };
 
 #ifdef __wasm__
@@ -174,6 +200,12 @@ PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::u
 // Keeps a game, together with the last ones and those of the score table, of which there are `rows`. The page stores it
 // when it can; if it cannot, the recording is lost.
 PAGE_IMPORT("keepGame") void KeepGame(const GameRecord* game, const ScoreRecord* table, std::int32_t rows);
+// The length in bytes of the recording that is to be watched, which may be any text; 0 for none.
+PAGE_IMPORT("openRecording") std::uint32_t OpenRecording();
+PAGE_IMPORT("readRecording") void ReadRecording(char* text);
+// That recording cannot be watched: its first bad line, from 1, and what is wrong with it.
+PAGE_IMPORT("refuseRecording") void RefuseRecording(std::int32_t line, const char* reason, std::uint32_t length);
+PAGE_IMPORT("showWatching") void ShowWatching(const WatchRecord* record);
 
 // --- Sound and music. The page finds the files by itself; one that cannot be loaded is silent.
 

@@ -88,6 +88,7 @@ void WebPlatform::Run(Window& mainWindow) {
     while (!ended) {
         Work();
         timers.Handle([this] { DeliverMinimised(); });
+        if (betweenHandlers && !ended) timers.Handle(betweenHandlers);
         Rest();
     }
 }
@@ -110,6 +111,8 @@ bool WebPlatform::HandleEvents() {
 }
 
 void WebPlatform::Handle(const page::Event& event) {
+    if (event.kind == page::EventKind::Watch && !ended && whenWatching)
+        return whenWatching(static_cast<page::WatchCommand>(event.number), event.x);
     if (ended || shown.empty() || event.window != static_cast<std::int32_t>(shown.size()) - 1) return;
     ShownWindow& front = *shown.back();
     Window& window = front.Content();
@@ -129,6 +132,8 @@ void WebPlatform::Handle(const page::Event& event) {
             return PressKey(input, window, static_cast<Key>(event.number), KeyReach::Surface);
         case page::EventKind::Close:
             return input.UseCloseBox(window);
+        case page::EventKind::Watch:
+            return;
     }
 }
 

@@ -3,6 +3,7 @@
 // timers have ticked since the last frame.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,6 +27,11 @@ class WebPlatform final : public Platform {
 
     // Shows the main window and lets events run until the program ends.
     void Run(Window& main);
+
+    // Called with what the player wants of a game that is being watched.
+    std::function<void(page::WatchCommand command, float value)> whenWatching;
+    // Called again and again as a handler of its own, but never while another one is running.
+    std::function<void()> betweenHandlers;
 
     // Sends the page what has changed in the picture since the last call. May be called while the program waits.
     void Present();

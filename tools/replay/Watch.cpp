@@ -18,7 +18,6 @@ namespace {
 constexpr int kTick = 10;                 // milliseconds
 constexpr std::int64_t kStep = 10'000;    // milliseconds, back and forth
 constexpr std::int64_t kLineTicks = 800;  // how long the line about keys stays
-constexpr int kFastest = 8;
 constexpr int kFullPace = 100;  // percent, of game time
 
 // Of the line: at the foot of the playfield, game pixels.
@@ -81,6 +80,7 @@ class Watch::Stage {
         replay.PlayUntil(moment);
     }
     bool IsOver() const { return replay.IsOver(); }
+    bool Differs() const { return replay.Fault().has_value(); }
 
     // Makes the elements of the player's window look like those of the game.
     void Mirror(VMain& player) {
@@ -103,7 +103,8 @@ class Watch::Stage {
     Replay replay;
 };
 
-Watch::Watch(VMain& player, Recording recorded) : main(player), recording(std::move(recorded)) {
+Watch::Watch(VMain& player, Recording recorded, bool hasLine)
+    : main(player), recording(std::move(recorded)), showsLine(hasLine) {
     TakeWindow();
     Begin();
     Show();
@@ -188,7 +189,16 @@ void Watch::Begin() {
     stage = std::make_unique<Stage>(main, recording);
 }
 
-// Back is from the start again.
+WatchState Watch::State() const {
+    return {.isWatching = isWatching,
+            .isPaused = isPaused,
+            .isOver = stage && stage->IsOver(),
+            .differs = stage && stage->Differs(),
+            .pace = pace,
+            .position = position,
+            .length = recording.length};
+}
+
 void Watch::GoTo(std::int64_t newPosition) {
     if (newPosition < position) Begin();
     position = std::clamp<std::int64_t>(newPosition, 0, recording.length);
@@ -208,7 +218,7 @@ void Watch::Tick() {
 
 void Watch::Show() {
     stage->Mirror(main);
-    main.LabelPace.visible = isPaused || stage->IsOver() || ticks < kLineTicks;
+    main.LabelPace.visible = showsLine && (isPaused || stage->IsOver() || ticks < kLineTicks);
     main.LabelPace.text = Line();
     main.LabelPace.left = kLineLeft;
     main.LabelPace.top = kLineTop;
@@ -223,7 +233,7 @@ std::string Watch::Line() const {
 
 void Watch::Press(MouseButton button) {
     if (button == MouseButton::Left) isPaused = !isPaused;
-    if (button == MouseButton::Right) pace = pace == kFastest ? 1 : 2 * pace;
+    if (button == MouseButton::Right) pace = pace == kFastestPace ? 1 : 2 * pace;
     ticks = 0;
 }
 

@@ -12,10 +12,25 @@ export interface Back {
 export function connectBack(windows: Windows, waiting: Waiting, input: Input): Back {
     let hasEnded = false;
     let isGoingBack = false;
-    // A reloaded page already has its entry.
-    if (history.state !== 'playing') history.pushState('playing', '');
-    addEventListener('popstate', () => {
+    // A reloaded page already has its entry. The one below stands for leaving, not for a game in the address.
+    if (history.state !== 'playing') {
+        const address = location.href;
+        history.replaceState('below', '', location.pathname + location.search);
+        history.pushState('playing', '', address);
+    }
+    addEventListener('popstate', ({ state }) => {
         if (hasEnded) return;
+        // The player has entered another address for this page.
+        if (state === null) {
+            history.replaceState('playing', '');
+            return;
+        }
+        const message = document.querySelector<HTMLDialogElement>('dialog.message[open]');
+        if (message) {
+            message.close();
+            history.pushState('playing', '');
+            return;
+        }
         isGoingBack = true;
         const dialog = windows.frontDialog();
         if (dialog === undefined) input.escape();

@@ -41,7 +41,7 @@ export class Keys {
     }
 
     private press(event: KeyboardEvent): void {
-        if (event.ctrlKey || event.altKey || event.metaKey || document.querySelector('dialog.message')) return;
+        if (event.ctrlKey || event.altKey || event.metaKey || document.querySelector('dialog.message[open]')) return;
         const dialog = this.windows.frontDialog();
         const code = event.key === 'Escape' ? 0 : dialog === undefined ? this.codeFor(event) : codeInDialog(event);
         if (code === undefined) return;
@@ -62,7 +62,7 @@ export class Keys {
             this.field.focus({ preventScroll: true });
             return arrow;
         }
-        if (arrow !== undefined && !(focus instanceof HTMLInputElement)) {
+        if (arrow !== undefined && !(focus instanceof HTMLInputElement || focus instanceof HTMLSelectElement)) {
             moveFocus(arrow === arrows['ArrowLeft'] || arrow === arrows['ArrowUp'] ? -1 : 1);
             return undefined;
         }

@@ -3,6 +3,7 @@
 import { connectControls } from './controls';
 import { Focus } from './focus';
 import { Input } from './input';
+import { Games } from './games';
 import { gameHeight, gameWidth, Layout } from './layout';
 import { KeptGames } from './keptGames';
 import { Keys } from './keys';
@@ -17,6 +18,7 @@ import { Settings } from './settings';
 import { Sounds } from './sound';
 import { Surface } from './surface';
 import { Waiting } from './waiting';
+import { Watching } from './watching';
 import { Windows } from './windows';
 
 function find<Node extends HTMLElement>(id: string, type: new () => Node): Node {
@@ -61,18 +63,22 @@ async function start(): Promise<void> {
     const focus = new Focus(find('picture', HTMLElement), surface.node);
     const keys = new Keys(windows, waiting, input, surface.node);
     const back = connectBack(windows, waiting, input);
+    const button = (id: string) => find(id, HTMLButtonElement);
+    const games = new KeptGames();
+    const watching = new Watching(waiting, notices, find('footer', HTMLElement));
+    const kept = new Games({ games, watching, notices, waiting, keys, list: button('games'), last: button('share') });
     const end = (sentence?: string) => {
+        kept.noteEnd();
         music.close();
         sounds.stop();
         windows.end(sentence);
         back.noteEnd();
     };
     const settings = new Settings();
-    const games = new KeptGames();
-    const machine = { waiting, windows, surface, sounds, music, settings, games, notices, keys, focus, end };
-    const button = (id: string) => find(id, HTMLButtonElement);
+    const machine = { waiting, windows, surface, sounds, music, settings, games, watching, notices, keys, focus, end };
     connectControls(input, keys, button('right'), button('extras'), button('full'));
     connectPads(() => keys.areForField);
+    await kept.watchLink();
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {

@@ -16,6 +16,7 @@ import {
     readGame,
     readScores,
     readSpots,
+    readWatching,
     readWindow,
     writeEvent,
 } from './records';
@@ -23,6 +24,7 @@ import type { Settings } from './settings';
 import type { Sounds } from './sound';
 import type { Surface } from './surface';
 import type { Waiting } from './waiting';
+import type { Watching } from './watching';
 import type { Windows } from './windows';
 
 export interface Machine {
@@ -33,6 +35,7 @@ export interface Machine {
     readonly music: Music;
     readonly settings: Settings;
     readonly games: KeptGames;
+    readonly watching: Watching;
     readonly notices: Notices;
     readonly keys: Keys;
     readonly focus: Focus;
@@ -118,7 +121,7 @@ async function instantiate(
     machine: Machine,
     suspending: (wait: Wait) => WebAssembly.ImportValue,
 ): Promise<Exports> {
-    const { waiting, windows, surface, sounds, music, settings, games, notices, keys, focus, end } = machine;
+    const { waiting, windows, surface, sounds, music, settings, games, watching, notices, keys, focus, end } = machine;
     const text = (address: number, length: number) => decodeText(memory.buffer, address, length);
     const frames = new Frames(
         () => {
@@ -159,6 +162,11 @@ async function instantiate(
         writeSettings: (address: number, length: number) => (settings.write(text(address, length)) ? 1 : 0),
         keepGame: (game: number, table: number, rows: number) =>
             void games.keep(readGame(memory, game), readScores(memory, table, rows)),
+        openRecording: () => watching.open(),
+        readRecording: (address: number) => watching.copyTo(new Uint8Array(memory.buffer, address)),
+        refuseRecording: (line: number, address: number, length: number) =>
+            watching.refuse(line, text(address, length)),
+        showWatching: (record: number) => watching.show(readWatching(memory, record)),
         playSound: (id: number) => sounds.play(id),
         setEffectsVolume: (share: number) => (sounds.volume = share),
         openMusic: (address: number, length: number) => music.open(text(address, length)),

@@ -229,6 +229,43 @@ export function readScores(memory: WebAssembly.Memory, address: number, count: n
     return Array.from({ length: count }, () => ({ score: field.whole(), level: field.whole() }));
 }
 
+/** A game that is being watched. Times are milliseconds of that game. */
+export interface WatchRecord {
+    readonly isWatching: boolean;
+    readonly isPaused: boolean;
+    readonly isOver: boolean;
+    readonly differs: boolean;
+    readonly pace: number;
+    readonly position: number;
+    readonly length: number;
+}
+
+export function readWatching(memory: WebAssembly.Memory, address: number): WatchRecord {
+    return watchFrom(new FieldReader(memory, address));
+}
+
+function watchFrom(field: FieldReader): WatchRecord {
+    return {
+        isWatching: field.flag(),
+        isPaused: field.flag(),
+        isOver: field.flag(),
+        differs: field.flag(),
+        pace: field.whole(),
+        position: field.whole(),
+        length: field.whole(),
+    };
+}
+
+export enum WatchCommand {
+    Begin,
+    Pause,
+    GoOn,
+    Pace,
+    GoTo,
+    PlayOn,
+    Leave,
+}
+
 export enum EventKind {
     Move,
     Press,
@@ -236,6 +273,7 @@ export enum EventKind {
     Activate,
     Key,
     Close,
+    Watch,
 }
 
 export interface PageEvent {
@@ -271,9 +309,11 @@ function ownSizes(): Record<string, number> {
         window: size(windowFrom),
         element: size(elementFrom),
         game: size(gameFrom),
+        watch: size(watchFrom),
         event: eventSize,
         'kinds of elements': count(Kind),
         'kinds of events': count(EventKind),
+        'commands for watching': count(WatchCommand),
     };
 }
 

@@ -1,5 +1,5 @@
 // The one place where the program pauses: until a given time, an event, or the page being hidden or shown.
-import { EventKind, type PageEvent } from './records';
+import { EventKind, type PageEvent, WatchCommand } from './records';
 
 // Browsers delay a timer set by another timer by at least four milliseconds, but not one set by a message.
 const shortestNestedTimer = 4;
@@ -13,6 +13,7 @@ export class Waiting {
     private readonly queue: PageEvent[] = [];
     private readonly channel = new MessageChannel();
     private gone = false;
+    private covered = false;
     private forInput = false;
     private until = 0;
     private timer = 0;
@@ -27,12 +28,22 @@ export class Waiting {
     }
 
     get isHidden(): boolean {
-        return this.gone || document.hidden;
+        return this.gone || this.covered || document.hidden;
+    }
+
+    /** Something of the page's own lies over a game that is being played, which pauses as if the page were hidden. */
+    cover(isCovered: boolean): void {
+        if (isCovered === this.covered) return;
+        this.covered = isCovered;
+        this.end();
     }
 
     send(kind: EventKind, window: number, number = 0, x = 0, y = 0): void {
-        // Of several moves in a row, only the last counts.
-        if (kind === EventKind.Move && this.queue.at(-1)?.kind === EventKind.Move) this.queue.pop();
+        // Of several moves in a row, of the pointer or in a game that is watched, only the last counts.
+        const last = this.queue.at(-1);
+        const isMove =
+            kind === EventKind.Move || (kind === EventKind.Watch && (number as WatchCommand) === WatchCommand.GoTo);
+        if (isMove && last?.kind === kind && last.number === number) this.queue.pop();
         this.queue.push({ kind, window, number, x, y, time: performance.now() });
         if (this.forInput) this.end();
     }
