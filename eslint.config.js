@@ -44,6 +44,8 @@ export default tseslint.config(
                         'innerWidth',
                         'innerHeight',
                         'sessionStorage',
+                        'IDBObjectStore',
+                        'DOMException',
                     ].map((name) => [name, 'readonly']),
                 ),
             },

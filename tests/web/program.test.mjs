@@ -1,14 +1,15 @@
-// The driver compiled to WebAssembly, compared with the native one byte for byte: every story, and every puzzle's solution
-// for both starting values of the growth toggle.
+// The driver compiled to WebAssembly, compared with the native one byte for byte: every story, every puzzle's solution for both
+// starting values of the growth toggle, and every recording.
 import assert from 'node:assert';
 import { spawnSync } from 'node:child_process';
 import { readdirSync, readFileSync } from 'node:fs';
 import { test } from 'node:test';
 import { build } from 'esbuild';
 
-const native = (script) => spawnSync('build/release/prismfall-headless', { input: script, maxBuffer: 2 ** 28 });
-const wasm = (script) =>
-    spawnSync(process.execPath, ['--no-warnings', 'tests/web/run-wasi.mjs'], { input: script, maxBuffer: 2 ** 28 });
+const native = (input, words = []) =>
+    spawnSync('build/release/prismfall-headless', words, { input, maxBuffer: 2 ** 28 });
+const wasm = (input, words = []) =>
+    spawnSync(process.execPath, ['--no-warnings', 'tests/web/run-wasi.mjs', ...words], { input, maxBuffer: 2 ** 28 });
 
 test('stories in WebAssembly', () => {
     const stories = readdirSync('tests/stories').filter((file) => file.endsWith('.script'));
@@ -33,6 +34,13 @@ test('solutions in WebAssembly', () => {
     assert.ok(run === expected, 'the two print the same');
 });
 
+test('recordings in WebAssembly', () => {
+    const words = ['verify', ...readdirSync('tests/recordings').map((file) => `tests/recordings/${file}`)];
+    const [expected, run] = [native('', words), wasm('', words)];
+    assert.equal(expected.status, 0);
+    assert.equal(run.stdout.toString(), expected.stdout.toString());
+});
+
 async function importRecords() {
     const built = await build({ entryPoints: ['backends/web/page/source/records.ts'], format: 'esm', write: false });
     const source = Buffer.from(built.outputFiles[0].contents).toString('base64');
@@ -53,7 +61,8 @@ test('the program and the page agree on their records, or the page stops', async
 });
 
 test('fields and kinds come in the same order in the program and the page', async () => {
-    const { Kind, EventKind, readWindow, readElement, writeEvent } = await importRecords();
+    const { Kind, EventKind, WatchCommand, ...read } = await importRecords();
+    const { readWindow, readElement, readGame, readWatching, writeEvent } = read;
     const headers = ['backends/web/Imports.h', 'platform/Element.h'].map((file) => readFileSync(file, 'utf8')).join('');
     const listed = (type) => headers.match(new RegExp(`${type} [^;]*?{\n(.*?)\n}`, 's'))[1];
     const fields = (type) =>
@@ -62,6 +71,7 @@ test('fields and kinds come in the same order in the program and the page', asyn
     const names = (kind) => Object.values(kind).filter((value) => typeof value === 'string');
     assert.deepEqual(names(Kind), kinds('ElementKind'));
     assert.deepEqual(names(EventKind), kinds('EventKind'));
+    assert.deepEqual(names(WatchCommand), kinds('WatchCommand'));
 
     const memory = new WebAssembly.Memory({ initial: 1 });
     const firstSpot = listed('struct ElementRecord').match(/^ +(?!SpotRecord)\w/gm).length + 5; // five texts take two places
@@ -69,6 +79,8 @@ test('fields and kinds come in the same order in the program and the page', asyn
     const element = readElement(memory, 0);
     assert.deepEqual(Object.keys(readWindow(memory, 0)), fields('WindowRecord'));
     assert.deepEqual(Object.keys(element), fields('ElementRecord'));
+    assert.deepEqual(Object.keys(readGame(memory, 0)), fields('GameRecord'));
+    assert.deepEqual(Object.keys(readWatching(memory, 0)), fields('WatchRecord'));
     assert.deepEqual(Object.keys(element.spots[0]), fields('SpotRecord'));
 
     const event = Object.fromEntries(fields('Event').map((name, place) => [name, place + 1]));
