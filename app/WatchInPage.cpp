@@ -27,11 +27,12 @@ WatchInPage::~WatchInPage() {
 
 void WatchInPage::Take(page::WatchCommand command, float value) {
     if (command == page::WatchCommand::Begin) isAsked = true;
-    if (!watch || !watch->State().isWatching) return;
+    if (!watch || !watch->State().isWatching || platform.Input().Front() != &main.window) return;
     switch (command) {
         case page::WatchCommand::Begin:
-        case page::WatchCommand::PlayOn:
             return;
+        case page::WatchCommand::PlayOn:
+            return watch->PlayOn();
         case page::WatchCommand::Pause:
         case page::WatchCommand::GoOn:
             return watch->SetPaused(command == page::WatchCommand::Pause);

@@ -33,6 +33,11 @@ export class Games {
         const { games, watching, list, last } = parts;
         this.makeDialog();
         list.addEventListener('click', () => void this.open());
+        addEventListener('keydown', (event) => {
+            if (event.key !== 'F2' || document.querySelector('dialog[open]')) return;
+            event.preventDefault();
+            void this.open();
+        });
         games.whenPlayed = () => (last.hidden = false);
         last.addEventListener('click', () => {
             if (games.last) void this.share(games.last);

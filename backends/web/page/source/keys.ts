@@ -15,6 +15,7 @@ const f1 = 112;
 const anywhere: Readonly<Record<string, number>> = {
     PageUp: 33,
     PageDown: 34,
+    g: 'G'.charCodeAt(0),
     m: 'M'.charCodeAt(0),
     p: 'P'.charCodeAt(0),
     r: 'R'.charCodeAt(0),

@@ -11,6 +11,7 @@ export class Watching {
     whenLeft: () => void = () => undefined;
     private readonly bar = make('section', 'watching');
     private readonly pause: HTMLButtonElement;
+    private readonly playOn: HTMLButtonElement;
     private readonly slider = make('input');
     private readonly time = make('output');
     private readonly pace = make('select');
@@ -29,6 +30,7 @@ export class Watching {
         this.pause = this.addButton('Pause', () => (this.isStill ? WatchCommand.GoOn : WatchCommand.Pause));
         this.addSlider();
         this.addPace();
+        this.playOn = this.addButton('Play on from here', () => WatchCommand.PlayOn);
         this.addButton('Leave', () => WatchCommand.Leave);
         this.status.setAttribute('role', 'status');
         this.bar.append(this.status);
@@ -63,6 +65,7 @@ export class Watching {
         const { isWatching, isPaused, isOver, differs, pace, position, length } = record;
         if (isWatching !== (before?.isWatching ?? false)) this.appear(isWatching);
         this.pause.textContent = isPaused || isOver ? 'Play' : 'Pause';
+        this.playOn.disabled = isOver;
         if (pace !== before?.pace) this.pace.value = String(pace);
         this.slider.max = String(Math.ceil(length / 1000));
         if (!this.slider.matches(':active')) this.slider.value = String(Math.floor(position / 1000));
