@@ -46,6 +46,8 @@ export default tseslint.config(
                         'sessionStorage',
                         'IDBObjectStore',
                         'DOMException',
+                        'CSSStyleSheet',
+                        'Event',
                     ].map((name) => [name, 'readonly']),
                 ),
             },

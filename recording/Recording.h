@@ -60,6 +60,14 @@ struct RecordingFault {
 // Parses a text, which may come from anywhere: whatever is wrong with it, the fault names the first bad line.
 std::optional<RecordingFault> ReadRecording(std::string_view text, Recording& recording);
 
+// The first words of two kinds of lines.
+constexpr std::string_view kCheckWord = "check ";
+constexpr std::string_view kEndWord = "end ";
+
+// The same recording without the checks that are followed by events. The last check is enough to prove the game, and
+// the link to it is shorter.
+std::string WithFewChecks(std::string_view text);
+
 // The line for an event, without its newline; empty for input that does not change a game, such as a press on a button,
 // which counts only when it becomes a click.
 std::string EventLine(std::int64_t moment, const InputEvent& event);

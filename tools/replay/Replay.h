@@ -65,7 +65,8 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     Recorder recorder;
     Nanoseconds start{0};
     std::size_t next = 0;      // event
-    std::size_t compared = 0;  // bytes
+    std::size_t compared = 0;  // bytes of what has been recorded again
+    std::size_t matched = 0;   // bytes of the recording
     std::int64_t work = 0;     // beams moved
     bool isOver = false;
     std::optional<ReplayFault> fault;

@@ -18,7 +18,7 @@ namespace {
 constexpr int kTick = 10;                 // milliseconds
 constexpr std::int64_t kStep = 10'000;    // milliseconds, back and forth
 constexpr std::int64_t kLineTicks = 800;  // how long the line about keys stays
-constexpr int kFullPace = 100;  // percent, of game time
+constexpr int kFullPace = 100;            // percent, of game time
 
 // Of the line: at the foot of the playfield, game pixels.
 constexpr float kLineLeft = 30;

@@ -10,6 +10,7 @@
 
 #include "game/GameRecorder.h"
 #include "game/MainWindow.h"
+#include "recording/Recording.h"
 #include "tests/support/StallingMachine.h"
 #include "tools/replay/Verify.h"
 
@@ -101,9 +102,10 @@ TEST(Robot, EveryRecordingOfItsGamesIsTrueAndNoChangedOneIs) {
         for (const PlayedGame& game : Robot(seed + run).Play(10)) {
             ++verified;
             seen.insert({game.kind, game.ending});
-            const Verdict verdict = VerifyRecording(game.recording);
+            const std::string recording = verified % 2 == 0 ? game.recording : WithFewChecks(game.recording);
+            const Verdict verdict = VerifyRecording(recording);
             EXPECT_TRUE(verdict.isTrue) << "seed " << seed << " run " << run << ": " << verdict.words;
-            std::string changed = game.recording;
+            std::string changed = recording;
             char& letter = changed[std::uniform_int_distribution<std::size_t>(0, changed.size() - 2)(random)];
             letter = letter == '1' ? '2' : '1';
             EXPECT_FALSE(VerifyRecording(changed).isTrue) << "seed " << seed << " run " << run << '\n' << changed;
