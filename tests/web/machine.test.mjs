@@ -151,6 +151,13 @@ test('screen readers meet no obstacle', async () => {
         await game.page.evaluate(() => document.getElementById('voice').textContent),
         /Score 0.*High score 340/,
     );
+    await game.page.key('Escape');
+    await game.click('Games');
+    await game.placeOf('Watch');
+    await check('Games');
+    await game.click('Watch');
+    await game.placeOf('Leave');
+    await check('watching');
     assert.deepEqual(game.page.faults, []);
 });
 

@@ -94,6 +94,7 @@ export class Games {
         this.parts.waiting.cover(this.parts.keys.areForField);
         this.status.textContent = '';
         await this.fill();
+        document.body.append(this.dialog);
         this.dialog.showModal();
         this.dialog.focus();
     }
@@ -124,8 +125,10 @@ export class Games {
             if (chosen) void this.watch(recordingIn(chosen));
             file.value = '';
         });
-        dialog.addEventListener('close', () => this.parts.waiting.cover(false));
-        document.body.append(dialog);
+        dialog.addEventListener('close', () => {
+            dialog.remove();
+            this.parts.waiting.cover(false);
+        });
     }
 
     private rowOf(game: StoredGame): HTMLElement {
