@@ -34,14 +34,23 @@ function prepare(startLevel, isFirst) {
         localStorage.setItem('prismfall', `[General]\nPlayFirstTime=${isFirst}\nStartLevel=${startLevel}\n`);
 }
 
-/** Whether a game is on, and the buttons of the window in front. */
-function look() {
+/** Whether a game is on, where a beam may end, and the buttons of the window in front. */
+function look(share) {
     const front = [...document.querySelectorAll('dialog[open]')].at(-1) ?? document.body;
     const wordsOf = (node) => node.querySelector('img')?.alt ?? node.ariaLabel ?? node.textContent;
     const others = /^(Exit|Full screen|Exit full screen|Open a file|Save as file|Copy link|Share this game|Delete)$/;
     const shown = [...front.querySelectorAll('button, label')].filter((node) => node.offsetParent && !node.disabled);
     const buttons = shown.filter((node) => !others.test(wordsOf(node)));
+    const field = [...document.querySelectorAll('canvas')].at(-1);
+    const pixels = new Uint32Array(field.getContext('2d').getImageData(0, 0, field.width, field.height).data.buffer);
+    const column = Math.floor(share * field.width);
+    const lowest = pixels.findLastIndex((pixel) => pixel >>> 24 > 0);
+    const inColumn = pixels.findLastIndex((pixel, place) => pixel >>> 24 > 0 && place % field.width === column);
+    const [left, top] = [field.style.left, field.style.top].map((place) => parseInt(place) || 0);
     return {
+        ends: [lowest, inColumn]
+            .filter((place) => place >= 0)
+            .map((place) => [left + (place % field.width), top + Math.floor(place / field.width)]),
         isPlaying: front === document.body && buttons.some((node) => wordsOf(node) === 'Pause'),
         isMenu: front === document.body && buttons.some((node) => wordsOf(node) === 'Arcade'),
         isDialog: front !== document.body,
@@ -55,9 +64,10 @@ function look() {
 const keys = 'ArrowLeft ArrowRight ArrowUp ArrowDown Tab Space Enter p r m F1 F2 PageUp PageDown'.split(' ');
 
 const things = [
-    [30, (game) => pressField(game, 'left')],
-    [20, (game) => pressField(game, 'right')],
-    [3, async (game) => [await pressField(game, 'left'), await game.page.page.mouse.click(...game.lastPlace)]],
+    [4, (game) => pressField(game, [20 + below(640), 20 + below(570)], oneOf(['left', 'right']))],
+    [30, (game, { ends }) => pressField(game, oneOf(ends), 'left')],
+    [20, (game, { ends }) => pressField(game, oneOf(ends), 'right')],
+    [3, (game, { ends }) => pressField(game, oneOf(ends), 'left', 2)],
     [8, (game) => game.page.key(oneOf(keys))],
     [
         3,
@@ -79,9 +89,10 @@ const things = [
 ];
 const wholeWeight = things.reduce((sum, [weight]) => sum + weight, 0);
 
-async function pressField(game, button) {
-    game.lastPlace = await game.at(20 + below(640), 20 + below(570));
-    await game.page.click(...game.lastPlace, button);
+async function pressField(game, place, button, times = 1) {
+    if (!place) return;
+    const [x, y] = await game.at(...place);
+    for (let i = 0; i < times; ++i) await game.page.click(x, y, button);
 }
 
 function setAway(game, isAway) {
@@ -96,7 +107,7 @@ async function pressButton(game, button) {
 }
 
 async function act(game) {
-    const seen = await game.page.evaluate(look);
+    const seen = await game.page.evaluate(look, random());
     if (!seen.isPlaying && random() < 0.6) {
         if (seen.isDialog && random() < 0.3) return game.page.key('Escape');
         return pressButton(
