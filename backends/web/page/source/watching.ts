@@ -55,7 +55,7 @@ export class Watching {
     }
 
     refuse(line: number, reason: string): void {
-        this.notices.show('games', `This is no recording that can be watched: line ${line}, ${reason}.`);
+        this.notices.show('games', `This recording cannot be watched: line ${line}, ${reason}.`);
         this.whenLeft();
     }
 
