@@ -61,7 +61,7 @@ function look(share) {
     };
 }
 
-const keys = 'ArrowLeft ArrowRight ArrowUp ArrowDown Tab Space Enter p r m F1 F2 PageUp PageDown'.split(' ');
+const keys = [' ', ...'ArrowLeft ArrowRight ArrowUp ArrowDown Tab Enter p r m F1 F2 PageUp PageDown'.split(' ')];
 
 const things = [
     [4, (game) => pressField(game, [20 + below(640), 20 + below(570)], oneOf(['left', 'right']))],
