@@ -45,6 +45,7 @@ export default tseslint.config(
                         'innerHeight',
                         'sessionStorage',
                         'IDBObjectStore',
+                        'indexedDB',
                         'DOMException',
                         'CSSStyleSheet',
                         'Event',

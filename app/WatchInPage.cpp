@@ -17,12 +17,14 @@ constexpr float kMillisecondsInSecond = 1000;
 WatchInPage::WatchInPage(WebPlatform& machine, VMain& player) : platform(machine), main(player) {
     platform.whenWatching = [this](page::WatchCommand command, float value) { Take(command, value); };
     platform.betweenHandlers = [this] { BeginAsked(); };
+    main.watchScore = [](const ScoreRow& row) { return page::WatchScore(row.score, row.endLevel) != 0; };
     if (std::optional<Recording> recording = TakeRecording()) watch.emplace(main, std::move(*recording), false);
 }
 
 WatchInPage::~WatchInPage() {
     platform.whenWatching = {};
     platform.betweenHandlers = {};
+    main.watchScore = {};
 }
 
 void WatchInPage::Take(page::WatchCommand command, float value) {

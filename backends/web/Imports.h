@@ -205,6 +205,8 @@ PAGE_IMPORT("openRecording") std::uint32_t OpenRecording();
 PAGE_IMPORT("readRecording") void ReadRecording(char* text);
 // That recording cannot be watched: its first bad line, from 1, and what is wrong with it.
 PAGE_IMPORT("refuseRecording") void RefuseRecording(std::int32_t line, const char* reason, std::uint32_t length);
+// Whether the page has kept an Arcade game with that result; if so, it soon asks the program to show it.
+PAGE_IMPORT("watchScore") std::int32_t WatchScore(std::int32_t score, std::int32_t level);
 PAGE_IMPORT("showWatching") void ShowWatching(const WatchRecord* record);
 
 // --- Sound and music. The page finds the files by itself; one that cannot be loaded is silent.

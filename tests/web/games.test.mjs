@@ -162,3 +162,26 @@ test('the last twenty games and those of the score table are kept, and full stor
     });
     assert.deepEqual(scores, [...Array(20).fill(50), 30, 10, 30]);
 });
+
+test('a row of the score table shows its game', async () => {
+    const game = await openGame();
+    await game.page.evaluate((text) => {
+        localStorage.prismfall = '[General]\nPlayFirstTime=False\n[Scores]\nScore1=40\nEndLevel1=3\n';
+        const database = indexedDB.open('prismfall', 1);
+        return new Promise((resolve) => {
+            database.onsuccess = () => {
+                const games = database.result.transaction('games', 'readwrite').objectStore('games');
+                games.add({ kind: 0, score: 40, level: 3, recording: text }).onsuccess = resolve;
+            };
+        });
+    }, recording);
+    await game.page.page.reload();
+    await game.click('Scores');
+    await game.dialog('Highscore');
+    const row = () => {
+        const { left, top, height } = document.querySelectorAll('dialog [role=rowheader]')[0].getBoundingClientRect();
+        return [left + 5, top + height / 2];
+    };
+    await game.page.click(...(await game.page.evaluate(row)));
+    await game.placeOf('Play on from here');
+});

@@ -21,6 +21,21 @@ export class KeptGames {
     /** Called when there is another last game. */
     whenPlayed: () => void = () => undefined;
 
+    private scores = new Set<string>();
+
+    constructor() {
+        void this.list();
+    }
+
+    /** Whether an Arcade game with that result was kept when last looked. */
+    isKept(score: number, level: number): boolean {
+        return this.scores.has(`${score} ${level}`);
+    }
+
+    async find(score: number, level: number): Promise<StoredGame | undefined> {
+        return (await this.list()).find((game) => isResult(game, { score, level }));
+    }
+
     /** Stores a game and drops others, all in one step. Resolves when that is done, or has failed. */
     async keep(game: GameRecord, table: readonly ScoreRecord[]): Promise<void> {
         this.last = { ...game, when: Date.now() };
@@ -33,25 +48,34 @@ export class KeptGames {
                 for (const { id } of superfluous(all.result, table)) games.delete(id);
             };
         }).catch(() => undefined);
+        await this.list();
     }
 
     /** The newest first; none if the browser has no database for the page. */
     async list(): Promise<StoredGame[]> {
         let all: IDBRequest<StoredGame[]> | undefined;
         await change((games) => (all = games.getAll()), 'readonly').catch(() => undefined);
-        return all?.readyState === 'done' && !all.error ? all.result.reverse() : [];
+        const games = all?.readyState === 'done' && !all.error ? all.result.reverse() : [];
+        const scored = games.filter(({ kind }) => kind === GameKind.Arcade);
+        this.scores = new Set(scored.map(({ score, level }) => `${score} ${level}`));
+        return games;
     }
 
     async forget(id: number): Promise<void> {
         await change((games) => games.delete(id)).catch(() => undefined);
+        await this.list();
     }
+}
+
+function isResult({ kind, score, level }: StoredGame, best: ScoreRecord): boolean {
+    return kind === GameKind.Arcade && score === best.score && level === best.level;
 }
 
 /** Of games from the oldest to the newest. Each row of the table keeps one. */
 function superfluous(games: readonly StoredGame[], table: readonly ScoreRecord[]): StoredGame[] {
     const rows = [...table];
-    return [...games].reverse().filter(({ kind, score, level }, age) => {
-        const row = rows.findIndex((best) => kind === GameKind.Arcade && best.score === score && best.level === level);
+    return [...games].reverse().filter((game, age) => {
+        const row = rows.findIndex((best) => isResult(game, best));
         if (row >= 0) rows.splice(row, 1);
         return row < 0 && age >= mostLast;
     });

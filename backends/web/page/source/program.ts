@@ -166,6 +166,11 @@ async function instantiate(
         readRecording: (address: number) => watching.copyTo(new Uint8Array(memory.buffer, address)),
         refuseRecording: (line: number, address: number, length: number) =>
             watching.refuse(line, text(address, length)),
+        watchScore: (score: number, level: number) => {
+            if (!games.isKept(score, level)) return 0;
+            void games.find(score, level).then((game) => game && watching.begin(game.recording));
+            return 1;
+        },
         showWatching: (record: number) => watching.show(readWatching(memory, record)),
         playSound: (id: number) => sounds.play(id),
         setEffectsVolume: (share: number) => (sounds.volume = share),
