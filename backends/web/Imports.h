@@ -139,6 +139,8 @@ PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t co
 // Whether there is anything on the surface to choose with the keys, and whether a game is being played, in which case
 // Tab and the arrow keys choose beams rather than the page's controls.
 PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t canChoose, std::int32_t toField);
+// Whether a game has been begun and stands still, which the page says as well.
+PAGE_IMPORT("showPaused") void ShowPaused(std::int32_t isPaused);
 // Shows one line below the picture, usually about saving. An empty text removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
 // The program has ended: the page dims the picture and offers to start again.

@@ -196,6 +196,10 @@ void WebPlatform::SendSpots() {
 void WebPlatform::SendSurface() {
     FollowChoice(*main, KeyReach::Surface);
     looks.Mark(PlaceToMark(*main, comfort.ringsAtPointer));
+    const bool paused = main->on.isPaused && main->on.isPaused();
+    if (paused != isPausedAsTold) page::ShowPaused(paused ? 1 : 0);
+    isPausedAsTold = paused;
+    looks.MarkPause(paused);
     looks.TakeDamage(damage);
     Merge(damage);
     for (const PixelBox& box : damage) {

@@ -104,6 +104,7 @@ class WebPlatform final : public Platform {
     std::vector<SurfaceSpot> shownSpots;
     bool canChoose = false;     // on the surface, as the page was last told
     bool fieldHasKeys = false;  // likewise
+    bool isPausedAsTold = false;
     bool hidden = false;        // as last seen on the page
     bool minimised = false;     // as the main window was last told
 };

@@ -161,9 +161,9 @@ const looksOfText = ['ground', 'family', 'points', 'bold', 'italic', 'wraps', 'f
 
 function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): void {
     words.textContent = record.text;
-    // The background of highlighted texts and frames extends only as far as their text.
+    // The background of highlighted texts extends only as far as their text, that of a frame as far as its lines.
     (record.kind === Kind.Label ? node : words).style.backgroundColor = record.ground;
-    if (record.kind === Kind.GroupFrame) node.style.backgroundColor = record.ground;
+    if (record.kind === Kind.GroupFrame) node.style.setProperty('--ground', record.ground);
     node.style.fontFamily = families[record.family] ?? record.family;
     node.style.fontWeight = record.bold ? 'bold' : 'normal';
     node.style.fontStyle = record.italic ? 'italic' : 'normal';
