@@ -76,12 +76,14 @@ constexpr std::uint32_t kNoGround = 0xFFFFFFFF;
 
 enum class EventKind : std::int32_t {
     Move,      // the pointer moves: x, y
-    Press,     // a button is pressed: number is a MouseButton, x, y
+    Press,     // a button is pressed: number is a MouseButton, plus kByFinger for a finger; x, y
     Release,   // a button is released: number is a MouseButton, x, y
     Activate,  // an element is clicked without a pointer, by a key or a screen reader: number is the element
     Key,       // a key is pressed: number is 27 for Esc, or a Key
     Close,     // the close box of a dialog
 };
+
+constexpr std::int32_t kByFinger = 16;
 
 struct Event {
     double time = 0;

@@ -1,6 +1,7 @@
 // Starts the game: loads the program and the pictures of the main menu, shows the progress if that takes a while, runs the
 // program, and then fetches what can wait.
 import { connectControls } from './controls';
+import { answerFirstTouch } from './fingers';
 import { Focus } from './focus';
 import { Input } from './input';
 import { gameHeight, gameWidth, Layout } from './layout';
@@ -70,6 +71,7 @@ async function start(): Promise<void> {
     const button = (id: string) => find(id, HTMLButtonElement);
     connectControls(input, keys, button('right'), button('extras'), button('full'));
     connectPads(() => keys.areForField);
+    answerFirstTouch(notices);
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
     await run.catch((error: unknown) => {
