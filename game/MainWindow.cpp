@@ -63,6 +63,7 @@ void Connect(VMain& main) {
     on.spots = [&main](SurfaceSpots& spots) { ListSpots(main, spots); };
     on.reached = [&main](float x, float y) { return ReachedHead(main, x, y); };
     on.command = [&main](Key key) { Form_Command(main, key); };
+    on.isPaused = [&main] { return IsShown(main.cmdPause) && main.cmdPause.tag == kResume.tag; };
     on.deactivate = [&main] { Form_Deactivate(main); };
     on.elementDown = [&main](Element& element, MouseButton button, float x, float y) {
         PressElementOfMain(main, element, button, x, y);

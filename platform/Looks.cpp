@@ -21,6 +21,10 @@ constexpr int kFrameWidth = 2;
 
 constexpr PixelBox kWhole{0, 0, Surface::kWidth, Surface::kHeight};
 
+// Between the numbers and the buttons of the panel, where no game shows anything that lasts.
+constexpr std::array<PixelBox, 2> kPauseBars = {{{726, 130, 738, 172}, {748, 130, 760, 172}}};
+constexpr std::uint32_t kPausePixel = 0xFFD4E4FF;
+
 int Whole(float place) { return static_cast<int>(std::lround(place)); }
 
 PixelBox BoxOf(const KeyChoice& mark) {
@@ -72,6 +76,12 @@ void Looks::Mark(const KeyChoice& choice) {
     mark = wanted;
 }
 
+void Looks::MarkPause(bool isPaused) {
+    if (isPaused == isPauseMarked) return;
+    isPauseMarked = isPaused;
+    lost.insert(lost.end(), kPauseBars.begin(), kPauseBars.end());
+}
+
 void Looks::CopyFrom(const PixelBox& box) {
     for (int y = box.top; y < box.bottom; ++y) {
         const std::uint32_t* row = surface.Row(y);
@@ -115,6 +125,12 @@ void Looks::PaintMark() {
         }
 }
 
+void Looks::PaintPause() {
+    for (const PixelBox& bar : kPauseBars)
+        for (int y = bar.top; y < bar.bottom; ++y)
+            std::fill_n(&pixels[Index(bar.left, y)], bar.right - bar.left, kPausePixel);
+}
+
 void Looks::TakeDamage(std::vector<PixelBox>& boxes) {
     surface.TakeDamage(boxes);
     boxes.insert(boxes.end(), lost.begin(), lost.end());
@@ -126,6 +142,7 @@ void Looks::TakeDamage(std::vector<PixelBox>& boxes) {
     }
     for (const PixelBox& box : boxes) CopyFrom(box);
     if (mark.isShown) PaintMark();
+    if (isPauseMarked) PaintPause();
 }
 
 const std::uint32_t* Looks::Row(int y) const { return pixels.empty() ? surface.Row(y) : &pixels[Index(0, y)]; }

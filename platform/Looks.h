@@ -27,15 +27,19 @@ class Looks {
     // with a ring, anything else with a frame.
     void Mark(const KeyChoice& choice);
 
+    // Marks, or no longer, that the game is paused: two bars in the free room of the panel beside the playfield.
+    void MarkPause(bool isPaused);
+
     // As in Surface.h, for what is shown. Rows are valid until the next call of TakeDamage.
     void TakeDamage(std::vector<PixelBox>& boxes);
     const std::uint32_t* Row(int y) const;
 
   private:
-    bool ChangesPixels() const { return mark.isShown || !colours.empty(); }
+    bool ChangesPixels() const { return mark.isShown || isPauseMarked || !colours.empty(); }
     std::uint32_t Shown(std::uint32_t pixel, int y) const;
     void CopyFrom(const PixelBox& box);
     void PaintMark();
+    void PaintPause();
     void Set(int x, int y, std::uint32_t pixel);
 
     // The pixels of a Recolouring.
@@ -49,6 +53,7 @@ class Looks {
     Surface& surface;
     std::vector<Colours> colours;
     KeyChoice mark;
+    bool isPauseMarked = false;
     std::vector<PixelBox> lost;         // what has changed its look since the last call of TakeDamage
     std::vector<std::uint32_t> pixels;  // empty while the surface's own are shown
 };

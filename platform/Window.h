@@ -69,6 +69,7 @@ struct WindowHandlers {
     std::function<void(SurfaceSpots& spots)> spots;  // adds what keys can choose on the surface now
     std::function<std::optional<SurfaceSpot>(float x, float y)> reached;  // the head that a press would reach
     std::function<void(Key key)> command;                                 // a key that is not an element's shortcut
+    std::function<bool()> isPaused;                                       // a game has been begun and stands still
     std::function<void(bool minimised)> resize;
     std::function<void()> queryUnload;  // the window may be about to close; can come more than once, e.g. when a hidden
                                         // page may never be seen again

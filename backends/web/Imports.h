@@ -115,13 +115,15 @@ enum class WatchCommand : std::int32_t {
 
 enum class EventKind : std::int32_t {
     Move,      // the pointer moves: x, y
-    Press,     // a button is pressed: number is a MouseButton, x, y
+    Press,     // a button is pressed: number is a MouseButton, plus kByFinger for a finger; x, y
     Release,   // a button is released: number is a MouseButton, x, y
     Activate,  // an element is clicked without a pointer, by a key or a screen reader: number is the element
     Key,       // a key is pressed: number is 27 for Esc, or a Key
     Close,     // the close box of a dialog
     Watch,     // the page's controls for watching: number is a WatchCommand, x
 };
+
+constexpr std::int32_t kByFinger = 16;
 
 struct Event {
     double time = 0;
@@ -182,6 +184,8 @@ PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t co
 // Whether there is anything on the surface to choose with the keys, and whether a game is being played, in which case
 // Tab and the arrow keys choose beams rather than the page's controls.
 PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t canChoose, std::int32_t toField);
+// Whether a game has been begun and stands still, which the page says as well.
+PAGE_IMPORT("showPaused") void ShowPaused(std::int32_t isPaused);
 // Shows one line below the picture, usually about saving. An empty text removes it.
 PAGE_IMPORT("showNotice") void ShowNotice(const char* text, std::uint32_t length);
 // The program has ended: the page dims the picture and offers to start again.

@@ -14,6 +14,7 @@ constexpr int kFullVolume = 1000;
 constexpr double kYieldRest = 1;      // milliseconds
 constexpr long kPixelsPerCall = 500;  // the cost of one more call to the page, in pixels
 constexpr double kLongestWait = 60'000;
+constexpr double kMetFor = 600;              // milliseconds
 constexpr double kStartNumbers = 1LL << 53;  // how many random numbers the page can give
 constexpr std::size_t kRateAt = 28;          // in a wave file of plain samples: bytes per second
 constexpr std::size_t kLengthAt = 40;        // and the length of the samples in bytes
@@ -121,8 +122,7 @@ void WebPlatform::Handle(const page::Event& event) {
             NotePointer(window, event.x, event.y);
             return input.Move(window, event.x, event.y);
         case page::EventKind::Press:
-            return input.Press(window, static_cast<MouseButton>(event.number),
-                               {event.x, event.y, static_cast<std::uint32_t>(event.time), front.Origin()});
+            return Press(front, event);
         case page::EventKind::Release:
             return input.Release(window, static_cast<MouseButton>(event.number), event.x, event.y);
         case page::EventKind::Activate:
@@ -137,11 +137,32 @@ void WebPlatform::Handle(const page::Event& event) {
     }
 }
 
+// A finger covers what it touches, so the head that it meets is marked for a moment.
+void WebPlatform::Press(ShownWindow& front, const page::Event& event) {
+    Window& window = front.Content();
+    const bool isFinger = event.number >= page::kByFinger;
+    const auto button = static_cast<MouseButton>(isFinger ? event.number - page::kByFinger : event.number);
+    if (isFinger) window.choice.isShown = false;
+    if (isFinger && window.on.reached && window.ElementAt(event.x, event.y) == nullptr) {
+        if (const std::optional<SurfaceSpot> head = window.on.reached(event.x, event.y)) {
+            met = {.what = head->what, .isShown = true, .isOnSurface = true, .left = head->x, .top = head->y};
+            metUntil = page::Now() + kMetFor;
+        }
+    }
+    input.Press(window, button, {event.x, event.y, static_cast<std::uint32_t>(event.time), front.Origin()});
+}
+
+KeyChoice WebPlatform::PlaceToMarkNow() {
+    return page::Now() < metUntil ? met : PlaceToMark(*main, comfort.ringsAtPointer);
+}
+
 void WebPlatform::Rest() {
     if (ended) return;
+    const double now = page::Now();
     const std::optional<Nanoseconds> due = timers.NextDue();
-    const double rest = due ? Milliseconds(time.ByClock(*due - time.Now())) : kLongestWait;
-    page::Wait(page::Now() + std::min(rest, kLongestWait), 1);
+    double rest = due ? Milliseconds(time.ByClock(*due - time.Now())) : kLongestWait;
+    if (now < metUntil) rest = std::min(rest, metUntil - now);
+    page::Wait(now + std::min(rest, kLongestWait), 1);
 }
 
 void WebPlatform::LetEventsRun() {
@@ -200,7 +221,11 @@ void WebPlatform::SendSpots() {
 
 void WebPlatform::SendSurface() {
     FollowChoice(*main, KeyReach::Surface);
-    looks.Mark(PlaceToMark(*main, comfort.ringsAtPointer));
+    looks.Mark(PlaceToMarkNow());
+    const bool paused = main->on.isPaused && main->on.isPaused();
+    if (paused != isPausedAsTold) page::ShowPaused(paused ? 1 : 0);
+    isPausedAsTold = paused;
+    looks.MarkPause(paused);
     looks.TakeDamage(damage);
     Merge(damage);
     for (const PixelBox& box : damage) {

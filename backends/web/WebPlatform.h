@@ -88,6 +88,8 @@ class WebPlatform final : public Platform {
     void SendSurface();
     void SendSpots();
     void TellOfSaving(bool isWritten);
+    void Press(ShownWindow& front, const page::Event& event);
+    KeyChoice PlaceToMarkNow();
 
     Surface layer;
     Looks looks{layer};
@@ -108,10 +110,13 @@ class WebPlatform final : public Platform {
     bool isFailedSaveTold = false;
     bool ended = false;
     std::vector<SurfaceSpot> shownSpots;
+    KeyChoice met;              // the head that a finger has touched
+    double metUntil = 0;        // on the page's clock
     bool canChoose = false;     // on the surface, as the page was last told
     bool fieldHasKeys = false;  // likewise
-    bool hidden = false;        // as last seen on the page
-    bool minimised = false;     // as the main window was last told
+    bool isPausedAsTold = false;
+    bool hidden = false;     // as last seen on the page
+    bool minimised = false;  // as the main window was last told
 };
 
 }  // namespace prismfall

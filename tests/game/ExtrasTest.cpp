@@ -95,6 +95,10 @@ TEST(Looks, ShowColoursByTheirTableAndMarksOverThem) {
     looks.TakeDamage(boxes);
     EXPECT_EQ(looks.Row(120)[129], 0xFFFFFFFF) << "paint goes beneath a mark";
     EXPECT_EQ(looks.Row(120)[140], 0xFF00FF00);
+    looks.MarkPause(true);
+    looks.TakeDamage(boxes);
+    EXPECT_EQ(looks.Row(150)[730], 0xFFD4E4FF);
+    looks.MarkPause(false);
     looks.Mark({});
     looks.Recolour({});
     looks.TakeDamage(boxes);

@@ -1,6 +1,6 @@
 """Keys in a real window: the same path through the game as in a headless one, and the mark at the chosen place."""
 import harness
-from desktop import wait_for
+from desktop import Desktop, wait_for
 
 WHITE = 0xFFFFFF
 
@@ -36,6 +36,16 @@ class Keys(harness.WindowTest):
             if width:
                 wait_for(lambda: run.main.place()[2] == width, 3, f"a width of {width}")
         self.assertEqual(run.wait_for_end(), 0)
+
+    def test_a_small_display_holds_the_whole_window(self):
+        shared, self.desktop = self.desktop, Desktop(size="800x600")
+        self.addCleanup(lambda: self.desktop.stop() or setattr(self, "desktop", shared))
+        run = self.start(shows_up=False)
+        run.wait_for_main_window()
+        bottom = lambda: sum(run.main.place()[1::2]) + run.main.frame()[3]
+        wait_for(lambda: run.main.frame()[2] > 0 and 500 < bottom() <= 600, 1, "the ground to be seen")
+        left, _, width, _ = run.main.place()
+        self.assertTrue(0 <= left and left + width <= 800)
 
 
 if __name__ == "__main__":

@@ -35,17 +35,15 @@ def background():
 
 
 def dialog_background():
-    """Every dialog cuts its own piece from the top left, so all light comes from there."""
+    """Every dialog cuts its own piece from the top left, so all light comes from there, and there is no frame."""
     defs = (gradient("night", [(0, "#111b36", 1), (0.5, "#0a1122", 1), (1, "#070b17", 1)], x2=0.55) +
             gradient("ray", [(0, "#7ea6ff", 0.20), (0.7, "#7ea6ff", 0.03), (1, "#7ea6ff", 0)], x2=1, y2=1) +
             hatch("weave", 6, "#a9c4ff", 0.035))
     rays = ('<path d="M0 0 H120 L0 120 Z" fill="url(#ray)"/>'
             '<path d="M190 0 H250 L0 250 V190 Z" fill="#7ea6ff" fill-opacity="0.03"/>'
             '<path d="M330 0 H480 L0 480 V330 Z" fill="#7ea6ff" fill-opacity="0.022"/>\n')
-    edge = "M4.5 533 V8.5 A4 4 0 0 1 8.5 4.5 H545"
-    light = stroke(edge, TUBE, 5, 0.55, blur=3) + stroke(edge, "#3f6fd8", 1.6) + stroke(edge, "#a9c6ff", 0.7)
     ground = box(0, 0, 545, 533, "url(#night)") + box(0, 0, 545, 533, "url(#weave)")
-    return document(545, 533, ground + rays + light, defs)
+    return document(545, 533, ground + rays, defs)
 
 
 def score_tile(rows):

@@ -25,16 +25,16 @@ class Step(NamedTuple):
     lines: tuple
     arrow: tuple = ()  # where it begins, where it points
     buttons: tuple = ()  # each: left, top, right, bottom of the glass, words, height of the lettering
-    call: tuple = ()  # words on a beam's end: the end, words with their baselines, height of the lettering
+    call: tuple = ()  # words on a beam's end: the end, words with their middles and baselines, height of the lettering
     beams: tuple = ()  # each: start, the y to which the puzzle lays it out, the y of its head by now, direction, colour
 
 
 STEPS = (
     Step((325, 54, 209, 114), (4, 4, 205, 110), 24, 16,
          ("In puzzle mode the goal is", "to clear all beams before", "they reach the ground"),
-         buttons=((15, 76, 67, 104, ("Skip", "Tutorial"), 8.5), (124, 81, 197, 104, ("OK",), 11))),
+         buttons=((15, 76, 67, 104, ("Skip", "Tutorial"), 7), (124, 81, 197, 104, ("OK",), 11))),
     Step((323, 74, 216, 148), (48, 4, 214, 62), 29, 16, ("Bend the red beam", "by clicking on the end"),
-         arrow=((52, 62), (36, 92)), call=((20, 115), (("Click", 106), ("Here!", 129)), 8),
+         arrow=((52, 62), (36, 92)), call=((20, 115), (("Click", 27, 104), ("Here!", 21, 129)), 7),
          beams=((174, 20, 180, 189, RIGHT, RED), (414, 180, 324, 333, LEFT, YELLOW))),
     Step((13, 177, 184, 89), (66, 2, 150, 87), 16, 13, ("The yellow", "beam is", "stopped", "by the red"),
          arrow=((150, 40), (180, 40)), buttons=((91, 61, 123, 83, ("OK",), 10),),
@@ -42,7 +42,7 @@ STEPS = (
                 (14, 180, 204, 237, RIGHT, YELLOW))),
     Step((449, 64, 191, 165), (6, 84, 185, 150), 105, 16,
          ("Start the blue", "non-moving beam", "by clicking on the end"),
-         arrow=((100, 84), (100, 46)), call=((97, 24), (("Click", 15), ("Here!", 39)), 8),
+         arrow=((100, 84), (100, 46)), call=((97, 24), (("Click", 90, 15), ("Here!", 98, 38)), 7),
          beams=((614, 20, 88, 88, LEFT, BLUE),)),
     Step((20, 420, 197, 116), (12, 24, 191, 110), 46, 16, ("The beam is reflected", "by the wall"),
          arrow=((26, 24), (6, 6)), buttons=((148, 76, 179, 100, ("OK",), 10),)),
@@ -51,7 +51,7 @@ STEPS = (
          arrow=((26, 22), (7, 5)), buttons=((128, 106, 167, 128, ("OK",), 10),)),
     Step((13, 291, 213, 94), (4, 8, 148, 86), 27, 16,
          ("Make the red beam", "go faster by", "right-clicking", "on the end"),
-         arrow=((148, 37), (170, 37)), call=((187, 41), (("Right", 22), ("Click", 33), ("Here!", 57)), 7),
+         arrow=((148, 41), (176, 41)), call=((187, 41), (("Right", 181, 20), ("Click", 181, 30), ("Here!", 188, 57)), 6.5),
          beams=((254, 180, 340, 421, LEFT, RED), (414, 180, 324, 476, LEFT, YELLOW),
                 (14, 180, 204, 296, RIGHT, YELLOW), (343, 189, 189, 332, LEFT, RED))),
     Step((84, 484, 200, 109), (26, 4, 195, 100), 24, 16,
@@ -107,9 +107,8 @@ def small_button(left, top, right, bottom, words, cap):
 
 
 def call(end, words, cap):
-    """Words on a beam's end, a ring around the end itself, and dark around the letters where the beam runs behind."""
+    """Words beside a beam's end, and a ring around the end itself."""
     ring = f"M{end[0] - 4.5} {end[1] + 0.5} a5 5 0 0 1 10 0 a5 5 0 0 1 -10 0"
     body = f'<path d="{ring}" fill="none" stroke="{WHITE}" stroke-width="1.2"/>\n'
-    paths = [centred_text(word, end[0] + 1, baseline, cap / 10, -0.6) for word, baseline in words]
-    body += "".join(stroke(path, "#000000", 4.5) for path in paths)
+    paths = [centred_text(word, middle, baseline, cap / 10, -0.6) for word, middle, baseline in words]
     return body + "".join(stroke(path, WHITE, 1.25) for path in paths)

@@ -131,7 +131,22 @@ bool SdlDesktop::Open(Window& window) {
     if (!real->IsReal()) return false;
     windows.push_back({std::move(real)});
     input.Open(window);
+    if (!window.isDialog) KeepOnDisplay(window);
     return true;
+}
+
+// A small display holds the window and its frame, but some desktops centre the window without its frame, or put each
+// new one further down.
+void SdlDesktop::KeepOnDisplay(const Window& window) {
+    SDL_Rect room;
+    if (SDL_GetDisplayUsableBounds(0, &room) != 0 || room.h - Points(window.innerHeight) > 3 * kNominalFrame.top)
+        return;
+    const Extent size{Points(OuterSize(window).width), Points(OuterSize(window).height)};
+    const Place corner = Position(window);
+    const Place wanted{std::clamp(Points(corner.left), room.x, std::max(room.x, room.x + room.w - size.width)),
+                       std::clamp(Points(corner.top), room.y, std::max(room.y, room.y + room.h - size.height))};
+    const Place moved{GamePixels(wanted.left), GamePixels(wanted.top)};
+    if (moved.left != corner.left || moved.top != corner.top) SetPosition(window, moved);
 }
 
 void SdlDesktop::Close(const Window& window) {
@@ -145,9 +160,14 @@ void SdlDesktop::SetComfort(const Comfort& comfort) {
     looks.Recolour(comfort.recolourings);
 }
 
+void SdlDesktop::MarkOn(Window& mainWindow) {
+    looks.Mark(PlaceToMark(mainWindow, ringsAtPointer));
+    looks.MarkPause(mainWindow.on.isPaused && mainWindow.on.isPaused());
+}
+
 void SdlDesktop::Refresh() {
     for (const Shown& shown : windows) FollowChoice(shown.real->Data());
-    if (!windows.empty()) looks.Mark(PlaceToMark(windows.front().real->Data(), ringsAtPointer));
+    if (!windows.empty()) MarkOn(windows.front().real->Data());
     for (const Shown& shown : windows) shown.real->Refresh();
 }
 

@@ -65,6 +65,8 @@ class SdlDesktop {
     static int SDLCALL NoteExposure(void* self, SDL_Event* event);
 
     void ChooseScale(const Window& window);
+    void KeepOnDisplay(const Window& window);
+    void MarkOn(Window& mainWindow);
     // Gives the desktop a moment, once, to report the frame it has drawn around the main window.
     void AwaitFrame();
     const Shown* Find(const Window& window) const;

@@ -56,6 +56,15 @@ std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, co
                Mix(lower[column.first], lower[column.second], column.share), shareOfLower);
 }
 
+PixelBox OpaquePart(const Image& image) {
+    constexpr std::uint32_t kClear = 0x80;  // opacity
+    PixelBox part;
+    for (int y = 0; y < image.height; ++y)
+        for (int x = 0; x < image.width; ++x)
+            if (image.Row(y)[x] >> 24 >= kClear) part = BoundingBox(part, {x, y, x + 1, y + 1});
+    return part;
+}
+
 Image Scaled(const Image& image, int width, int height) {
     Image result(width, height);
     result.opaque = image.opaque;

@@ -40,6 +40,9 @@ Neighbours NeighboursAt(int place, float scale, int size);
 std::uint32_t MixFour(const std::uint32_t* upper, const std::uint32_t* lower, const Neighbours& column,
                       std::uint32_t shareOfLower);
 
+// The smallest box around what can clearly be seen of the picture, without the glow at its edges.
+PixelBox OpaquePart(const Image& image);
+
 // The picture at another size, smoothed.
 Image Scaled(const Image& image, int width, int height);
 

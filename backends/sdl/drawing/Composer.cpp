@@ -80,12 +80,25 @@ void Composer::AddLayerChanges() {
     }
 }
 
+PixelBox Composer::ChosenBox() const {
+    const KeyChoice& choice = window.choice;
+    const PixelBox whole{display.Pixels(choice.left), display.Pixels(choice.top),
+                         display.Pixels(choice.left + choice.width), display.Pixels(choice.top + choice.height)};
+    const auto chosen = std::ranges::find(window.elements, choice.what);
+    if (chosen == window.elements.end() || (*chosen)->picture.empty()) return whole;
+    const Image* picture = display.pictures.Find((*chosen)->picture);
+    if (picture == nullptr) return whole;
+    const PixelBox drawn = OpaquePart(*picture);
+    return Overlap(
+        whole, {whole.left + drawn.left, whole.top + drawn.top, whole.left + drawn.right, whole.top + drawn.bottom});
+}
+
 PixelBox Composer::ChoiceBox() const {
     const KeyChoice& choice = window.choice;
     if (!choice.isShown || choice.isOnSurface || choice.what == nullptr) return {};
-    const auto place = [&](float gamePixels, float out) { return display.Pixels(gamePixels + out); };
-    return {place(choice.left, -kChoiceOut), place(choice.top, -kChoiceOut),
-            place(choice.left + choice.width, kChoiceOut), place(choice.top + choice.height, kChoiceOut)};
+    const PixelBox box = ChosenBox();
+    const int out = display.Pixels(kChoiceOut);
+    return {box.left - out, box.top - out, box.right + out, box.bottom + out};
 }
 
 void Composer::CompareChoice() {

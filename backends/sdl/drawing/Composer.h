@@ -35,6 +35,8 @@ class Composer {
     // The frame around the element that is chosen by keys.
     void CompareChoice();
     PixelBox ChoiceBox() const;
+    // What can be seen of the chosen element: its box, or the opaque part of its picture.
+    PixelBox ChosenBox() const;
     void DrawBackground(Canvas& canvas, const PixelBox& box);
     void DrawLayer(Canvas& canvas, const PixelBox& box) const;
 

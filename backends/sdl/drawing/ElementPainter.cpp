@@ -83,9 +83,9 @@ void DrawMarkedText(Canvas& canvas, const Element& element, const PixelBox& box,
 
 void DrawGroupFrame(Canvas& canvas, const Element& element, const PixelBox& box, Display& display) {
     const std::uint32_t ground = PixelOf(element.ground.value_or(kBlack));
-    canvas.Fill(box, ground);
     PixelBox frame = box;
     frame.top += display.text.LineHeight(element.font) / 2;
+    canvas.Fill(frame, ground);
     const std::uint32_t shade = Blend(WithOpacity(PixelOf(element.colour), kFrameOpacity), ground);
     canvas.Frame(frame, shade, LineWidth(display));
     const int left = box.left + display.Pixels(kFrameTextInset);

@@ -49,6 +49,6 @@ export function connectControls(
         change.catch(() => (full.hidden = true));
     });
     document.addEventListener('fullscreenchange', () => {
-        full.textContent = document.fullscreenElement ? 'Exit full screen' : 'Full screen';
+        full.setAttribute('aria-pressed', String(document.fullscreenElement !== null));
     });
 }

@@ -1,5 +1,6 @@
 // The elements of a window as elements of the page: pictures are images, buttons are buttons, texts are texts. Each has
 // its position in game pixels; the window that contains them is scaled as a whole.
+import { fingersWords } from './fingers';
 import { panelLeft } from './layout';
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
@@ -151,9 +152,13 @@ export class Elements {
     /** Numbers that change and pictures that explain something are announced when they appear. */
     private speak(element: Shown, record: ElementRecord): void {
         const tells = (record.kind === Kind.Label && record.accessibleName !== '') || record.kind === Kind.PressPicture;
-        const words = tells && record.visible ? `${record.accessibleName} ${record.text}` : '';
-        if (words !== element.lastAnnounced && words !== '') this.notices.speak(words);
+        const forFingers = fingersWords(record.picture);
+        const words = tells && record.visible ? (forFingers ?? `${record.accessibleName} ${record.text}`) : '';
+        if (words === element.lastAnnounced) return;
         element.lastAnnounced = words;
+        // What stands below the picture is read out as well.
+        if (forFingers !== undefined) this.notices.show('tutorial', words);
+        else if (words !== '') this.notices.speak(words);
     }
 }
 
@@ -161,9 +166,9 @@ const looksOfText = ['ground', 'family', 'points', 'bold', 'italic', 'wraps', 'f
 
 function setText(node: HTMLElement, words: HTMLElement, record: ElementRecord): void {
     words.textContent = record.text;
-    // The background of highlighted texts and frames extends only as far as their text.
+    // The background of highlighted texts extends only as far as their text, that of a frame as far as its lines.
     (record.kind === Kind.Label ? node : words).style.backgroundColor = record.ground;
-    if (record.kind === Kind.GroupFrame) node.style.backgroundColor = record.ground;
+    if (record.kind === Kind.GroupFrame) node.style.setProperty('--ground', record.ground);
     node.style.fontFamily = families[record.family] ?? record.family;
     node.style.fontWeight = record.bold ? 'bold' : 'normal';
     node.style.fontStyle = record.italic ? 'italic' : 'normal';

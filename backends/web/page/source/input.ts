@@ -1,10 +1,11 @@
 // Mouse, fingers and keys as events of the game. The program finds out which element a press is on; the page's own
 // elements matter only where a key or a screen reader clicks them.
+import { leftButton, rightButton, touched, type Touched } from './fingers';
 import { EventKind } from './records';
 import type { Waiting } from './waiting';
 
-const leftButton = 1;
-const rightButton = 2;
+const byFinger = 16; // added to the number of a button
+const steady = 22; // how far a finger may move on what it has touched, in the page's pixels
 const escapeCode = 27;
 const mainWindow = 0;
 
@@ -13,10 +14,16 @@ interface Held {
     readonly root: HTMLElement;
 }
 
+interface Finger extends Held {
+    readonly button: number;
+    readonly began: PointerEvent;
+    readonly touched: Touched;
+}
+
 export class Input {
     /** Whether a finger acts as the right button. */
     fingersPressRight = false;
-    private readonly fingers = new Map<number, Held & { readonly button: number }>();
+    private readonly fingers = new Map<number, Finger>();
     private readonly held = new Map<number, Held>();
     private pressSeen = false;
 
@@ -48,27 +55,28 @@ export class Input {
     }
 
     /**
-     * A second finger is the right button, as is every finger while the switch says so, and one on a spot that asks for
-     * it; buttons want the left one.
+     * A second finger is the right button, as is every finger while the switch says so, but where what is touched has a
+     * button of its own.
      */
     private touchStart(event: PointerEvent, held: Held): void {
         if (event.pointerType !== 'touch') return;
         event.preventDefault();
         this.pressSeen = true;
-        const isOnButton = event.target instanceof Element && event.target.closest('button:not(.spot), label') !== null;
-        const isRight =
-            !isOnButton && (this.fingersPressRight || this.fingers.size > 0 || asksForRight(event, held.root));
-        const button = isRight ? rightButton : leftButton;
-        this.fingers.set(event.pointerId, { ...held, button });
-        this.send(EventKind.Press, held, button, event);
+        const place = touched(held.root, event);
+        const isRight = this.fingersPressRight || this.fingers.size > 0;
+        const button = place.button ?? (isRight ? rightButton : leftButton);
+        this.fingers.set(event.pointerId, { ...held, button, began: event, touched: place });
+        this.send(EventKind.Press, held, button + byFinger, place);
     }
 
     private touchEnd(event: PointerEvent, isLost: boolean): void {
         const finger = this.fingers.get(event.pointerId);
         if (!finger) return;
         this.fingers.delete(event.pointerId);
-        if (isLost) this.waiting.send(EventKind.Release, finger.window, finger.button, -1, -1);
-        else this.send(EventKind.Release, finger, finger.button, event);
+        const { began, button, window } = finger;
+        const way = Math.hypot(event.clientX - began.clientX, event.clientY - began.clientY);
+        if (isLost) this.waiting.send(EventKind.Release, window, button, -1, -1);
+        else this.send(EventKind.Release, finger, button, way <= steady ? finger.touched : event);
     }
 
     /** Clicks caused by a press have already been handled; the program alone says what is marked. */
@@ -105,7 +113,7 @@ export class Input {
         number: number,
         event: Pick<MouseEvent, 'clientX' | 'clientY'>,
     ): void {
-        const moved = root.classList.contains('upright') ? panelPlace(event.clientX, event.clientY) : undefined;
+        const moved = root.classList.contains('apart') ? panelPlace(event.clientX, event.clientY) : undefined;
         if (moved) {
             this.waiting.send(kind, window, number, ...moved);
             return;
@@ -116,19 +124,10 @@ export class Input {
     }
 }
 
-/** On an upright page the panel lies elsewhere than the program has it: a press on it is one on the middle of its element. */
+/** Where the panel lies elsewhere than the program has it, a press on it is one on the middle of its element. */
 function panelPlace(x: number, y: number): [number, number] | undefined {
-    const node = document.elementFromPoint(x, y)?.closest<HTMLElement>('.upright > .panel');
+    const node = document.elementFromPoint(x, y)?.closest<HTMLElement>('.apart > .panel');
     if (!node) return undefined;
     const { left, top, width, height } = node.style;
     return [parseFloat(left) + parseFloat(width) / 2, parseFloat(top) + parseFloat(height) / 2];
-}
-
-/** Whether a finger is on a spot of the tutorial that has to be pressed with the right button. */
-function asksForRight({ clientX, clientY }: PointerEvent, root: HTMLElement): boolean {
-    return [...root.querySelectorAll<HTMLElement>('.spot')].some((spot) => {
-        const { left, top, right, bottom } = spot.getBoundingClientRect();
-        const isOn = clientX >= left && clientX < right && clientY >= top && clientY < bottom;
-        return isOn && Number(spot.dataset['button']) === rightButton;
-    });
 }

@@ -3,10 +3,14 @@
 export const gameWidth = 802;
 export const gameHeight = 602;
 
-/** The left edge of the panel, to the right of the field. On an upright page the panel is below the field. */
+/** Where the panel begins, to the right of the field. On a page for fingers it lies apart. */
 export const panelLeft = 672;
 const fieldWidth = 684;
-const panelHeight = 190; // in page pixels, on an upright page
+// What the panel needs where it lies apart, in page pixels.
+const panelHeight = 190; // below the field
+const panelWidth = 200; // beside it
+
+const isFlat = matchMedia('(max-height: 520px) and (min-aspect-ratio: 3 / 2)'); // as in page.css
 
 // The nominal frame of a dialog.
 export const frameSides = 4;
@@ -27,8 +31,14 @@ export interface Placement {
 export class Layout {
     /** The main window's inner area, in page pixels. */
     main: Placement = { left: 0, top: 0, scale: 1 };
-    /** The page is taller than wide, so the field takes its full width. */
-    isUpright = false;
+    /**
+     * Where the panel is. On a page that is taller than wide it lies below the field, which takes the full width; on a
+     * low one beside the field, which takes the full height. There its buttons have sizes for fingers.
+     */
+    panel: 'within' | 'below' | 'beside' = 'within';
+    /** The room for the window, in game pixels. */
+    width = gameWidth;
+    height = gameHeight;
     private readonly listeners: (() => void)[] = [];
 
     constructor(private readonly room: HTMLElement) {
@@ -68,18 +78,25 @@ export class Layout {
 
     private measure(): void {
         const { left, top, width, height } = this.room.getBoundingClientRect();
-        this.isUpright = height > width;
-        const fits = this.isUpright
-            ? Math.min(width / fieldWidth, (height - panelHeight) / gameHeight)
-            : Math.min(width / gameWidth, height / gameHeight);
+        this.panel = height > width ? 'below' : isFlat.matches ? 'beside' : 'within';
+        const fits = this.fitting(width, height);
         const whole = Math.floor(fits * devicePixelRatio);
         const scale = whole >= 1 && fits * devicePixelRatio < whole * snap ? whole / devicePixelRatio : fits;
+        const taken = { within: gameWidth * scale, below: fieldWidth * scale, beside: width }[this.panel];
         this.main = {
-            left: wholePixel(left + (width - (this.isUpright ? fieldWidth : gameWidth) * scale) / 2),
-            top: wholePixel(top + (this.isUpright ? 0 : (height - gameHeight * scale) / 2)),
+            left: wholePixel(left + (width - taken) / 2),
+            top: wholePixel(top + (this.panel === 'below' ? 0 : (height - gameHeight * scale) / 2)),
             scale,
         };
+        this.width = width / scale;
+        this.height = height / scale;
         for (const act of this.listeners) act();
+    }
+
+    private fitting(width: number, height: number): number {
+        if (this.panel === 'below') return Math.min(width / fieldWidth, (height - panelHeight) / gameHeight);
+        if (this.panel === 'beside') return Math.min((width - panelWidth) / fieldWidth, height / gameHeight);
+        return Math.min(width / gameWidth, height / gameHeight);
     }
 }
 

@@ -1,6 +1,7 @@
 // Starts the game: loads the program and the pictures of the main menu, shows the progress if that takes a while, runs the
 // program, and then fetches what can wait.
 import { connectControls } from './controls';
+import { answerFirstTouch } from './fingers';
 import { Focus } from './focus';
 import { Input } from './input';
 import { Games } from './games';
@@ -78,6 +79,7 @@ async function start(): Promise<void> {
     const machine = { waiting, windows, surface, sounds, music, settings, games, watching, notices, keys, focus, end };
     connectControls(input, keys, button('right'), button('extras'), button('full'));
     connectPads(() => keys.areForField);
+    answerFirstTouch(notices);
     await kept.watchLink();
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);

@@ -2,7 +2,7 @@
 const wordsKept = 4;
 const wordsLast = 5000; // milliseconds; after that, nobody comes across them while reading the page
 
-export type Subject = 'music' | 'sounds' | 'saving' | 'games' | 'end';
+export type Subject = 'music' | 'sounds' | 'saving' | 'games' | 'fingers' | 'tutorial' | 'pause' | 'end';
 
 export class Notices {
     private readonly sentences = new Map<Subject, string>();

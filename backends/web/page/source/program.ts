@@ -155,6 +155,7 @@ async function instantiate(
             keys.canChoose = canChoose !== 0;
             keys.areForField = toField !== 0;
         },
+        showPaused: (isPaused: number) => notices.show('pause', isPaused === 0 ? '' : 'Paused'),
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         endProgram: () => end(),
         openSettings: () => settings.open(),

@@ -30,8 +30,10 @@ export class Windows {
         layout.whenChanged(() => {
             place(picture, layout.main);
             picture.classList.toggle('sharp', layout.isSharp);
-            picture.classList.toggle('upright', layout.isUpright);
+            picture.classList.toggle('apart', layout.panel !== 'within');
+            picture.classList.toggle('beside', layout.panel === 'beside');
             picture.style.setProperty('--grow', String(1 / layout.main.scale));
+            picture.style.setProperty('--room', `${layout.width}px`);
             for (const window of this.windows.values()) this.placeDialog(window);
         });
     }

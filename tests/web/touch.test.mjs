@@ -1,0 +1,132 @@
+// The page by fingers alone, on a phone held upright and across: node --test, with the name of a browser in BROWSER. With
+// TOUCH=all everything is played in both ways.
+import assert from 'node:assert';
+import { test } from 'node:test';
+import { sleep } from './browsers.mjs';
+import { Game, startTests } from './game.mjs';
+
+const name = process.env.BROWSER ?? 'chromium';
+const { site, browser } = await startTests(name);
+const sizes = { upright: [390, 844], across: [844, 390] };
+const stored = '[General]\nPlayFirstTime=False\nMusic=False\nSoundEffects=False\n';
+
+/** The tick, what a finger does then, and which end of a beam it meets where. */
+const solutions = {
+    4: '148 bend 346,288 175 bend 373,315',
+    12: '11 bend 545,271 12 run 545,271 34 run 421,173 54 run 360,154 73 run 363,311',
+    16: '9 bend 583,361 14 bend 548,154 20 run 542,160 33 run 607,133 64 run 238,164 68 run 242,248',
+};
+const tickLength = 75; // milliseconds, on a machine that never stalls
+const early = 8; // ticks
+const late = 2000; // milliseconds; then it is met a little off its way
+
+class Fingers extends Game {
+    menuPage = 0;
+
+    turn = async (way) => {
+        this.way = way;
+        await this.page.size(...sizes[way], { deviceScaleFactor: 2, hasTouch: true, isMobile: name === 'chromium' });
+        await sleep(300); // the page is laid out anew
+    };
+
+    tap = async (words) => this.page.tap(...(await this.placeOf(words)));
+
+    /** From the main menu. */
+    async choose(puzzle) {
+        await this.tap('Puzzle');
+        for (; this.menuPage < Math.floor((puzzle - 1) / 9); ++this.menuPage) await this.tap('Next page');
+        const cell = (puzzle - 1) % 9;
+        await this.page.tap(...(await this.at(14 + 218 * ((cell % 3) + 0.5), 20 + 188 * (Math.floor(cell / 3) + 0.5))));
+        await this.tap('Start');
+    }
+
+    /** Waits until the end of a beam comes by, and touches it. */
+    async act(what, x, y) {
+        const isPainted = ([left, top]) => {
+            const field = document.querySelector('canvas + canvas').getContext('2d');
+            return field.getImageData(left - 30, top - 18, 28, 1).data.some((part, i) => i % 4 < 3 && part > 0);
+        };
+        for (const end = Date.now() + late; Date.now() < end && !(await this.page.evaluate(isPainted, [x, y]));)
+            await sleep(50);
+        const place = await this.at(x, y);
+        if (what === 'bend') return this.page.tap(...place);
+        const thumb = await this.page.page.touchscreen.touchStart(...(await this.placeOf('Speed up')));
+        await this.page.tap(...place);
+        await thumb.end();
+    }
+
+    async solve(puzzle) {
+        await this.choose(puzzle);
+        let [last, then] = [0, Date.now()];
+        for (const [, tick, what, x, y] of solutions[puzzle].matchAll(/(\d+) (\w+) (\d+),(\d+)/g)) {
+            await sleep(then + (tick - last - early) * tickLength - Date.now());
+            await this.act(what, +x, +y);
+            [last, then] = [tick, Date.now()];
+        }
+        await this.untilSolved();
+    }
+
+    async untilSolved() {
+        await this.dialog('Puzzle Result');
+        assert.ok(await this.page.evaluate(() => !!document.querySelector('[alt="You Succeeded!"]')?.offsetParent));
+        await this.tap('Menu');
+        await this.noDialog();
+        await this.page.page.goBack().catch(() => undefined);
+        await this.placeOf('Puzzle');
+    }
+}
+
+async function begin(way) {
+    const page = await browser.newPage();
+    const game = new Fingers(page);
+    await page.page.evaluateOnNewDocument(`localStorage.setItem('prismfall', ${JSON.stringify(stored)})`);
+    await game.turn(way);
+    return game.open(site.address);
+}
+
+/** Buttons that are too small for a finger or reach out of the page, and whether the page can be scrolled. */
+function misfits() {
+    const found = document.scrollingElement.scrollHeight > innerHeight ? ['the page'] : [];
+    for (const node of document.querySelectorAll('#picture > button.panel, footer button')) {
+        const { left, right, top, bottom, width, height } = node.getBoundingClientRect();
+        if (width === 0) continue;
+        const isIn = left >= 0 && right <= innerWidth && top >= 0 && bottom <= innerHeight;
+        if (!isIn || width < 44 || height < 44)
+            found.push(`${node.innerText || node.firstElementChild.alt} ${width}x${height}`);
+    }
+    const field = document.querySelector('canvas + canvas').getBoundingClientRect();
+    if (field.width < Math.min(0.9 * innerWidth, innerHeight)) found.push(`a field of ${field.width}`);
+    return found;
+}
+
+const ways = process.env.TOUCH === 'all' ? ['upright', 'across'] : [undefined];
+for (const only of ways) {
+    test(`the tutorial, with its words for fingers, ${only ?? 'in both ways'}`, async () => {
+        const game = await begin(only ?? 'upright');
+        await game.choose(1);
+        const notice = () => document.getElementById('notice').textContent;
+        assert.match(await game.page.evaluate(notice), /Tap the end .*Speed up/);
+        const spots = 'OK|The end of the red beam|OK|The end of the blue beam|OK|OK|The end of the red beam|OK';
+        const said = [];
+        for (const [place, spot] of spots.split('|').entries()) {
+            const [x, y] = await game.placeOf(spot);
+            said.push(await game.page.evaluate(notice));
+            assert.deepEqual(await game.page.evaluate(misfits), []);
+            await game.page.tap(x + 9, y + 9); // a finger is no pointer
+            if (place === 3 && !only) await game.turn('across');
+        }
+        assert.match(said.join('\n'), /red beam: tap.*\n.*\n.*blue beam.*tap(.*\n)+.*faster: tap/);
+        await game.untilSolved();
+        await game.page.close();
+    });
+
+    test(`three puzzles, ${only ?? 'in both ways'}`, async () => {
+        const game = await begin(only ?? 'across');
+        for (const puzzle of Object.keys(solutions)) {
+            await game.solve(puzzle);
+            assert.deepEqual(await game.page.evaluate(misfits), []);
+            if (!only) await game.turn(game.way === 'across' ? 'upright' : 'across');
+        }
+        await game.page.close();
+    });
+}
