@@ -87,7 +87,7 @@ class WebPlatform final : public Platform {
     void Open(Window& window, Place place);
     void SendSurface();
     void SendSpots();
-    void TellOfSaving(bool isWritten);
+    void ReportSaving(bool isWritten);
 
     Surface layer;
     Looks looks{layer};
@@ -105,7 +105,7 @@ class WebPlatform final : public Platform {
     TimerWheel timers;
     RandomNumbers random;
     std::optional<SettingsValues> readValues;  // from the store, until it changes
-    bool isFailedSaveTold = false;
+    bool isFailedSaveReported = false;
     bool ended = false;
     std::vector<SurfaceSpot> shownSpots;
     bool canChoose = false;     // on the surface, as the page was last told
