@@ -30,7 +30,7 @@ void WindowInput::Close(const Window& window) {
 }
 
 bool WindowInput::HasInput(const Window& window) const {
-    return &window == Front() && window.visible && window.takesInput;
+    return &window == Front() && IsOpen(window) && window.takesInput;
 }
 
 void WindowInput::Tell(const Window& window, const InputEvent& event) const {
@@ -89,7 +89,7 @@ void WindowInput::Key(const Window& window, std::int32_t code) const {
 }
 
 void WindowInput::UseCloseBox(const Window& dialog) {
-    if (&dialog != Front() || !dialog.isDialog) return;
+    if (&dialog != Front() || !IsOpen(dialog) || !dialog.isDialog) return;
     Tell(dialog, {.kind = InputKind::CloseBox});
     closed = &dialog;
 }

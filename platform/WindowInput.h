@@ -51,7 +51,7 @@ class WindowInput {
     // A left press and its release on the same element are a click.
     void Release(Window& window, MouseButton button, float x, float y);
     void Key(const Window& window, std::int32_t code) const;
-    // The close box of the dialog in front.
+    // The close box of the dialog in front, which gets no input any more.
     void UseCloseBox(const Window& dialog);
     // Whether a dialog is open and stays so: it has been neither hidden nor closed.
     bool IsOpen(const Window& dialog) const { return dialog.visible && closed != &dialog; }

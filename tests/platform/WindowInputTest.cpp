@@ -158,6 +158,11 @@ TEST_F(WindowInputTest, OnlyTheFrontWindowGetsInputWhileItIsShownAndTakesIt) {
     Open(dialog);
     EXPECT_EQ(all(window), "");
     EXPECT_NE(all(dialog), "");
+    dialog.isDialog = true;
+    input.UseCloseBox(dialog);
+    EXPECT_EQ(all(dialog), "") << "closed, but still there";
+    input.Close(dialog);
+    Open(dialog);
     dialog.visible = false;
     EXPECT_EQ(all(window) + all(dialog), "") << "hidden, but not closed yet";
     input.Close(dialog);

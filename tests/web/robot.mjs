@@ -2,7 +2,7 @@
 // must be true for the native driver:
 //   node tests/web/robot.mjs BROWSER [GAMES [SEED]]
 import { spawnSync } from 'node:child_process';
-import { mkdirSync, rmSync, writeFileSync } from 'node:fs';
+import { cpSync, mkdirSync, rmSync, writeFileSync } from 'node:fs';
 import { sleep, startBrowser } from './browsers.mjs';
 import { Game } from './game.mjs';
 import { serve } from '../../backends/web/page/serve.mjs';
@@ -121,7 +121,8 @@ async function act(game) {
 
 rmSync(folder, { recursive: true, force: true });
 mkdirSync(folder, { recursive: true });
-const site = await serve('build/web');
+cpSync('build/web', `${folder}/web`, { recursive: true }); // may be built anew meanwhile
+const site = await serve(`${folder}/web`);
 const browser = await startBrowser(name);
 const files = [];
 const faults = [];

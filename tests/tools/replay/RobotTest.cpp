@@ -27,7 +27,10 @@ class Robot {
     explicit Robot(std::uint32_t seed) : random(seed), machine(silence, seed) {
         machine.PutSetting("General", "PlayFirstTime", Chance(50) ? "True" : "False");
         machine.PutSetting("General", "StartLevel", std::to_string(Number(1, 9)));
-        machine.whileDialog = [this] { Act(10); };
+        machine.whileDialog = [this] {
+            Act(10);
+            Act(2);  // what was queued may come after the dialog has been hidden or closed
+        };
         MakeMainWindow(main);
         machine.Open(main.window);
         machine.Handle([this] { main.window.on.activate(); });
@@ -56,7 +59,7 @@ class Robot {
     void DoSomething(Window& front) {
         if (main.GameRunning && Chance(90)) return PressBeam();
         if (front.isDialog && Chance(15)) return machine.Input().UseCloseBox(front);
-        if (Chance(4)) return machine.Input().Resize(main.window, isMinimised = !isMinimised);
+        if (!front.isDialog && Chance(4)) return machine.Input().Resize(main.window, isMinimised = !isMinimised);
         if (Chance(2)) return machine.Input().Key(front, kEscapeKey);
         if (main.TutorialStep > 0 && Chance(50))
             return PressTutorial(main.PictTut[static_cast<std::size_t>(main.TutorialStep - 1)]);
