@@ -52,12 +52,15 @@ function look(share) {
             .filter((place) => place >= 0)
             .map((place) => [left + (place % field.width), top + Math.floor(place / field.width)]),
         isPlaying: front === document.body && buttons.some((node) => wordsOf(node) === 'Pause'),
+        hasEnded: document.querySelector('.ended') !== null,
         isMenu: front === document.body && buttons.some((node) => wordsOf(node) === 'Arcade'),
         isDialog: front !== document.body,
-        buttons: buttons.map((node) => {
-            const { left, top, width, height } = node.getBoundingClientRect();
-            return [wordsOf(node), left + width / 2, top + height / 2];
-        }),
+        buttons: buttons
+            .map((node) => {
+                const { left, top, width, height } = node.getBoundingClientRect();
+                return [wordsOf(node), left + width / 2, top + height / 2];
+            })
+            .filter(([, x, y]) => x < innerWidth && y > 0 && y < innerHeight),
     };
 }
 
@@ -106,8 +109,14 @@ async function pressButton(game, button) {
     if (button) await game.page.click(button[1], button[2]);
 }
 
+/** Whether the program goes on. */
 async function act(game) {
     const seen = await game.page.evaluate(look, random());
+    if (!seen.hasEnded) await actOn(game, seen);
+    return !seen.hasEnded;
+}
+
+async function actOn(game, seen) {
     if (!seen.isPlaying && random() < 0.6) {
         if (seen.isDialog && random() < 0.3) return game.page.key('Escape');
         return pressButton(
@@ -131,7 +140,7 @@ while (files.length < Number(games)) {
     await page.size(900, 760);
     await page.page.evaluateOnNewDocument(prepare, oneOf([1, 5, 9, 20, 40]), random() < 0.2);
     const game = await new Game(page).open(site.address);
-    for (let round = 0; round < roundsPerPage; ++round) await act(game);
+    for (let round = 0; round < roundsPerPage && (await act(game)); ++round);
     const played = await game.page.evaluate(() => JSON.parse(sessionStorage.played ?? '[]'));
     for (const recording of played) {
         files.push(`${folder}/${files.length}.prismfall`);
