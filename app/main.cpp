@@ -41,6 +41,19 @@ fs::path FindPictures() {
     return folder / kPictureFolders.front();
 }
 
+// Desktops start a program that opens a file in that file's folder. Where the music is beside the program, that is the
+// folder to be in. Relative names of files hold for the folder that it was started in.
+std::string EnterMusicFolder(const std::string& file) {
+    std::error_code ignored;
+    const fs::path folder = ProgramFolder();
+    if (fs::exists("music", ignored) || !fs::exists(folder / "music", ignored)) return file;
+    const fs::path path(reinterpret_cast<const char8_t*>(file.c_str()));
+    const std::u8string absolute =
+        !file.empty() && fs::exists(path, ignored) ? fs::absolute(path, ignored).u8string() : path.u8string();
+    fs::current_path(folder, ignored);
+    return {absolute.begin(), absolute.end()};
+}
+
 struct Wishes {
     bool areGood = true;
     bool mustWatch = false;    // without a game to watch, exit at once
@@ -58,11 +71,12 @@ Wishes WishesIn(std::span<char* const> arguments) {
 }  // namespace
 
 int main(int count, char** words) {
-    const Wishes wishes = WishesIn({words, static_cast<std::size_t>(count)});
+    Wishes wishes = WishesIn({words, static_cast<std::size_t>(count)});
     if (!wishes.areGood) {
         std::cerr << "usage: prismfall [[--watch] FILE-OR-LINK]\n";
         return 1;
     }
+    wishes.watched = EnterMusicFolder(wishes.watched);
     prismfall::Recording watched;
     std::string fault;
     if (!wishes.watched.empty()) fault = prismfall::ReadGame(wishes.watched, watched);
