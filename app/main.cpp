@@ -10,6 +10,7 @@
 #include <string_view>
 #include <utility>
 
+#include "app/Failure.h"
 #include "app/KeepGames.h"
 #include "app/ReadGame.h"
 #include "app/RecordedGames.h"
@@ -93,6 +94,7 @@ int main(int count, char** words) {
     const prismfall::RecordingFolder folder(prismfall::RecordingFolder::UsersFolder());
     const prismfall::GameRecorder recorder(
         main, [&](const prismfall::PlayedGame& game) { prismfall::KeepGame(folder, main, game); });
+    prismfall::KeepGameOnFailure(recorder, folder);
     prismfall::RecordedGames games(*platform, main, folder);
     if (!fault.empty()) {
         prismfall::SdlPlatform::Drop(wishes.watched);  // an error box says so

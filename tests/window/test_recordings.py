@@ -1,4 +1,5 @@
 """Games that are kept: listed, saved, watched, played on with, deleted; and what is no game."""
+import signal
 import subprocess
 
 import harness
@@ -50,6 +51,20 @@ class Recordings(harness.WindowTest):
         dialog.key("Escape")
         run.wait_for_close(GAMES)
         self.end_in_menu(run)
+
+    def test_a_crash_leaves_the_game_and_says_where(self):
+        run = self.start(self.settings(later_run(StartLevel="3")))
+        run.press("CommandArcade")
+        run.wait_for_motion()
+        run.main.click(300, 300)
+        self.assertEqual(run.kill(signal.SIGSEGV), -signal.SIGSEGV)
+        (game,) = self.kept()
+        self.assertIn(str(game), run.said())
+        self.assertIn(" press 1 ", game.read_text())
+        played = subprocess.run([self.program.parent / "prismfall-headless"], input=game.read_bytes(), capture_output=True)
+        self.assertEqual((played.returncode, played.stderr), (0, b""))
+        self.desktop.window(layout.ERROR).key("Return")
+        game.unlink()
 
     def test_what_cannot_be_watched_is_told(self):
         program = self.install(harness.ASSETS / "pictures")
