@@ -10,6 +10,7 @@
 #include <string_view>
 #include <utility>
 
+#include "app/Failure.h"
 #include "app/KeepGames.h"
 #include "app/ReadGame.h"
 #include "app/RecordedGames.h"
@@ -41,6 +42,19 @@ fs::path FindPictures() {
     return folder / kPictureFolders.front();
 }
 
+// Desktops start a program that opens a file in that file's folder. Where the music is beside the program, that is the
+// folder to be in. Relative names of files hold for the folder that it was started in.
+std::string EnterMusicFolder(const std::string& file) {
+    std::error_code ignored;
+    const fs::path folder = ProgramFolder();
+    if (fs::exists("music", ignored) || !fs::exists(folder / "music", ignored)) return file;
+    const fs::path path(reinterpret_cast<const char8_t*>(file.c_str()));
+    const std::u8string absolute =
+        !file.empty() && fs::exists(path, ignored) ? fs::absolute(path, ignored).u8string() : path.u8string();
+    fs::current_path(folder, ignored);
+    return {absolute.begin(), absolute.end()};
+}
+
 struct CommandLine {
     bool isValid = true;
     bool mustWatch = false;    // without a game to watch, exit at once
@@ -58,11 +72,12 @@ CommandLine ParseCommandLine(std::span<char* const> arguments) {
 }  // namespace
 
 int main(int count, char** words) {
-    const CommandLine options = ParseCommandLine({words, static_cast<std::size_t>(count)});
+    CommandLine options = ParseCommandLine({words, static_cast<std::size_t>(count)});
     if (!options.isValid) {
         std::cerr << "usage: prismfall [[--watch] FILE-OR-LINK]\n";
         return 1;
     }
+    options.watched = EnterMusicFolder(options.watched);
     prismfall::Recording watched;
     std::string fault;
     if (!options.watched.empty()) fault = prismfall::ReadGame(options.watched, watched);
@@ -79,6 +94,7 @@ int main(int count, char** words) {
     const prismfall::RecordingFolder folder(prismfall::RecordingFolder::UsersFolder());
     const prismfall::GameRecorder recorder(
         main, [&](const prismfall::PlayedGame& game) { prismfall::KeepGame(folder, main, game); });
+    prismfall::KeepGameOnFailure(recorder, folder);
     prismfall::RecordedGames games(*platform, main, folder);
     if (!fault.empty()) {
         prismfall::SdlPlatform::Drop(options.watched);  // an error box says so

@@ -9,7 +9,9 @@
 #include "game/GrowthTick.h"
 #include "game/Modes.h"
 #include "game/RunForward.h"
+#include "game/StateDump.h"
 #include "platform/Numbers.h"
+#include "recording/Recorder.h"
 #include "simulation/BeamRemoval.h"
 #include "simulation/CollisionDetection.h"
 #include "simulation/Playfield.h"
@@ -98,6 +100,40 @@ void TickBaseline(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * kTicksAtATime);
 }
 BENCHMARK(TickBaseline);
+
+// The same ticks by the timer, recorded or not. Five seconds are 67 ticks, so the recorder's checks are among them.
+struct TimedField : BusyField {
+    TimedField() {
+        machine.Timers().SetTickHandler([this](Timer) { ExtendLines(main); });
+        machine.Timers().SetInterval(Timer::LineExtender, kInterval);
+        machine.Timers().Start(Timer::LineExtender);
+    }
+    void Run(benchmark::State& state) {
+        for (auto _ : state) {
+            for (int tick = 0; tick < kTicksAtATime; ++tick) {
+                machine.Run(kInterval);
+                TakeDamage();
+            }
+            RewindAll();
+        }
+        state.SetItemsProcessed(state.iterations() * kTicksAtATime);
+    }
+    static constexpr int kInterval = 75;  // milliseconds
+};
+
+void RecordedTick(benchmark::State& state) {
+    TimedField field;
+    Recorder recorder(field.machine.Timers(), [&](Printer& out) { PrintDump(out, field.main); });
+    field.machine.Timers().SetListener(&recorder);
+    recorder.Begin("recording 1\n");
+    field.Run(state);
+    if (recorder.Text().size() < 100) state.SkipWithError("nothing was recorded");
+    field.machine.Timers().SetListener(nullptr);
+}
+BENCHMARK(RecordedTick);
+
+void RecordedTickBaseline(benchmark::State& state) { TimedField().Run(state); }
+BENCHMARK(RecordedTickBaseline);
 
 // A thousand beams all over the field, and test points that hit none of them: every search runs to the end.
 struct CrowdedField : Pair {

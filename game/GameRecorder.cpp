@@ -59,7 +59,9 @@ void GameRecorder::Ends(VMain& main, GameEnding ending) {
     if (keep) keep({recorder.Text(), begunAs, ending, main.CurrentPuzzle, main.Score, main.Level, length});
 }
 
-std::string GameRecorder::TextSoFar() const { return recorder.IsRecording() ? recorder.Text() : std::string(); }
+std::string_view GameRecorder::TextSoFar() const {
+    return recorder.IsRecording() ? std::string_view(recorder.Text()) : std::string_view();
+}
 
 std::string EndingWords(const VMain& main, GameEnding ending) {
     if (ending == GameEnding::Left) return "left";

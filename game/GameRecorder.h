@@ -34,8 +34,8 @@ class GameRecorder final : public GameLog {
     void Begins(VMain& main, GameKind kind) override;
     void Ends(VMain& main, GameEnding ending) override;
 
-    // The recording so far of the game in progress; empty if there is none.
-    std::string TextSoFar() const;
+    // The recording so far of the game in progress; empty if there is none. Valid until the next handler.
+    std::string_view TextSoFar() const;
 
   private:
     VMain& game;

@@ -105,6 +105,7 @@ std::string StartLines(VMain& main, GameKind kind) {
 }
 
 std::string StartRecordedGame(VMain& main, const Recording& recording) {
+    for (const StartMember& member : kMembers) member.set(main, static_cast<std::int16_t>(member.atStart));
     for (const StartValue& value : recording.values)
         if (std::string fault = RestoreNumber(main, value); !fault.empty()) return fault;
     ShowNumber(main.VHighScore, main.HighScore);

@@ -88,8 +88,16 @@ bool TimerWheel::TickWithin(std::optional<Nanoseconds> limit) {
 }
 
 void TimerWheel::RenewMoment() {
+    Nanoseconds moment = MomentAt(time.Now());
+    for (const State& state : states)
+        if (state.isOn && state.interval.count() > 0) moment = std::min(moment, state.due);
+    RenewMomentAt(std::max(moment, lastMoment));
+}
+
+void TimerWheel::RenewMomentAt(Nanoseconds moment) {
     if (!running) return;
-    running = Handler{.moment = MomentAt(time.Now()), .hasLetEventsRun = true};
+    running = Handler{.moment = moment, .hasLetEventsRun = true};
+    lastMoment = std::max(lastMoment, moment);
     if (listener != nullptr) listener->MomentRenewed(MomentInMilliseconds());
 }
 

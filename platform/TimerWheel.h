@@ -72,7 +72,9 @@ class TimerWheel {
         return worked;
     }
 
-    // Sets the running handler's moment to the current game time: a dialog that it opened has closed.
+    // Sets the running handler's moment to the current game time: a dialog that it opened has closed. Not beyond the time
+    // at which any timer is due: if that is long past, the next reading of the clock turns the time since into a stall,
+    // and moments never go back.
     void RenewMoment();
 
     // --- For a clock that is set by hand and never late.
@@ -81,6 +83,8 @@ class TimerWheel {
     void TickFirst();
     // The same, but the tick's moment is its due time, even if that has passed.
     void TickFirstAtItsTime() { Tick(*First(), *NextDue()); }
+    // Sets the running handler's moment.
+    void RenewMomentAt(Nanoseconds moment);
     // Runs a handler at a known moment, such as that of a recorded input. What was due by then has already ticked.
     template <typename Call>
     void HandleAt(Nanoseconds moment, Call handler) {
@@ -114,6 +118,7 @@ class TimerWheel {
       public:
         Running(TimerWheel& owner, Nanoseconds moment) : wheel(owner), outer(owner.running) {
             wheel.running = Handler{moment};
+            wheel.lastMoment = std::max(wheel.lastMoment, moment);
         }
         ~Running() { wheel.running = outer; }
         Running(const Running&) = delete;
@@ -147,6 +152,7 @@ class TimerWheel {
     std::optional<Handler> running;
     Nanoseconds lastReading{0};
     Nanoseconds lastTick{Nanoseconds::min()};  // its moment
+    Nanoseconds lastMoment{Nanoseconds::min()};
 };
 
 }  // namespace prismfall

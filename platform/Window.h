@@ -53,6 +53,15 @@ struct Pointer {
     float y = 0;
 };
 
+// What is shown beside the window's picture where the desktop gives the window more room than that needs.
+struct Aside {
+    std::string text = {};            // lines, each ends with a line feed except for the last
+    std::optional<float> share = {};  // of a bar that is filled, 0 to 1
+    bool hasRoom = false;             // set by a backend that shows it
+
+    bool IsEmpty() const { return text.empty() && !share; }
+};
+
 enum class MouseButton : std::int16_t { Left = 1, Right = 2 };
 
 constexpr std::int16_t kEscapeKey = 27;
@@ -93,6 +102,7 @@ struct Window {
     bool isErrorBox = false;         // opened by a backend, and not part of the game
     std::vector<Element*> elements;  // stacking order, later ones on top
     KeyChoice choice;                // see KeyInput.h
+    Aside aside;
     Pointer pointer;
     WindowHandlers on;
 

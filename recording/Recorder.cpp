@@ -1,5 +1,7 @@
 #include "recording/Recorder.h"
 
+#include <algorithm>
+
 #include "recording/Recording.h"
 
 namespace prismfall {
@@ -38,6 +40,7 @@ void Recorder::Begin(std::string_view head) {
     ofLines.Print(head);
     origin = wheel.MomentInMilliseconds();
     nextCheck = kCheckEvery;
+    lastRenewal = 0;
     isRecording = true;
 }
 
@@ -67,14 +70,16 @@ void Recorder::BeforeInput(const InputEvent& event) {
 }
 
 void Recorder::MomentRenewed(std::int64_t moment) {
-    if (isRecording) Write(RenewalLine(moment - origin));
+    if (!isRecording) return;
+    lastRenewal = moment - origin;
+    Write(RenewalLine(lastRenewal));
 }
 
 // The state after everything before the last full five seconds. If nothing has happened for longer, one check covers it
-// all.
+// all. A handler that has gone on since has a later line already, and moments never go back.
 void Recorder::CheckBefore(std::int64_t moment) {
     const std::int64_t last = moment / kCheckEvery * kCheckEvery;
-    WriteCheck(last);
+    WriteCheck(std::max(last, lastRenewal));
     nextCheck = last + kCheckEvery;
 }
 

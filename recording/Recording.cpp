@@ -66,13 +66,14 @@ std::string WordsOf(const InputEvent& event) {
 
 class Reader {
   public:
-    Reader(std::string_view wholeText, Recording& result) : text(wholeText), recording(result) {}
+    Reader(std::string_view wholeText, Recording& result, bool needsEnd)
+        : text(wholeText), recording(result), mustEnd(needsEnd) {}
 
     std::optional<RecordingFault> Read() {
         if (text.size() > kMostRecordedBytes) return RecordingFault{1, "the recording is too long"};
         recording.text = text;
         ReadHead();
-        while (!fault && !isAtEnd) ReadBody();
+        while (!fault && !recording.isWhole && (mustEnd || at < text.size())) ReadBody();
         if (!fault && at < text.size()) Fail("something follows the end");
         return fault;
     }
@@ -176,7 +177,7 @@ class Reader {
         if (arguments.Name() != "check" && arguments.Name() != "end") return Fail("no such line: " + arguments.Name());
         // What follows these moments is compared as text when the game is played again.
         Moment(arguments);
-        isAtEnd = arguments.Name() == "end";
+        recording.isWhole = arguments.Name() == "end";
     }
 
     void ReadEvent(Arguments& arguments) {
@@ -220,9 +221,9 @@ class Reader {
 
     std::string_view text;
     Recording& recording;
+    const bool mustEnd;
     std::size_t at = 0;
     int line = 0;
-    bool isAtEnd = false;
     std::optional<RecordingFault> fault;
 };
 
@@ -230,7 +231,12 @@ class Reader {
 
 std::optional<RecordingFault> ReadRecording(std::string_view text, Recording& recording) {
     recording = {};
-    return Reader(text, recording).Read();
+    return Reader(text, recording, true).Read();
+}
+
+std::optional<RecordingFault> ReadRecordingSoFar(std::string_view text, Recording& recording) {
+    recording = {};
+    return Reader(text, recording, false).Read();
 }
 
 std::string WithFewChecks(std::string_view text) {

@@ -49,6 +49,7 @@ struct Recording {
     std::int64_t length = 0;  // milliseconds
     std::string text;
     std::size_t headBytes = 0;  // of the text, up to and including the seed's line
+    bool isWhole = false;       // its end has been read
 };
 
 // Why a text is not a recording, in words for people.
@@ -59,6 +60,8 @@ struct RecordingFault {
 
 // Parses a text, which may come from anywhere: whatever is wrong with it, the fault names the first bad line.
 std::optional<RecordingFault> ReadRecording(std::string_view text, Recording& recording);
+// The same for the beginning of a text, which has whole lines, at least up to the seed's.
+std::optional<RecordingFault> ReadRecordingSoFar(std::string_view text, Recording& recording);
 
 // The first words of two kinds of lines.
 constexpr std::string_view kCheckWord = "check ";

@@ -32,9 +32,9 @@ void HeadlessPlatform::TickThrough(Nanoseconds moment) {
 
 // If the script has no renewal here, the game has diverged from it, which its next check will show.
 void HeadlessPlatform::RenewMoment() {
-    if (script == nullptr) return timers.RenewMoment();
+    if (script == nullptr) return timers.RenewMomentAt(clock);
     if (const std::optional<Nanoseconds> moment = script->TakeRenewal()) MoveClockTo(*moment);
-    timers.RenewMoment();
+    timers.RenewMomentAt(clock);
 }
 
 // Handlers that let events run may already have moved it further.
@@ -158,7 +158,7 @@ void HeadlessPlatform::LetEventsRun() {
     }
     MoveClockTo(clock + std::chrono::milliseconds(1));
     TickUntil(clock);
-    timers.RenewMoment();
+    timers.RenewMomentAt(clock);
 }
 
 std::int64_t HeadlessPlatform::Clock() { return std::chrono::duration_cast<std::chrono::milliseconds>(clock).count(); }

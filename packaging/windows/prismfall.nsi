@@ -25,6 +25,7 @@ VIAddVersionKey FileVersion "${VERSION}"
 VIAddVersionKey FileDescription "Prismfall Setup"
 VIAddVersionKey LegalCopyright "2026 The Prismfall team, MIT licence"
 
+!define CLASSES "Software\Classes"
 !define LISTED "Software\Microsoft\Windows\CurrentVersion\Uninstall\Prismfall"
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -151,6 +152,11 @@ Section
     WriteRegStr SHCTX "${LISTED}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
     WriteRegDWORD SHCTX "${LISTED}" NoModify 1
     WriteRegDWORD SHCTX "${LISTED}" NoRepair 1
+    WriteRegStr SHCTX "${CLASSES}\.prismfall" "" "Prismfall.Recording"
+    WriteRegStr SHCTX "${CLASSES}\Prismfall.Recording" "" "Prismfall game"
+    WriteRegStr SHCTX "${CLASSES}\Prismfall.Recording\DefaultIcon" "" "$INSTDIR\prismfall.exe,0"
+    WriteRegStr SHCTX "${CLASSES}\Prismfall.Recording\shell\open\command" "" '"$INSTDIR\prismfall.exe" "%1"'
+    ${RefreshShellIcons}
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
     WriteRegDWORD SHCTX "${LISTED}" EstimatedSize $0
 SectionEnd
@@ -207,6 +213,9 @@ Section Uninstall
     !include "${FILES}"
     Delete "$SMPROGRAMS\Prismfall.lnk"
     DeleteRegKey SHCTX "${LISTED}"
+    DeleteRegKey SHCTX "${CLASSES}\.prismfall"
+    DeleteRegKey SHCTX "${CLASSES}\Prismfall.Recording"
+    ${un.RefreshShellIcons}
     ${If} $deleteScores == 1
         SetShellVarContext current
         RMDir /r "$APPDATA\Prismfall"

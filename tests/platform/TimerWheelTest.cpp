@@ -157,6 +157,22 @@ TEST(TimerWheel, HandlersBeginAtWholeMillisecondsAndNoneBeforeAnEarlierOne) {
     EXPECT_EQ(moments({11'960, 12'100, 13'000}), (std::vector<std::int64_t>{12, 12, 13}));
 }
 
+TEST(TimerWheel, NoMomentIsBeforeOneThatAHandlerWasGivenInAStall) {
+    Bench bench;
+    bench.Start(Timer::LineExtender, 75);
+    std::vector<std::int64_t> moments;
+    for (const int clock : {10, 505}) {
+        bench.clock = std::chrono::milliseconds(clock);
+        bench.wheel.Handle([&] {
+            moments.push_back(bench.wheel.MomentInMilliseconds());
+            if (clock == 10) bench.clock = std::chrono::milliseconds(500);
+            bench.wheel.RenewMoment();
+            moments.push_back(bench.wheel.MomentInMilliseconds());
+        });
+    }
+    EXPECT_EQ(moments, (std::vector<std::int64_t>{10, 75, 75, 75}));
+}
+
 TEST(TimerWheel, NothingTicksWhileGameTimeStandsStill) {
     Bench bench;
     bench.Start(Timer::LineExtender, 10);

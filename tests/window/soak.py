@@ -1,12 +1,14 @@
 """Random input from a real mouse and keyboard: clicks, drags, keys, close boxes, minimising, moving the window, in every
-screen and dialog that comes up. The game may end when told to; it may not crash, hang or complain. Meant for a build with
-the sanitizers (script/soak).
+screen and dialog that comes up, some of it where beams end, while the program is halted now and then. The game may end when told
+to; it may not crash, hang or complain, and every recording that it leaves must be true. Meant for a build with the sanitizers
+(script/soak).
 
     python3 tests/window/soak.py PROGRAM SECONDS [SEED]
 """
 import pathlib
 import random
 import signal
+import subprocess
 import sys
 import time
 
@@ -28,8 +30,36 @@ PLACES = [(x + width // 2, y + height // 2) for x, y, width, height in layout.BO
 
 def chosen(chance, number):
     x, y = chance.choice((chance.choice(PLACES), (chance.randrange(802), chance.randrange(602))))
-    keys = ("Escape", "Return", "space", "Tab", "F1", "a", "Left", chance.choice(("alt+F4", "ctrl+c", "b", "c", "d")))
+    keys = ("Escape", "Return", "space", "Tab", "F1", "F2", "g", "a", "Left", chance.choice(("alt+F4", "ctrl+c", "b", "c", "d")))
     return {"W": number, "P": f"{x} {y}", "B": str(chance.choice((1, 1, 1, 1, 3, 3, 2))), "K": chance.choice(keys)}
+
+
+def press_beam(run, chance, number):
+    run.main = desktop.Window(run.desktop, int(number))
+    try:
+        head = run.lowest_head()
+    except desktop.Missing:  # the window has gone, or a part of it is outside the display
+        return
+    if head:
+        run.desktop.mouse("mousemove", "--window", number, *head, "click", chance.choice((1, 1, 1, 3)))
+
+
+def halt(process, chance):
+    process.send_signal(signal.SIGSTOP)
+    time.sleep(chance.choice((0.02, 0.1, 0.3, 1.0)))
+    process.send_signal(signal.SIGCONT)
+
+
+def verify(screen, driver):
+    """Plays all recordings of a run back and deletes them. How many, and what is wrong with them."""
+    files = sorted((screen.folder / ".local/share/prismfall/recordings").glob("*"))
+    wrong = ""
+    for file in files:
+        verdict = subprocess.run([driver, "verify", file], capture_output=True, text=True)
+        if verdict.returncode:
+            wrong += f"{verdict.stdout}{file.read_text()}"
+        file.unlink()
+    return len(files), wrong
 
 
 def play(screen, program, chance, end):
@@ -40,6 +70,10 @@ def play(screen, program, chance, end):
     stop = min(end, time.monotonic() + LONGEST_RUN)
     while run.is_running() and time.monotonic() < stop:
         found = screen.output("xdotool", "search", "--onlyvisible", "--class", "prismfall").split()
+        if found and chance.random() < 0.6:
+            press_beam(run, chance, found[0])
+        if chance.random() < 0.1:
+            halt(run.process, chance)
         for number in found[-2:] or screen.output("xdotool", "search", "--name", f"^{layout.MAIN}$").split():
             words = [] if found else ["windowmap", number, "windowactivate", number]  # with its button in the taskbar
             for action in chance.choices(list(ACTIONS), list(ACTIONS.values()), k=4):
@@ -55,7 +89,11 @@ def play(screen, program, chance, end):
 program, seconds = pathlib.Path(sys.argv[1]).resolve(), float(sys.argv[2])
 seed = int(sys.argv[3]) if len(sys.argv) > 3 else int(time.time())
 screen, chance, end = desktop.Desktop(), random.Random(seed), time.monotonic() + seconds
+verified = 0
 while time.monotonic() < end:
     wrong = play(screen, program, chance, end)
-    if wrong:
-        sys.exit(f"seed {seed}: {wrong}")
+    count, differences = verify(screen, program.parent / "prismfall-headless")
+    verified += count
+    if wrong or differences:
+        sys.exit(f"seed {seed}: {wrong}{differences}")
+print(f"{verified} of {verified} recordings are true")

@@ -100,14 +100,15 @@ struct HeadlessDriver::Command {
 
 std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
     using Driver = HeadlessDriver;
-    static constexpr std::array<Command, 28> kCommands = {{
+    static constexpr std::array<Command, 29> kCommands = {{
         {"setting", 3, 3, false, [](Driver& driver, Arguments& words) { driver.PutSetting(words); }},
         {"random", 1, kAnyNumber, false, [](Driver& driver, Arguments& words) { driver.QueueRandoms(words); }},
         {"seed", 1, 1, false,
          [](Driver& driver, Arguments& words) {
-             const std::int64_t number = words.WholeNumber(0, std::numeric_limits<std::int64_t>::max());
-             if (words.IsGood()) driver.platform.BeginRandom(static_cast<std::uint64_t>(number));
+             const std::int64_t from = words.WholeNumber(0, std::numeric_limits<std::int64_t>::max());
+             if (words.IsGood()) driver.platform.BeginRandom(static_cast<std::uint64_t>(from));
          }},
+        {"recording", 1, 1, false, [](Driver& driver, Arguments& words) { driver.BeginRecording(words); }},
         {"music", 1, 1, false, [](Driver& driver, Arguments& words) { driver.ChooseMusic(words); }},
         {"load", 0, 0, false, [](Driver& driver, Arguments& words) { driver.Load(words); }},
         {"activate", 0, 0, true, [](Driver& driver, Arguments&) { driver.main->window.on.activate(); }},
@@ -150,8 +151,23 @@ std::span<const HeadlessDriver::Command> HeadlessDriver::Commands() {
 }
 
 std::string HeadlessDriver::Execute(std::string_view line) {
+    ++number;
     const Words words = SplitWords(line);
     if (words.empty()) return {};
+    if (IsOfRecording(words[0])) {
+        AddToRecording(words);
+        return words[0] == "end" ? PlayRecording() : std::string();
+    }
+    if (std::string fault = PlayRecording(); !fault.empty()) return fault;
+    return Blame(number, ExecuteCommand(words));
+}
+
+std::string HeadlessDriver::Blame(int line, std::string reason) {
+    lineOfFault = line;
+    return reason;
+}
+
+std::string HeadlessDriver::ExecuteCommand(const Words& words) {
     const auto command = std::ranges::find(Commands(), std::string_view(words[0]), &Command::name);
     if (command == Commands().end()) return "unknown command: " + words[0];
     Arguments arguments(words);
@@ -159,8 +175,51 @@ std::string HeadlessDriver::Execute(std::string_view line) {
     if (arguments.Left() > command->mostWords) return "too many words";
     if (command->needsProgram && !IsRunning()) return "the program is not running";
     command->execute(*this, arguments);
-    if (platform.HasEnded()) main.reset();
+    if (platform.HasEnded()) EndRun();
     return arguments.Fault();
+}
+
+// --- Recorded games.
+
+void HeadlessDriver::BeginRecording(Arguments& words) {
+    const Words line = {words.Name(), words.Word()};
+    Load(words);
+    if (!words.IsGood()) return;
+    game.emplace();
+    AddToRecording(line);
+}
+
+bool HeadlessDriver::IsOfRecording(std::string_view command) const {
+    constexpr std::array<std::string_view, 6> kHead = {"program", "arcade", "puzzle", "solution", "timer", "seed"};
+    constexpr std::array<std::string_view, 3> kBody = {"at", "check", "end"};
+    if (!game) return false;
+    return game->hasHead ? std::ranges::count(kBody, command) > 0 : std::ranges::count(kHead, command) > 0;
+}
+
+void HeadlessDriver::AddToRecording(const Words& words) {
+    for (std::size_t i = 0; i < words.size(); ++i) game->text += (i > 0 ? " " : "") + words[i];
+    game->text += '\n';
+    game->numbers.push_back(number);
+    if (words[0] == "seed") game->hasHead = true;
+}
+
+// Without a check a game may also be written by hand: there is nothing to compare.
+std::string HeadlessDriver::PlayRecording() {
+    if (!game) return {};
+    const auto lineOf = [&](int line) {
+        return game->numbers[std::min(static_cast<std::size_t>(line), game->numbers.size()) - 1];
+    };
+    if (const auto fault = ReadRecordingSoFar(game->text, game->recording))
+        return Blame(lineOf(fault->line), fault->reason);
+    if (!game->replay) game->replay.emplace(platform, *main, game->recording);
+    Replay& replay = *game->replay;
+    replay.SetComparing(game->recording.isWhole || game->text.find("\ncheck ") != std::string::npos);
+    replay.Play();
+    const std::optional<ReplayFault> fault = replay.Fault();
+    const int line = fault ? lineOf(fault->line) : number;
+    if (fault || game->recording.isWhole) game.reset();
+    if (platform.HasEnded()) EndRun();
+    return fault ? Blame(line, WordsOf(*fault)) : std::string();
 }
 
 // --- The program and its environment.
@@ -173,10 +232,15 @@ void HeadlessDriver::Load(Arguments& words) {
     platform.Open(main->window);
 }
 
+void HeadlessDriver::EndRun() {
+    game.reset();
+    main.reset();
+}
+
 void HeadlessDriver::Close() {
     main->window.on.queryUnload();
     main->window.on.unload();
-    main.reset();
+    EndRun();
 }
 
 void HeadlessDriver::PutSetting(Arguments& words) {
@@ -193,7 +257,7 @@ void HeadlessDriver::QueueRandoms(Arguments& words) {
         if (numbers.back() < 0 || numbers.back() >= 1) words.Fail("out of range: " + word);
     }
     if (!words.IsGood()) return;
-    for (const double number : numbers) platform.QueueRandom(number);
+    for (const double random : numbers) platform.QueueRandom(random);
 }
 
 void HeadlessDriver::QueueAnswers(Arguments& words) {
@@ -288,15 +352,15 @@ void HeadlessDriver::StartPuzzle(Arguments& words, bool isSolution) {
 
 int RunScript(std::istream& script, std::ostream& output, std::ostream& errors) {
     HeadlessDriver driver(output);
-    std::string line;
-    for (int number = 1; std::getline(script, line); ++number) {
-        const std::string fault = driver.Execute(line);
-        if (fault.empty()) continue;
+    const auto isGood = [&](const std::string& fault) {
+        if (fault.empty()) return true;
         output.flush();
-        errors << "error: line " << number << ": " << fault << '\n';
-        return 2;
-    }
-    return 0;
+        errors << "error: line " << driver.LineOfFault() << ": " << fault << '\n';
+        return false;
+    };
+    for (std::string line; std::getline(script, line);)
+        if (!isGood(driver.Execute(line))) return 2;
+    return isGood(driver.Finish()) ? 0 : 2;
 }
 
 }  // namespace prismfall

@@ -4,14 +4,18 @@
 
 #include <istream>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "backends/headless/HeadlessPlatform.h"
 #include "game/VMain.h"
+#include "recording/Recording.h"
 #include "recording/ScriptWords.h"
+#include "tools/replay/Replay.h"
 
 namespace prismfall {
 
@@ -21,14 +25,36 @@ class HeadlessDriver {
 
     // Executes one line. Returns why it cannot be executed, or nothing; whatever was printed before that stays.
     std::string Execute(std::string_view line);
+    // The script has ended: a recorded game that was cut off is played as far as it goes. Returns as Execute does.
+    std::string Finish() { return PlayRecording(); }
+    // The number of the line, from 1, that was to blame when the last call returned a reason.
+    int LineOfFault() const { return lineOfFault; }
 
   private:
     struct Command;
+
+    // A recorded game, from its line `recording` to its `end`. Handlers can need lines that follow, so the lines are
+    // collected, and played when another command comes or the end.
+    struct RecordedGame {
+        Recording recording;
+        std::string text;
+        std::vector<int> numbers;  // of its lines in the script
+        std::optional<Replay> replay;
+        bool hasHead = false;
+    };
+
     static std::span<const Command> Commands();
 
     bool IsRunning() const { return main != nullptr; }
+    bool IsOfRecording(std::string_view command) const;
+    std::string ExecuteCommand(const Words& words);
+    std::string Blame(int line, std::string reason);
+    void EndRun();
+    void AddToRecording(const Words& words);
+    std::string PlayRecording();
 
     void Load(Arguments& words);
+    void BeginRecording(Arguments& words);
     void PutSetting(Arguments& words);
     void QueueRandoms(Arguments& words);
     void QueueAnswers(Arguments& words);
@@ -50,6 +76,9 @@ class HeadlessDriver {
     std::ostream& out;
     HeadlessPlatform platform;
     std::unique_ptr<VMain> main;  // null while the program is not running
+    std::optional<RecordedGame> game;
+    int number = 0;  // of the line
+    int lineOfFault = 0;
 };
 
 // Runs a whole script. Returns the exit status: 0, or 2 after a bad line, which is reported on `errors`.

@@ -1,6 +1,8 @@
 #include "tools/replay/Replay.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 
 #include "game/GameRecorder.h"
 #include "game/GameStart.h"
@@ -18,6 +20,13 @@ int LineAt(const std::string& text, std::size_t place) {
 }
 
 }  // namespace
+
+std::string WordsOf(const ReplayFault& fault) {
+    if (!fault.reason.empty()) return fault.reason;
+    std::array<char, 40> words{};
+    std::snprintf(words.data(), words.size(), "differs at %.3f s", static_cast<double>(fault.moment) / 1000);
+    return words.data();
+}
 
 Replay::Replay(HeadlessPlatform& playedOn, VMain& played, const Recording& recorded)
     : machine(playedOn),
@@ -50,7 +59,7 @@ void Replay::PlayUntil(std::int64_t moment) {
     machine.TickThrough(end);
     if (!IsOver()) machine.MoveClockTo(end);
     Compare();
-    if (moment >= recording.length && !IsOver()) {
+    if (recording.isWhole && moment >= recording.length && !IsOver()) {
         recorder.End("left");  // when the program ended
         Compare();
     }
@@ -132,7 +141,7 @@ void Replay::Ends(VMain& ended, GameEnding ending) {
 
 // Line by line. The checks in between may be missing from the recording, since the last one covers them too.
 void Replay::Compare() {
-    while (!IsOver() && compared < recorder.Text().size()) {
+    while (isComparing && !IsOver() && compared < recorder.Text().size()) {
         const std::string_view anew = std::string_view(recorder.Text()).substr(compared);
         const std::string_view line = anew.substr(0, anew.find('\n') + 1);
         const std::string_view rest = std::string_view(recording.text).substr(matched);

@@ -19,12 +19,16 @@ namespace prismfall {
 struct ReplayFault {
     int line = 0;             // of the recording, from 1
     std::int64_t moment = 0;  // milliseconds since the game began
-    std::string reason;
+    std::string reason;       // empty for a difference
 };
+
+// "differs at 12.350 s", or the reason.
+std::string WordsOf(const ReplayFault& fault);
 
 class Replay final : private HeadlessScript, private HandlerListener, private GameLog {
   public:
-    // `played` is a program that runs on the machine, in its main menu. All three must outlive this.
+    // `played` is a program that runs on the machine, in its main menu. All three must outlive this. A recording that
+    // is not whole may grow between calls.
     Replay(HeadlessPlatform& playedOn, VMain& played, const Recording& recorded);
     ~Replay() override;
 
@@ -33,6 +37,8 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     void PlayUntil(std::int64_t moment);
     // To the end.
     void Play();
+    // Whether what has been played is compared with the recording. Initially it is.
+    void SetComparing(bool isOn) { isComparing = isOn; }
 
     std::int64_t Moment() const;
     bool IsOver() const { return isOver || fault; }
@@ -69,6 +75,7 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     std::size_t matched = 0;   // bytes of the recording
     std::int64_t work = 0;     // beams moved
     bool isOver = false;
+    bool isComparing = true;
     std::optional<ReplayFault> fault;
 };
 

@@ -27,7 +27,7 @@ std::string LineWords(const RecordingFault& fault) { return Printed("line %d: ",
 
 std::string Difference(const ReplayFault& fault) {
     if (!fault.reason.empty()) return LineWords({fault.line, fault.reason});
-    return Printed("differs at %.3f s (line %d)", static_cast<double>(fault.moment) / 1000, fault.line);
+    return WordsOf(fault) + Printed(" (line %d)", fault.line);
 }
 
 std::string Result(const VMain& main, const Recording& recording) {

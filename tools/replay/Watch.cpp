@@ -17,13 +17,14 @@ namespace {
 
 constexpr int kTick = 10;                 // milliseconds
 constexpr std::int64_t kStep = 10'000;    // milliseconds, back and forth
-constexpr std::int64_t kLineTicks = 800;  // how long the line about keys stays
+constexpr std::int64_t kLineTicks = 800;  // how long the lines about keys stay
 constexpr int kFullPace = 100;            // percent, of game time
 
-// Of the line: at the foot of the playfield, game pixels.
-constexpr float kLineLeft = 30;
-constexpr float kLineTop = 556;
-constexpr int kLineWidth = 620;
+// Of the lines: in the panel beside the playfield, between the scores and the buttons, where nothing else is.
+constexpr float kLinesLeft = 690;
+constexpr float kLinesTop = 116;
+constexpr int kLinesWidth = 112;
+constexpr int kLinesHeight = 106;
 
 std::string Clock(std::int64_t milliseconds) {
     std::array<char, 32> text{};
@@ -146,6 +147,7 @@ bool Watch::GiveBack() {
     for (const TimerName& row : kTimerNames) main.platform.SetTimerInterval(row.timer, IntervalAtStart(row.timer));
     main.platform.SetTickHandler([&player = main](Timer timer) { TickTimer(player, timer); });
     for (std::size_t i = 0; i < elements.size(); ++i) *main.window.elements[i] = elements[i];
+    main.window.aside = {};
     return true;
 }
 
@@ -218,17 +220,26 @@ void Watch::Tick() {
 
 void Watch::Show() {
     stage->Mirror(main);
-    main.LabelPace.visible = showsLine && (isPaused || stage->IsOver() || ticks < kLineTicks);
-    main.LabelPace.text = Line();
-    main.LabelPace.left = kLineLeft;
-    main.LabelPace.top = kLineTop;
-    main.LabelPace.width = kLineWidth;
+    const bool isTold = isPaused || stage->IsOver() || ticks < kLineTicks;
+    Aside& aside = main.window.aside;
+    aside.text = isTold ? Position() + Keys() : Position();
+    aside.share = recording.length > 0 ? static_cast<float>(position) / static_cast<float>(recording.length) : 1;
+    main.LabelPace.visible = showsLine && isTold && !aside.hasRoom;
+    main.LabelPace.text = aside.text;
+    main.LabelPace.left = kLinesLeft;
+    main.LabelPace.top = kLinesTop;
+    main.LabelPace.width = kLinesWidth;
+    main.LabelPace.height = kLinesHeight;
 }
 
-std::string Watch::Line() const {
-    std::string line = Clock(position) + " of " + Clock(recording.length);
-    if (pace > 1) line += ", " + std::to_string(pace) + " times as fast";
-    return line + ". P: pause, Page Up, Down: 10 s, right button: pace, G: play on, Esc: leave";
+std::string Watch::Position() const {
+    const std::string line = Clock(position) + " of " + Clock(recording.length);
+    return pace > 1 ? line + "\n" + std::to_string(pace) + " times as fast" : line;
+}
+
+std::string Watch::Keys() const {
+    return std::string(isPaused ? "\nP: go on" : "\nP: pause") + "\nPage keys: 10 s\nRight button: pace" +
+           (stage->IsOver() ? "" : "\nG: play on") + "\nEsc: leave";
 }
 
 void Watch::Press(MouseButton button) {

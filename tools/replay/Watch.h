@@ -32,8 +32,9 @@ class Watch final : private GameLog {
   public:
     // Takes over the window, the timers and the surface of `player`, a program that is in its main menu, until Leave.
     // While one watches, P or a left press pauses, Page Up and Page Down go ten seconds back and forth, a right press
-    // changes the pace, R begins again, G or a double click goes on with the game and Esc leaves; a line in the window
-    // says so at first and in every pause. A page, which has controls of its own, does without the line.
+    // changes the pace, R begins again, G or a double click goes on with the game and Esc leaves; lines beside the
+    // playfield, or beside the whole picture where there is room, say so at first and in every pause. A page, which has
+    // controls of its own, does without the lines.
     Watch(VMain& player, Recording recorded, bool hasLine = true);
     ~Watch() override;
 
@@ -58,13 +59,15 @@ class Watch final : private GameLog {
     void EndPlayedOn();
 
     void TakeWindow();
+    // Gives back the window and the timers, with no game in progress. Returns false if that has been done.
     bool GiveBack();
     void Tick();
     void Show();
     void Begin();
     void Press(MouseButton button);
     void Command(Key key);
-    std::string Line() const;
+    std::string Position() const;
+    std::string Keys() const;
 
     VMain& main;
     const Recording recording;
@@ -74,7 +77,7 @@ class Watch final : private GameLog {
     GameNumbers numbers;            // the player's
     GameLog* log = nullptr;         // the player's, while a game is played on
     std::int64_t position = 0;      // milliseconds of the game that is shown
-    std::int64_t ticks = 0;         // since the line was shown
+    std::int64_t ticks = 0;         // since the lines were shown
     int pace = 1;
     bool isPaused = false;
     bool isWatching = true;

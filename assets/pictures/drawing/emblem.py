@@ -37,6 +37,14 @@ def icon(size):
     return svg.replace('width="64" height="64" viewBox', f'width="{size}" height="{size}" viewBox', 1)
 
 
+def recording():
+    """A file of a recorded game: a sheet with a folded corner and the icon on it."""
+    sheet = ('<path d="M10 2 H40 L54 16 V62 H10 Z" fill="#e4ecff" stroke="#6f8fd0" stroke-width="1.6" stroke-linejoin="round"/>'
+             '<path d="M40 2 V16 H54 Z" fill="#b4c8f4" stroke="#6f8fd0" stroke-width="1.6" stroke-linejoin="round"/>')
+    tile = rounded(2, 2, 60, 60, 13, 'fill="url(#tile)" stroke="#4f86ff" stroke-width="2.2"')
+    return document(64, 64, f'{sheet}<g transform="translate(13 20) scale(0.6)">{tile}{large_emblem()}</g>', EMBLEM_DEFS)
+
+
 def falling(starts, top, fall, colours):
     """The paths of beams side by side, going down to the right."""
     return [(f"M{x} {top} L{x + fall} {top + fall}", colour) for x, colour in zip(starts, colours)]

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "backends/sdl/desktop/DesktopHints.h"
 
@@ -87,7 +88,6 @@ void SdlWindow::FitTo(const SDL_Surface& shown) {
 }
 
 void SdlWindow::BlackenMargins(SDL_Surface& shown) {
-    marginsLost = false;
     const PixelBox& box = fit.box;
     const std::array<SDL_Rect, 4> margins = {{{0, 0, shown.w, box.top},
                                               {0, box.bottom, shown.w, shown.h - box.bottom},
@@ -98,6 +98,23 @@ void SdlWindow::BlackenMargins(SDL_Surface& shown) {
         SDL_FillRect(&shown, &margin, SDL_MapRGB(shown.format, 0, 0, 0));
         presented.push_back(margin);
     }
+}
+
+void SdlWindow::RefreshMargins(SDL_Surface& shown, SDL_Surface& drawn) {
+    if (marginsLost) BlackenMargins(shown);
+    const PixelBox box = note.Update(window, shownSize, fit, display, std::exchange(marginsLost, false));
+    if (box.IsEmpty()) return;
+    Canvas canvas(static_cast<std::uint32_t*>(drawn.pixels), drawn.w, drawn.h, drawn.pitch / 4);
+    canvas.SetClip(box);
+    canvas.Fill(box, PixelOf(kBlack));
+    note.Draw(canvas, display);
+    Present(box, shown, drawn);
+}
+
+void SdlWindow::Present(const PixelBox& box, SDL_Surface& shown, SDL_Surface& drawn) {
+    SDL_Rect area{box.left, box.top, box.right - box.left, box.bottom - box.top};
+    if (&drawn != &shown) SDL_BlitSurface(&drawn, &area, &shown, &area);
+    presented.push_back(area);
 }
 
 void SdlWindow::ToggleFullScreen() {
@@ -115,7 +132,7 @@ void SdlWindow::Refresh() {
     if (drawn == nullptr) return;
 
     presented.clear();
-    if (marginsLost) BlackenMargins(*shown);
+    RefreshMargins(*shown, *drawn);
     const int width = fit.box.right - fit.box.left;
     const int height = fit.box.bottom - fit.box.top;
     const std::ptrdiff_t stride = drawn->pitch / 4;
@@ -123,9 +140,8 @@ void SdlWindow::Refresh() {
     Canvas canvas(corner, width, height, static_cast<int>(stride));
     for (const PixelBox& box : composer.TakeChanges(width, height)) {
         composer.Compose(canvas, box);
-        SDL_Rect area{fit.box.left + box.left, fit.box.top + box.top, box.right - box.left, box.bottom - box.top};
-        if (drawn != shown) SDL_BlitSurface(drawn, &area, shown, &area);
-        presented.push_back(area);
+        Present({fit.box.left + box.left, fit.box.top + box.top, fit.box.left + box.right, fit.box.top + box.bottom},
+                *shown, *drawn);
     }
     if (presented.empty()) return;
     SDL_UpdateWindowSurfaceRects(Real(), presented.data(), static_cast<int>(presented.size()));

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+#include "backends/sdl/desktop/MarginNote.h"
 #include "backends/sdl/drawing/Composer.h"
 #include "backends/sdl/drawing/PictureFit.h"
 #include "platform/NominalFrame.h"
@@ -71,6 +72,8 @@ class SdlWindow {
     void SetIcon();
     void FitTo(const SDL_Surface& shown);
     void BlackenMargins(SDL_Surface& shown);
+    void RefreshMargins(SDL_Surface& shown, SDL_Surface& drawn);
+    void Present(const PixelBox& box, SDL_Surface& shown, SDL_Surface& drawn);
     SDL_Surface* DrawingSurface(SDL_Surface* shown);
 
     Window& window;
@@ -84,6 +87,7 @@ class SdlWindow {
     float pixelsPerPoint = 1;
     PictureFit fit;
     bool marginsLost = true;
+    MarginNote note;
 };
 
 }  // namespace prismfall

@@ -49,8 +49,11 @@ fs::path RecordingFolder::UsersFolder() {
 
 std::string RecordingFolder::Keep(std::string_view title, const std::string& text) const {
     if (folder.empty()) return "there is no home folder";
-    const fs::path file = folder / (Now() + ' ' + std::string(title) + std::string(kEnding));
-    return ChangeFile(file, [&text](const std::string&) { return text; });
+    return ChangeFile(FileFor(title), [&text](const std::string&) { return text; });
+}
+
+fs::path RecordingFolder::FileFor(std::string_view title) const {
+    return folder / (Now() + ' ' + std::string(title) + std::string(kEnding));
 }
 
 fs::path RecordingFolder::File(std::string_view name) const {

@@ -19,6 +19,8 @@ class RecordingFolder {
     // Writes a file named after the present time and `title`, in one step. Returns why it could not be written, in the
     // system's words, or nothing.
     std::string Keep(std::string_view title, const std::string& text) const;
+    // The file that Keep would write now.
+    std::filesystem::path FileFor(std::string_view title) const;
     // The names of all files, the newest first.
     std::vector<std::string> Names() const;
     std::filesystem::path File(std::string_view name) const;

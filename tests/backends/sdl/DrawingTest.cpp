@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "backends/sdl/desktop/MarginNote.h"
 #include "backends/sdl/drawing/ElementPainter.h"
 #include "backends/sdl/drawing/PictureFit.h"
 
@@ -16,6 +17,29 @@ namespace fs = std::filesystem;
 TEST(PictureFitTest, AWholeFactorAndTheWantedScaleAreWorthAPixel) {
     EXPECT_EQ(FitPicture({802, 602}, {1605, 1205}, 1), (PictureFit{2, {0, 0, 1604, 1204}}));
     EXPECT_EQ(FitPicture({802, 602}, {1003, 753}, 1.25F), (PictureFit{1.25F, {0, 0, 1002, 752}}));
+}
+
+TEST(MarginNoteTest, TakesTheBroaderMarginAndNeverReachesOutOfTheWindow) {
+    Window window;
+    window.aside = {.text = "0:10 of 1:00\nP: pause", .share = 0.25F};
+    Display display(PictureStore({}));
+    MarginNote note;
+    const std::initializer_list<std::pair<Extent, PixelBox>> cases = {
+        {{802, 602}, {}},                      // no room
+        {{1202, 602}, {1002, 0, 1202, 602}},   // beside the picture
+        {{802, 702}, {0, 652, 802, 702}},      // below it
+        {{802, 602}, {0, 0, 0, 0}},            // the note is gone, and so is its place
+        {{1002, 1002}, {0, 877, 1002, 1002}},  // of a scaled picture
+    };
+    for (const auto& [size, expected] : cases) {
+        const PictureFit fit = FitPicture({802, 602}, size, 1);
+        display.SetScale(fit.scale);
+        const PixelBox box = note.Update(window, size, fit, display, false);
+        EXPECT_EQ(window.aside.hasRoom, !expected.IsEmpty());
+        EXPECT_EQ(Overlap(box, {0, 0, size.width, size.height}), box);
+        EXPECT_TRUE(note.Update(window, size, fit, display, false).IsEmpty()) << "nothing has changed";
+        EXPECT_EQ(expected.IsEmpty() ? PixelBox{} : box, expected);
+    }
 }
 
 TEST(PictureStoreTest, ReportsExactlyWhatIsWrongWithAPicture) {

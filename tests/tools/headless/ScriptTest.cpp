@@ -69,6 +69,26 @@ TEST(Script, OnlyTheEnvironmentCanBeChangedWhileNoProgramRuns) {
     }
 }
 
+TEST(Script, ARecordedGameSaysInWhichOfTheScriptsLinesItDiffers) {
+    const std::string game =
+        "paint off\nrecording 1\nprogram 1.1.0 # of the day\narcade\n\nseed 5\nat 90 click cmdPause\n";
+    for (const auto& [script, error] : {std::pair{game, std::string()},
+                                        {game + "dump\nat 95 press 1 1 1", ""},
+                                        {game + "check 99 00000000\nat 100 press 1 1 1", "8: differs at 0.100 s"},
+                                        {game + "dump\nat 89 restore", "9: out of range: 89"},
+                                        {game + "dump\nend 99 left", "9: differs at 0.099 s"},
+                                        {game + "close\nat 99 restore", "9: unknown command: at"},
+                                        {game + "recording 1", "8: the program is running already"},
+                                        {"recording 2\ndump", "1: this format needs a newer Prismfall than this one"},
+                                        {"load\nat 5 restore", "2: unknown command: at"},
+                                        {"recording 1\nprogram 1\npuzzle 3", "3: a number is missing"}}) {
+        std::istringstream lines(script);
+        std::ostringstream printed, errors;
+        EXPECT_EQ(RunScript(lines, printed, errors), error.empty() ? 0 : 2) << script;
+        EXPECT_EQ(errors.str(), error.empty() ? error : "error: line " + error + "\n") << script;
+    }
+}
+
 TEST(Script, ASeedReproducesAllRandomnessOfAGame) {
     constexpr char kGame[] = "set GrowthToggle 0\nclick CommandArcade\nrun 20000\ndump\nkey 27\n";
     const auto beamsOfTwoGames = [&](const std::string& secondSeed) {
