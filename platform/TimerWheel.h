@@ -72,9 +72,9 @@ class TimerWheel {
         return worked;
     }
 
-    // Sets the running handler's moment to the current game time: a dialog that it opened has closed. Not beyond the time
-    // at which any timer is due: if that is long past, the next reading of the clock turns the time since into a stall,
-    // and moments never go back.
+    // Sets the running handler's moment to the current game time: a dialog that it opened has closed. Not beyond the
+    // time at which any timer is due: if that is long past, the next reading of the clock turns the time since into a
+    // stall, and moments never go back.
     void RenewMoment();
 
     // --- For a clock that is set by hand and never late.
