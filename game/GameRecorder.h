@@ -24,7 +24,7 @@ struct PlayedGame {
     std::int64_t length = 0;  // milliseconds
 };
 
-// One per run of the program: it listens to the machine as long as it exists, and `main` must outlive it. A solution
+// One per run of the program: it listens to the machine while it exists, and `main` must outlive it. A solution
 // that the program plays is not a game, unless the player takes it over.
 class GameRecorder final : public GameLog {
   public:

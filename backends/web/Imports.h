@@ -154,7 +154,7 @@ struct RecordSizes {
 
 extern "C" {
 
-// --- Time. Waiting is the one call in which the program is suspended and the page goes on.
+// --- Time. Waiting is the one call in which the program is suspended while the page keeps running.
 
 // Milliseconds since some fixed moment; never runs backwards.
 PAGE_IMPORT("now") double Now();

@@ -12,20 +12,20 @@ namespace {
 // Mode and GrowthToggle, or both values; the beams, of which the last takes the step; the beams afterwards; the outcome
 // of the step.
 constexpr char kSteps[] = R"(
-    arcade 1  | 300,53 310,63 red          | 300,53 310,63 red          | goes on
-    arcade 0  | 300,53 310,63 red          | 300,53 311,64 red          | goes on
-    arcade 01 | 300,54 310,64 red          | 309,63 311,65 red          | goes on
-    arcade 01 | 300,55 310,65 red          | 300,55 311,66 red          | goes on
-    puzzle 1  | 300,13 290,23 red          | 300,13 290,23 red          | goes on
-    puzzle 0  | 300,13 290,23 red          | 300,13 289,24 red          | goes on
-    puzzle 01 | 300,14 290,24 red          | 291,23 289,25 red          | goes on
-    puzzle 01 | 300,15 290,25 red stopped  | 300,15 290,25 red stopped  | goes on
-    puzzle 01 | 300,15 290,25 red waiting  | 300,15 290,25 red waiting  | goes on
-    puzzle 01 | 65,300 15,350 blue         | 65,300 14,351 blue         | goes on
+    arcade 1  | 300,53 310,63 red          | 300,53 310,63 red          | continues
+    arcade 0  | 300,53 310,63 red          | 300,53 311,64 red          | continues
+    arcade 01 | 300,54 310,64 red          | 309,63 311,65 red          | continues
+    arcade 01 | 300,55 310,65 red          | 300,55 311,66 red          | continues
+    puzzle 1  | 300,13 290,23 red          | 300,13 290,23 red          | continues
+    puzzle 0  | 300,13 290,23 red          | 300,13 289,24 red          | continues
+    puzzle 01 | 300,14 290,24 red          | 291,23 289,25 red          | continues
+    puzzle 01 | 300,15 290,25 red stopped  | 300,15 290,25 red stopped  | continues
+    puzzle 01 | 300,15 290,25 red waiting  | 300,15 290,25 red waiting  | continues
+    puzzle 01 | 65,300 15,350 blue         | 65,300 14,351 blue         | continues
     puzzle 01 | 64,300 14,350 blue #3      | 64,300 13,351 blue stopped #3; 13,351 13,351 blue #3         | bounced
-    puzzle 01 | 618,300 668,350 blue       | 618,300 669,351 blue       | goes on
+    puzzle 01 | 618,300 668,350 blue       | 618,300 669,351 blue       | continues
     puzzle 01 | 619,300 669,350 blue       | 619,300 670,351 blue stopped; 670,351 670,351 blue left      | bounced
-    puzzle 01 | 100,500 184,584 blue       | 100,500 185,585 blue       | goes on
+    puzzle 01 | 100,500 184,584 blue       | 100,500 185,585 blue       | continues
     puzzle 01 | 100,500 185,585 blue       | 100,500 185,585 blue       | at floor
     puzzle 01 | 9,584 14,589 blue; 34,565 14,585 blue | 9,584 14,589 blue; 34,565 13,586 blue stopped; 13,586 13,586 blue | bounced
     puzzle 01 | 250,100 200,150 green stopped; 150,100 196,146 blue  | 250,100 200,150 green stopped; 150,100 196,146 blue stopped  | stopped

@@ -45,7 +45,7 @@ void ReadBeam(CLine& beam, const std::string& words) {
 }  // namespace
 
 std::string InWords(Outcome outcome) {
-    constexpr std::array<const char*, 5> kWords = {"goes on", "bounced", "at floor", "stopped", "destroyed"};
+    constexpr std::array<const char*, 5> kWords = {"continues", "bounced", "at floor", "stopped", "destroyed"};
     return kWords.at(static_cast<std::size_t>(outcome));
 }
 

@@ -17,7 +17,7 @@ std::string InShort(const CLine& beam);
 // All of Lines, separated by "; ".
 std::string InShort(const Field& field);
 
-// "goes on", "bounced", "at floor", "stopped" or "destroyed".
+// "continues", "bounced", "at floor", "stopped" or "destroyed".
 std::string InWords(Outcome outcome);
 
 // Appends beams given as text to Lines.
