@@ -37,6 +37,7 @@ export default tseslint.config(
                         'document',
                         'window',
                         'location',
+                        'CSSStyleSheet',
                         'localStorage',
                         'navigator',
                         'caches',
