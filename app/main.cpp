@@ -41,33 +41,33 @@ fs::path FindPictures() {
     return folder / kPictureFolders.front();
 }
 
-struct Wishes {
-    bool areGood = true;
+struct CommandLine {
+    bool isValid = true;
     bool mustWatch = false;    // without a game to watch, exit at once
     std::string watched = {};  // a file or a link
 };
 
-Wishes WishesIn(std::span<char* const> arguments) {
+CommandLine ParseCommandLine(std::span<char* const> arguments) {
     if (arguments.size() == 1) return {};
     const bool isOption = std::string_view(arguments[1]) == "--watch";
     if (arguments.size() == 3 && isOption) return {.mustWatch = true, .watched = arguments[2]};
     if (arguments.size() == 2 && arguments[1][0] != '-') return {.watched = arguments[1]};
-    return {.areGood = false};
+    return {.isValid = false};
 }
 
 }  // namespace
 
 int main(int count, char** words) {
-    const Wishes wishes = WishesIn({words, static_cast<std::size_t>(count)});
-    if (!wishes.areGood) {
+    const CommandLine options = ParseCommandLine({words, static_cast<std::size_t>(count)});
+    if (!options.isValid) {
         std::cerr << "usage: prismfall [[--watch] FILE-OR-LINK]\n";
         return 1;
     }
     prismfall::Recording watched;
     std::string fault;
-    if (!wishes.watched.empty()) fault = prismfall::ReadGame(wishes.watched, watched);
+    if (!options.watched.empty()) fault = prismfall::ReadGame(options.watched, watched);
     if (!fault.empty()) std::cerr << fault << '\n';
-    if (!fault.empty() && wishes.mustWatch) return 1;
+    if (!fault.empty() && options.mustWatch) return 1;
     std::string failure;
     const auto platform = prismfall::SdlPlatform::Create(FindPictures(), failure);
     if (!platform) {
@@ -81,8 +81,8 @@ int main(int count, char** words) {
         main, [&](const prismfall::PlayedGame& game) { prismfall::KeepGame(folder, main, game); });
     prismfall::RecordedGames games(*platform, main, folder);
     if (!fault.empty()) {
-        prismfall::SdlPlatform::Drop(wishes.watched);  // an error box says so
-    } else if (!wishes.watched.empty()) {
+        prismfall::SdlPlatform::Drop(options.watched);  // an error box says so
+    } else if (!options.watched.empty()) {
         games.Watch(std::move(watched));
     }
     platform->Run(main.window);

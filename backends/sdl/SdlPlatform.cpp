@@ -203,14 +203,14 @@ bool SdlPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
     isSaving = true;
     const std::string failure = settings.Change(change);
     isSaving = false;
-    if (!failure.empty()) TellOfUnsavedSettings(failure);
+    if (!failure.empty()) ReportUnsavedSettings(failure);
     return failure.empty();
 }
 
 // Shown once: a lasting failure need not be repeated. A box may wait for the player, but not when the system is ending
 // the program.
-void SdlPlatform::TellOfUnsavedSettings(const std::string& failure) {
-    if (std::exchange(isFailedSaveTold, true)) return;
+void SdlPlatform::ReportUnsavedSettings(const std::string& failure) {
+    if (std::exchange(isFailedSaveReported, true)) return;
     if (isEndedBySystem) {
         std::fprintf(stderr, "prismfall: %s\n", failure.c_str());
     } else {

@@ -80,7 +80,7 @@ class SdlPlatform final : public Platform {
     // Records that a signal or the desktop wants the program to end.
     static int SDLCALL NoteEndBySystem(void* self, SDL_Event* event);
     void CloseProgram();
-    void TellOfUnsavedSettings(const std::string& failure);
+    void ReportUnsavedSettings(const std::string& failure);
     bool OpenDialog(Window& dialog);
     // Whether the dialog was already hidden.
     bool CloseDialog(Window& dialog);
@@ -93,7 +93,7 @@ class SdlPlatform final : public Platform {
     Window* main = nullptr;
     std::atomic<bool> isEndedBySystem = false;  // set on whichever thread the event comes from
     std::atomic<bool> isSaving = false;         // the end may come in the middle of a save
-    bool isFailedSaveTold = false;
+    bool isFailedSaveReported = false;
 };
 
 }  // namespace prismfall

@@ -324,14 +324,14 @@ bool WebPlatform::ChangeSettings(std::string_view, const SettingsChange& change)
     const std::string written = ChangedSettings(StoredSettings(), change);
     readValues.reset();
     const bool isWritten = page::WriteSettings(written.data(), static_cast<std::uint32_t>(written.size())) != 0;
-    TellOfSaving(isWritten);
+    ReportSaving(isWritten);
     return isWritten;
 }
 
 // The line disappears when a save succeeds.
-void WebPlatform::TellOfSaving(bool isWritten) {
-    if (isWritten && !isFailedSaveTold) return;
-    isFailedSaveTold = !isWritten;
+void WebPlatform::ReportSaving(bool isWritten) {
+    if (isWritten && !isFailedSaveReported) return;
+    isFailedSaveReported = !isWritten;
     constexpr std::string_view kNotice = "This browser does not let the game save settings and scores.";
     page::ShowNotice(kNotice.data(), isWritten ? 0 : static_cast<std::uint32_t>(kNotice.size()));
 }

@@ -87,7 +87,7 @@ class WebPlatform final : public Platform {
     void Open(Window& window, Place place);
     void SendSurface();
     void SendSpots();
-    void TellOfSaving(bool isWritten);
+    void ReportSaving(bool isWritten);
     void Press(ShownWindow& front, const page::Event& event);
     KeyChoice PlaceToMarkNow();
 
@@ -107,7 +107,7 @@ class WebPlatform final : public Platform {
     TimerWheel timers;
     RandomNumbers random;
     std::optional<SettingsValues> readValues;  // from the store, until it changes
-    bool isFailedSaveTold = false;
+    bool isFailedSaveReported = false;
     bool ended = false;
     std::vector<SurfaceSpot> shownSpots;
     KeyChoice met;              // the head that a finger has touched

@@ -11,9 +11,9 @@
 namespace {
 
 // A script may ask for years of play. Here each gets half a minute in total, and no line may ask for more than is left.
-class Patience {
+class TimeBudget {
   public:
-    bool Endures(const std::string& line) {
+    bool Covers(const std::string& line) {
         if (line.find("run") == std::string::npos && line.find("fire") == std::string::npos) return true;
         const std::size_t digits = line.find_first_of("0123456789");
         const long asked = digits == std::string::npos ? 1 : std::strtol(&line[digits], nullptr, 10);
@@ -32,9 +32,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::istringstream script(std::string(reinterpret_cast<const char*>(data), size));
     std::ostream nowhere(nullptr);
     prismfall::HeadlessDriver driver(nowhere);
-    Patience patience;
+    TimeBudget budget;
     for (std::string line; std::getline(script, line);) {
-        if (!patience.Endures(line)) continue;
+        if (!budget.Covers(line)) continue;
         driver.Execute(line);  // a bad line ends a real run; here the next one may still find something
     }
     return 0;

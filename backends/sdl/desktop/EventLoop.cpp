@@ -89,14 +89,14 @@ void EventLoop::FreezeWhile(const std::function<bool()>& condition) {
     WorkWhile(condition);
 }
 
-void EventLoop::MeetEnd() {
+void EventLoop::HandleEndRequest() {
     if (desktop.IsEndWaiting()) endAsked();
 }
 
 void EventLoop::LetEventsRun() {
     const bool worked = timers.LetEventsRun([this] { return HandleEvents([] { return true; }); });
     SDL_PumpEvents();
-    MeetEnd();
+    HandleEndRequest();
     desktop.Refresh();
     if (worked) return;
     const Nanoseconds now = time.Now();
@@ -108,7 +108,7 @@ void EventLoop::PaintFor(Nanoseconds length) {
     const Nanoseconds end = Now() + length;
     while (Now() < end) {
         SDL_PumpEvents();
-        MeetEnd();
+        HandleEndRequest();
         desktop.Refresh();
         SleepUntil(std::min(end, Now() + kPaintPause));
     }

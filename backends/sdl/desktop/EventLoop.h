@@ -37,7 +37,7 @@ class EventLoop {
     bool HandleEvents(const std::function<bool()>& condition);
     bool HandleEvent();
     void WorkWhile(const std::function<bool()>& condition);
-    void MeetEnd();
+    void HandleEndRequest();
     void Rest();
 
     SdlDesktop& desktop;

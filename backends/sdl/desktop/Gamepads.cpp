@@ -11,7 +11,7 @@ namespace {
 
 // Where a stick, which moves up to 32767, counts as held in a direction, and where as released again.
 constexpr int kHeldFrom = 20000;
-constexpr int kLetGoBelow = 10000;
+constexpr int kReleasedBelow = 10000;
 
 struct ButtonRow {
     std::uint8_t button;
@@ -62,7 +62,7 @@ Key Gamepads::KeyOfStick(const SDL_ControllerAxisEvent& event) {
     if (!isSideways && event.axis != SDL_CONTROLLER_AXIS_LEFTY) return Key::None;
     const int way = std::abs(int{event.value});
     if (held != Key::None) {
-        if (IsSideways(held) == isSideways && way < kLetGoBelow) held = Key::None;
+        if (IsSideways(held) == isSideways && way < kReleasedBelow) held = Key::None;
         return Key::None;
     }
     if (way < kHeldFrom) return Key::None;

@@ -75,7 +75,7 @@ void BreakIn(int) { (*endOfWhatHangs.load())(); }
 
 // Returns false if the system cannot start a thread.
 template <typename... Arguments>
-bool RunBeside(void (*task)(Arguments...), Arguments... arguments) {
+bool StartThread(void (*task)(Arguments...), Arguments... arguments) {
     try {
         std::thread(task, arguments...).detach();
     } catch (const std::system_error&) {
@@ -94,7 +94,7 @@ bool WatchEndSignals() {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         if (!IsIgnored(signal)) sigaddset(&signals, signal);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    isWatching = RunBeside(AnswerSignals, signals);
+    isWatching = StartThread(AnswerSignals, signals);
     if (!isWatching) pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
     return isWatching;
 }
@@ -106,7 +106,7 @@ void DeliverEarlySignal() {
     if (signalCame) PushQuit();
 }
 
-void EndWithConnection(int connection) { RunBeside(AwaitHangUp, connection); }
+void EndWithConnection(int connection) { StartThread(AwaitHangUp, connection); }
 
 void WhenItHangs(std::function<void()> end) {
     struct sigaction action {};

@@ -30,7 +30,7 @@ LRESULT PassOn(HWND window, UINT message, WPARAM word, LPARAM value) {
 }
 
 // Installs a procedure in front of SDL's, which it calls through PassOn.
-void SeeMessagesFirst(HWND window, WNDPROC procedure) {
+void InstallInFront(HWND window, WNDPROC procedure) {
     SetPropW(window, kFormerProcedure, reinterpret_cast<HANDLE>(GetWindowLongPtrW(window, GWLP_WNDPROC)));
     SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
@@ -95,13 +95,13 @@ DesktopFacts AskDesktop() {
 void WhenSessionEnds(std::function<void()> end) { endOfSession = std::move(end); }
 
 void SetMainFrame(SDL_Window* window) {
-    if (const HWND handle = HandleOf(window); handle != nullptr) SeeMessagesFirst(handle, MainProcedure);
+    if (const HWND handle = HandleOf(window); handle != nullptr) InstallInFront(handle, MainProcedure);
 }
 
 void SetDialogFrame(SDL_Window* dialog, SDL_Window* owner) {
     const HWND handle = HandleOf(dialog);
     if (handle == nullptr) return;
-    SeeMessagesFirst(handle, DialogProcedure);
+    InstallInFront(handle, DialogProcedure);
     SetToolFrame(dialog, handle);
     if (owner != nullptr) SetWindowLongPtrW(handle, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(HandleOf(owner)));
 }

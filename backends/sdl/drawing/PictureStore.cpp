@@ -87,7 +87,7 @@ void PictureStore::ReadAhead(std::span<const std::string_view> names) {
     });
 }
 
-void PictureStore::TakeReadAhead() {
+void PictureStore::CollectReadAhead() {
     if (!readAhead.valid()) return;
     Images read = readAhead.get();
     if (sizes[0].scale == 1) sizes[0].images.merge(read);
@@ -104,7 +104,7 @@ void PictureStore::Add(std::string_view name, std::function<Image(float scale)> 
 }
 
 const Image* PictureStore::Find(std::string_view name) {
-    TakeReadAhead();
+    CollectReadAhead();
     Images& images = sizes[0].images;
     auto found = images.find(name);
     if (found == images.end()) found = images.emplace(std::string(name), Make(std::string(name))).first;

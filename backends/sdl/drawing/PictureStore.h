@@ -38,7 +38,7 @@ class PictureStore {
         Images images;
     };
 
-    void TakeReadAhead();
+    void CollectReadAhead();
     std::optional<Image> Make(const std::string& name);
 
     std::filesystem::path folder;

@@ -30,7 +30,7 @@ constexpr int kLongestLinkChain = 16;
 constexpr mode_t kNewFileMode = 0600;
 constexpr mode_t kNewFolderMode = 0700;
 constexpr auto kLongestWait = 2s;  // for another run; a save takes milliseconds
-constexpr auto kNextLook = 5ms;
+constexpr auto kRetryPause = 5ms;
 constexpr int kTries = 20;  // while other runs replace the file
 constexpr int kChangedMeanwhile = EAGAIN;
 constexpr std::string_view kNewText = ".new-";  // between the file's name and the unique part
@@ -103,7 +103,7 @@ bool Lock(const Descriptor& folder) {
     const auto end = std::chrono::steady_clock::now() + kLongestWait;
     while (::flock(folder.Number(), LOCK_EX | LOCK_NB) != 0) {
         if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() >= end) return false;
-        std::this_thread::sleep_for(kNextLook);
+        std::this_thread::sleep_for(kRetryPause);
     }
     return true;
 }
@@ -137,7 +137,7 @@ int WriteNew(std::string& temporary, std::string_view text, mode_t mode) {
 }
 
 // Returns 0, or the reason why the file was not replaced: `kChangedMeanwhile` if it is no longer the one that was read.
-int TakeName(const std::string& temporary, const fs::path& path, const Content& old) {
+int RenameOver(const std::string& temporary, const fs::path& path, const Content& old) {
     if (ReadAll(path).text != old.text) return kChangedMeanwhile;
     if (::rename(temporary.c_str(), path.c_str()) == 0) return 0;
     return errno == ENOENT ? kChangedMeanwhile : errno;  // another run took it for a leftover
@@ -146,7 +146,7 @@ int TakeName(const std::string& temporary, const fs::path& path, const Content& 
 int Replace(const fs::path& path, const Content& old, std::string_view text) {
     std::string temporary = path.string().append(kNewText).append("XXXXXX");
     int error = WriteNew(temporary, text, old.mode);
-    if (error == 0) error = TakeName(temporary, path, old);
+    if (error == 0) error = RenameOver(temporary, path, old);
     if (error != 0) ::unlink(temporary.c_str());
     return error;
 }

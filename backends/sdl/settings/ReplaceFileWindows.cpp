@@ -104,7 +104,7 @@ bool WriteAll(const fs::path& path, const std::string& text) {
            count == text.size() && FlushFileBuffers(file.Get()) != 0;
 }
 
-bool TakeName(const fs::path& from, const fs::path& to) {
+bool RenameOver(const fs::path& from, const fs::path& to) {
     return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
@@ -122,7 +122,7 @@ void RemoveLeftovers(const fs::path& path) {
 DWORD TryToReplace(const fs::path& path, const fs::path& temporary, const std::string& old, const std::string& text) {
     if (!WriteAll(temporary, text)) return GetLastError();
     if (ReadAll(path).text != old) return kChangedMeanwhile;
-    if (TakeName(temporary, path)) return ERROR_SUCCESS;
+    if (RenameOver(temporary, path)) return ERROR_SUCCESS;
     const DWORD error = GetLastError();
     return error == ERROR_FILE_NOT_FOUND ? kChangedMeanwhile : error;  // another run took it for a leftover
 }

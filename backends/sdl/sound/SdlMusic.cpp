@@ -124,11 +124,11 @@ void SdlMusic::DecodeAhead(int wanted) {
         if (!block.empty()) {
             if (SDL_AudioStreamPut(stream.get(), block.data(), static_cast<int>(block.size())) != 0) return;
             rewound = false;
-            isRestGivenOut = false;
+            isRestFlushed = false;
             continue;
         }
         const bool isOver = state == State::PlayingOnce || rewound;
-        if (isOver && !std::exchange(isRestGivenOut, true)) GiveOutRest();
+        if (isOver && !std::exchange(isRestFlushed, true)) FlushRest();
         if (isOver || SDL_AudioStreamAvailable(stream.get()) >= wanted) return;
         file.Rewind();
         rewound = true;
@@ -136,7 +136,7 @@ void SdlMusic::DecodeAhead(int wanted) {
 }
 
 // Flushing alone leaves the last 20 milliseconds in the stream if the device has another rate.
-void SdlMusic::GiveOutRest() {
+void SdlMusic::FlushRest() {
     if (file.Rate() != streamForm.freq) {
         const int samples = file.Rate() / kTailsPerSecond * file.Channels();
         const std::vector<std::int16_t> silence(static_cast<std::size_t>(samples));

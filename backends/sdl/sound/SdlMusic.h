@@ -55,7 +55,7 @@ class SdlMusic {
     void Play(State newState);
     void FitStream();
     void DecodeAhead(int wanted);
-    void GiveOutRest();
+    void FlushRest();
 
     AudioDevice& device;
     std::atomic<int> sharePercent = 100;
@@ -64,7 +64,7 @@ class SdlMusic {
     std::unique_ptr<SDL_AudioStream, FreeStream> stream;  // from the file's format to the device's; null at first
     SDL_AudioSpec streamForm{};                           // the device's format, as the stream knows it
     std::vector<std::uint8_t> next;
-    bool isRestGivenOut = false;  // what the stream held back at the track's end
+    bool isRestFlushed = false;  // what the stream held back at the track's end
     State state = State::Stopped;
     int volume = SDL_MIX_MAXVOLUME;
 };

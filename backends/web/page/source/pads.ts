@@ -4,7 +4,7 @@ import { moveFocus } from './keys';
 
 // Where a stick, which moves from 0 to 1, counts as held in a direction, and where as released again.
 const heldFrom = 0.6;
-const letGoBelow = 0.3;
+const releasedBelow = 0.3;
 
 // By their numbers in the browser's standard layout.
 const buttons: Readonly<Record<number, string>> = {
@@ -68,7 +68,7 @@ function* keysOf(pad: Gamepad | null): Generator<string> {
 /** A stick that has become an arrow stays one until it is released. */
 function stickOf(x: number, y: number): string {
     const along = stick.endsWith('t') ? x : y;
-    if (stick && Math.abs(along) >= letGoBelow) return stick;
+    if (stick && Math.abs(along) >= releasedBelow) return stick;
     if (Math.abs(x) >= heldFrom) return x < 0 ? 'ArrowLeft' : 'ArrowRight';
     if (Math.abs(y) >= heldFrom) return y < 0 ? 'ArrowUp' : 'ArrowDown';
     return '';
