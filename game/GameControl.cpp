@@ -6,6 +6,7 @@
 #include "game/PlayerWishes.h"
 #include "game/PuzzleMenu.h"
 #include "game/PuzzleStart.h"
+#include "game/Scoring.h"
 #include "game/Tutorial.h"
 #include "platform/Numbers.h"
 #include "screens/About.h"
@@ -35,6 +36,7 @@ void StartScore(VMain& main) {
     PlayLevelMusic(main.audio, main.Level);
     ShowNumber(main.VLevel, main.Level);
     SetLevelSpeed(main);
+    ShowWayToLevel(main);
     main.GameStartLevel = main.settings.StartLevel;
 }
 

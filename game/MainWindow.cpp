@@ -62,6 +62,7 @@ void Connect(VMain& main) {
     on.keyDown = [&main](std::int16_t code) { Form_KeyDown(main, code); };
     on.spots = [&main](SurfaceSpots& spots) { ListSpots(main, spots); };
     on.reached = [&main](float x, float y) { return ReachedHead(main, x, y); };
+    on.beams = [&main](std::vector<SeenBeam>& beams) { ListBeams(main, beams); };
     on.command = [&main](Key key) { Form_Command(main, key); };
     on.isPaused = [&main] { return IsShown(main.cmdPause) && main.cmdPause.tag == kResume.tag; };
     on.deactivate = [&main] { Form_Deactivate(main); };

@@ -1,5 +1,6 @@
 #include "game/PlayerInput.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -120,6 +121,20 @@ void ListPreviews(const VMain& main, SurfaceSpots& spots) {
 void ListSpots(VMain& main, SurfaceSpots& spots) {
     if (TakesBeamPresses(main)) return ListHeads(main.field, spots);
     if (main.GameMode == Mode::PuzzleMenu) ListPreviews(main, spots);
+}
+
+void ListBeams(const VMain& main, std::vector<SeenBeam>& beams) {
+    if (!RowOf(main.GameMode).isGame) return;
+    const std::vector<CLine*>& dying = main.field.DyingLines;
+    for (const CLine* beam : main.field.Lines)
+        beams.push_back({.what = beam,
+                         .startX = static_cast<float>(beam->XStart),
+                         .startY = static_cast<float>(beam->YStart),
+                         .x = static_cast<float>(beam->XEnd),
+                         .y = static_cast<float>(beam->YEnd),
+                         .colour = OfColor(LineColors, beam->Color),
+                         .isGrowing = beam->RunMode == Motion::Growing && !beam->Deleted,
+                         .isStruck = std::ranges::find(dying, beam) != dying.end()});
 }
 
 std::optional<SurfaceSpot> ReachedHead(const VMain& main, float X, float Y) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "game/VMain.h"
 
@@ -18,6 +19,8 @@ void Form_DblClick(VMain& main);
 // What keys can choose on the surface: in a game that takes presses, the heads of the beams, and then keys can choose
 // nothing else; in the puzzle menu, the previews.
 void ListSpots(VMain& main, SurfaceSpots& spots);
+// The beams of a game, for what is laid over the picture.
+void ListBeams(const VMain& main, std::vector<SeenBeam>& beams);
 // The head that a press at (X, Y) would reach now.
 std::optional<SurfaceSpot> ReachedHead(const VMain& main, float X, float Y);
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "game/Modes.h"
+#include "game/Scoring.h"
 #include "screens/Extras.h"
 #include "simulation/Palette.h"
 #include "simulation/Playfield.h"
@@ -37,10 +38,13 @@ std::vector<Recolouring> RecolouringsOf(const Extras& extras) {
 
 }  // namespace
 
-void ApplyExtras(const VMain& main) {
+void ApplyExtras(VMain& main) {
     const Extras& extras = main.settings.extras;
+    ShowWayToLevel(main);
     main.platform.SetComfort({.recolourings = RecolouringsOf(extras),
                               .ringsAtPointer = extras.Rings != 0,
+                              .isLively = extras.Lively != 0,
+                              .keys = extras.Keys,
                               .musicPercent = extras.Mute != 0 ? 0 : extras.MusicVolume,
                               .effectsPercent = extras.Mute != 0 ? 0 : extras.EffectsVolume});
 }

@@ -6,7 +6,7 @@
 namespace prismfall {
 
 // Makes the machine look and sound as the extras say. The pace is left out: a game keeps the one it began with.
-void ApplyExtras(const VMain& main);
+void ApplyExtras(VMain& main);
 
 // A game begins at the pace set in the extras. At any pace but the full one, it does not enter the score table.
 void BeginAtPace(VMain& main);

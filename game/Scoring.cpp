@@ -62,6 +62,13 @@ void AddScore(VMain& main, const Hits& hits) {
     ShowNumber(main.VScore, main.Score);
     main.LevelLineCount = Saturated(main.LevelLineCount + hits.N);
     if (main.LevelLineCount >= LevelTarget(main)) RaiseLevel(main);
+    ShowWayToLevel(main);
+}
+
+void ShowWayToLevel(VMain& main) {
+    Element& line = main.LabelWay;
+    line.visible = main.settings.extras.Lively != 0 && main.LevelLineCount > 0;
+    line.width = main.VLevel.width * main.LevelLineCount / std::max<int>(1, LevelTarget(main));
 }
 
 void TimerMulti_Timer(VMain& main) {

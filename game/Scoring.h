@@ -22,6 +22,9 @@ void CountHit(VMain& main, Hits& hits, const BeamBody& beam);
 // Only for a scored game.
 void AddScore(VMain& main, const Hits& hits);
 
+// The line beside the level's number, where the player wants one: as long as what has been done of the way to the next.
+void ShowWayToLevel(VMain& main);
+
 // One step of the pop-up: it drifts down and away from the beam, darkens, and disappears after seven steps.
 void TimerMulti_Timer(VMain& main);
 

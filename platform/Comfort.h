@@ -6,6 +6,7 @@
 
 #include "platform/Element.h"
 #include "platform/Facet.h"
+#include "platform/KeyMap.h"
 
 namespace prismfall {
 
@@ -24,7 +25,9 @@ struct Recolouring {
 struct Comfort {
     std::vector<Recolouring> recolourings = {};  // all other colours are shown as painted
     bool ringsAtPointer = false;                 // marks what a press would reach
-    int musicPercent = 100;                      // of the volume that the game sets
+    bool isLively = false;                       // sparks and glows
+    KeyMap keys;
+    int musicPercent = 100;  // of the volume that the game sets
     int effectsPercent = 100;
 };
 

@@ -186,6 +186,7 @@ bool IsMove(Key key) {
 
 void PressKey(const WindowInput& input, Window& window, Key key, KeyReach reach) {
     if (!input.HasInput(window)) return;
+    if (window.on.takesKey && window.on.takesKey(key)) return;
     if (!IsMove(key) && key != Key::Space && key != Key::Enter) {
         if (!ClickShortcut(input, window, key) && window.on.command) window.on.command(key);
         return;

@@ -125,6 +125,13 @@ void Looks::PaintMark() {
         }
 }
 
+void Looks::Enliven(const Window* window, double now, bool isCalm) {
+    seen.clear();
+    if (window != nullptr && window->on.beams) window->on.beams(seen);
+    sparks.See(seen, now, !isCalm);
+    sparks.TakeDamage(lost);
+}
+
 void Looks::PaintPause() {
     for (const PixelBox& bar : kPauseBars)
         for (int y = bar.top; y < bar.bottom; ++y)
@@ -141,6 +148,7 @@ void Looks::TakeDamage(std::vector<PixelBox>& boxes) {
         CopyFrom(kWhole);
     }
     for (const PixelBox& box : boxes) CopyFrom(box);
+    if (!sparks.IsEmpty()) sparks.Paint(pixels.data(), Surface::kWidth);
     if (mark.isShown) PaintMark();
     if (isPauseMarked) PaintPause();
 }

@@ -8,6 +8,7 @@
 
 #include "platform/Comfort.h"
 #include "platform/PixelBox.h"
+#include "platform/Sparks.h"
 #include "platform/Surface.h"
 #include "platform/Window.h"
 
@@ -30,12 +31,18 @@ class Looks {
     // Marks, or no longer, that the game is paused: two bars in the free room of the panel beside the playfield.
     void MarkPause(bool isPaused);
 
+    // Lays sparks and glows over the beams of the window as they are now, or over none. `now` is in milliseconds; where
+    // the player wants nothing to move by itself there are no sparks.
+    void Enliven(const Window* window, double now, bool isCalm);
+    // Whether something moves by itself, so that there is something new to show in a moment.
+    bool AreMoving() const { return sparks.AreBurning(); }
+
     // As in Surface.h, for what is shown. Rows are valid until the next call of TakeDamage.
     void TakeDamage(std::vector<PixelBox>& boxes);
     const std::uint32_t* Row(int y) const;
 
   private:
-    bool ChangesPixels() const { return mark.isShown || isPauseMarked || !colours.empty(); }
+    bool ChangesPixels() const { return mark.isShown || isPauseMarked || !sparks.IsEmpty() || !colours.empty(); }
     std::uint32_t Shown(std::uint32_t pixel, int y) const;
     void CopyFrom(const PixelBox& box);
     void PaintMark();
@@ -53,6 +60,8 @@ class Looks {
     Surface& surface;
     std::vector<Colours> colours;
     KeyChoice mark;
+    Sparks sparks;
+    std::vector<SeenBeam> seen;
     bool isPauseMarked = false;
     std::vector<PixelBox> lost;         // what has changed its look since the last call of TakeDamage
     std::vector<std::uint32_t> pixels;  // empty while the surface's own are shown

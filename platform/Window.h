@@ -62,6 +62,18 @@ struct Aside {
     bool IsEmpty() const { return text.empty() && !share; }
 };
 
+// What can be seen of a beam, for what is laid over the picture.
+struct SeenBeam {
+    const void* what = nullptr;
+    float startX = 0;
+    float startY = 0;
+    float x = 0;  // of its end
+    float y = 0;
+    Colour colour = kBlack;
+    bool isGrowing = false;
+    bool isStruck = false;  // it is being destroyed, and has not only hung on one that is
+};
+
 enum class MouseButton : std::int16_t { Left = 1, Right = 2 };
 
 constexpr std::int16_t kEscapeKey = 27;
@@ -77,8 +89,10 @@ struct WindowHandlers {
     std::function<void(std::int16_t code)> keyDown;
     std::function<void(SurfaceSpots& spots)> spots;  // adds what keys can choose on the surface now
     std::function<std::optional<SurfaceSpot>(float x, float y)> reached;  // the head that a press would reach
-    std::function<void(Key key)> command;                                 // a key that is not an element's shortcut
-    std::function<bool()> isPaused;                                       // a game has been begun and stands still
+    std::function<bool(Key key)> takesKey;                    // before all else; whether the window has asked for a key
+    std::function<void(Key key)> command;                     // a key that is not an element's shortcut
+    std::function<void(std::vector<SeenBeam>& beams)> beams;  // adds all that can be seen on the surface
+    std::function<bool()> isPaused;                           // a game has been begun and stands still
     std::function<void(bool minimised)> resize;
     std::function<void()> queryUnload;  // the window may be about to close; can come more than once, e.g. when a hidden
                                         // page may never be seen again

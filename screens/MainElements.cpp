@@ -68,6 +68,7 @@ std::vector<Element*> MainElements::InStackingOrder() {
     for (Element& picture : PictTut) all.push_back(&picture);
     all.push_back(&LabelMulti);
     all.push_back(&LabelPace);
+    all.push_back(&LabelWay);
     return all;
 }
 

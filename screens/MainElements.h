@@ -87,6 +87,14 @@ struct MainElements {
     Element CmdScores = MakeButton("CmdScores", 691, 428, 107, 34, {"ScoresUp", "ScoresDown"}, "Scores");
     Element CmdAbout = MakeButton("CmdAbout", 698, 479, 86, 44, {"AboutUp", "AboutDown"}, "About");
     Element CommandExit = MakeButton("CommandExit", 711, 540, 59, 37, {"ExitUp", "ExitDown"}, "Exit");
+    Element LabelWay = {.name = "LabelWay",  // to the next level, below the level's number
+                        .kind = ElementKind::Label,
+                        .left = 57,
+                        .top = 73,
+                        .height = 2,
+                        .visible = false,
+                        .ground = 0xFFB48D,
+                        .panel = &PictureScores};
     std::array<Element, kPreviewCount> LabelSolved;      // the marks of the puzzle menu's previews
     std::array<Element, kTutorialPictureCount> PictTut;  // PictTut1 to PictTut8
     Element LabelMulti = {.name = "LabelMulti",          // the score pop-up

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/KeyMap.h"
 #include "settings/ScoreTable.h"
 
 namespace prismfall {
@@ -30,12 +31,14 @@ struct Extras {
     std::int16_t Palette = 0;        // colours that colour-blind players can tell apart
     std::int16_t Patterns = 0;       // along the beams, a different one for each colour
     std::int16_t Rings = 0;          // around the head that a press would reach
+    std::int16_t Lively = 0;         // sparks, glows, and a line to the next level
     std::int16_t Pace = 100;         // percent: 100, 80, 60 or 40
     std::int16_t SameBeams = 0;      // the next Arcade game repeats the last one's random numbers; not stored
     std::int16_t PauseAway = 0;      // pause when another window gets the focus
     std::int16_t MusicVolume = 100;  // percent: 100, 75, 50 or 25
     std::int16_t EffectsVolume = 100;
     std::int16_t Mute = 0;
+    KeyMap Keys;
 };
 
 struct Settings {

@@ -28,16 +28,21 @@ struct ExtraRow {
     std::array<std::int16_t, 4> allowed;
 };
 
-constexpr std::array<ExtraRow, 8> kExtraRows = {{
+constexpr std::array<ExtraRow, 9> kExtraRows = {{
     {"Palette", &Extras::Palette, {0, 1}},
     {"Patterns", &Extras::Patterns, {0, 1}},
     {"Rings", &Extras::Rings, {0, 1}},
+    {"Lively", &Extras::Lively, {0, 1}},
     {"Pace", &Extras::Pace, {100, 80, 60, 40}},
     {"PauseAway", &Extras::PauseAway, {0, 1}},
     {"MusicVolume", &Extras::MusicVolume, {100, 75, 50, 25}},
     {"EffectsVolume", &Extras::EffectsVolume, {100, 75, 50, 25}},
     {"Mute", &Extras::Mute, {0, 1}},
 }};
+
+// In the order of kActions.
+constexpr std::array<std::string_view, kActions.size()> kKeyRows = {"KeyBend",     "KeyRun",  "KeyPause", "KeyRestart",
+                                                                    "KeyPrevious", "KeyNext", "KeyMute"};
 
 std::string KeyOf(std::string_view word, std::size_t number) { return std::string(word) + std::to_string(number); }
 
@@ -92,6 +97,19 @@ ScoreTable ReadScores(const TextReader& read) {
     return table;
 }
 
+// Keys that cannot be chosen, or serve twice, count as missing.
+KeyMap ReadKeys(const TextReader& read) {
+    KeyMap map;
+    for (std::size_t i = 0; i < kActions.size(); ++i) {
+        const auto usual = static_cast<std::int16_t>(kActions[i]);
+        const auto key = static_cast<Key>(ReadNumber(read, kExtras, kKeyRows[i], usual));
+        if (CanBeChosen(key)) map.keys[i] = key;
+    }
+    for (const Key key : map.keys)
+        if (std::ranges::count(map.keys, key) > 1) return {};
+    return map;
+}
+
 // A value that the game does not know counts as missing.
 Extras ReadExtras(const TextReader& read) {
     Extras extras;
@@ -99,6 +117,7 @@ Extras ReadExtras(const TextReader& read) {
         const std::int16_t number = ReadNumber(read, kExtras, row.key, extras.*row.value);
         if (std::ranges::find(row.allowed, number) != row.allowed.end()) extras.*row.value = number;
     }
+    extras.Keys = ReadKeys(read);
     return extras;
 }
 
@@ -124,6 +143,9 @@ void AddScores(std::vector<SettingValue>& values, const ScoreTable& table) {
 void AddExtras(std::vector<SettingValue>& values, const Extras& extras) {
     for (const ExtraRow& row : kExtraRows)
         values.push_back({std::string(kExtras), std::string(row.key), TextOf(extras.*row.value)});
+    for (std::size_t i = 0; i < kActions.size(); ++i)
+        values.push_back(
+            {std::string(kExtras), std::string(kKeyRows[i]), TextOf(static_cast<std::int16_t>(extras.Keys.keys[i]))});
 }
 
 // The 79 values that the store should contain, and the extras, in the order in which they are written.

@@ -118,12 +118,13 @@ enum class EventKind : std::int32_t {
     Press,     // a button is pressed: number is a MouseButton, plus kByFinger for a finger; x, y
     Release,   // a button is released: number is a MouseButton, x, y
     Activate,  // an element is clicked without a pointer, by a key or a screen reader: number is the element
-    Key,       // a key is pressed: number is 27 for Esc, or a Key
+    Key,       // a key is pressed: number is 27 for Esc, or a Key, plus kByPad for one that a gamepad stands for
     Close,     // the close box of a dialog
     Watch,     // the page's controls for watching: number is a WatchCommand, x
 };
 
 constexpr std::int32_t kByFinger = 16;
+constexpr std::int32_t kByPad = 1024;
 
 struct Event {
     double time = 0;
@@ -184,6 +185,8 @@ PAGE_IMPORT("showSpots") void ShowSpots(const SpotRecord* spots, std::int32_t co
 // Whether there is anything on the surface to choose with the keys, and whether a game is being played, in which case
 // Tab and the arrow keys choose beams rather than the page's controls.
 PAGE_IMPORT("giveKeys") void GiveKeys(std::int32_t canChoose, std::int32_t toField);
+// Whether the player wants nothing to move by itself.
+PAGE_IMPORT("isCalm") std::int32_t IsCalm();
 // Whether a game has been begun and stands still, which the page says as well.
 PAGE_IMPORT("showPaused") void ShowPaused(std::int32_t isPaused);
 // Shows one line below the picture, usually about saving. An empty text removes it.

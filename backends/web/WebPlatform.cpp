@@ -14,6 +14,7 @@ constexpr int kFullVolume = 1000;
 constexpr double kYieldRest = 1;      // milliseconds
 constexpr long kPixelsPerCall = 500;  // the cost of one more call to the page, in pixels
 constexpr double kLongestWait = 60'000;
+constexpr double kNextPicture = 40;          // milliseconds
 constexpr double kMetFor = 600;              // milliseconds
 constexpr double kStartNumbers = 1LL << 53;  // how many random numbers the page can give
 constexpr std::size_t kRateAt = 28;          // in a wave file of plain samples: bytes per second
@@ -129,7 +130,7 @@ void WebPlatform::Handle(const page::Event& event) {
             return input.PressAndClick(window, *window.elements[static_cast<std::size_t>(event.number)]);
         case page::EventKind::Key:
             if (event.number == kEscapeKey) return input.Key(window, event.number);
-            return PressKey(input, window, static_cast<Key>(event.number), KeyReach::Surface);
+            return PressKey(input, window, MeaningOf(window, event.number), KeyReach::Surface);
         case page::EventKind::Close:
             return input.UseCloseBox(window);
         case page::EventKind::Watch:
@@ -152,6 +153,13 @@ void WebPlatform::Press(ShownWindow& front, const page::Event& event) {
     input.Press(window, button, {event.x, event.y, static_cast<std::uint32_t>(event.time), front.Origin()});
 }
 
+// The player may have changed what keys do in the main window; a gamepad's buttons stay.
+Key WebPlatform::MeaningOf(const Window& window, std::int32_t number) const {
+    if (number >= page::kByPad) return static_cast<Key>(number - page::kByPad);
+    const auto key = static_cast<Key>(number);
+    return window.isDialog ? key : comfort.keys.Meaning(key);
+}
+
 KeyChoice WebPlatform::PlaceToMarkNow() {
     return page::Now() < metUntil ? met : PlaceToMark(*main, comfort.ringsAtPointer);
 }
@@ -161,6 +169,7 @@ void WebPlatform::Rest() {
     const double now = page::Now();
     const std::optional<Nanoseconds> due = timers.NextDue();
     double rest = due ? Milliseconds(time.ByClock(*due - time.Now())) : kLongestWait;
+    if (looks.AreMoving()) rest = std::min(rest, kNextPicture);
     if (now < metUntil) rest = std::min(rest, metUntil - now);
     page::Wait(now + std::min(rest, kLongestWait), 1);
 }
@@ -222,6 +231,7 @@ void WebPlatform::SendSpots() {
 void WebPlatform::SendSurface() {
     FollowChoice(*main, KeyReach::Surface);
     looks.Mark(PlaceToMarkNow());
+    looks.Enliven(comfort.isLively ? main : nullptr, page::Now(), comfort.isLively && page::IsCalm() != 0);
     const bool paused = main->on.isPaused && main->on.isPaused();
     if (paused != isPausedAsTold) page::ShowPaused(paused ? 1 : 0);
     isPausedAsTold = paused;

@@ -90,6 +90,7 @@ class WebPlatform final : public Platform {
     void ReportSaving(bool isWritten);
     void Press(ShownWindow& front, const page::Event& event);
     KeyChoice PlaceToMarkNow();
+    Key MeaningOf(const Window& window, std::int32_t number) const;
 
     Surface layer;
     Looks looks{layer};

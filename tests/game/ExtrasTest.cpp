@@ -15,7 +15,10 @@ class ExtrasPlayer : public TestGame {
   public:
     // Opens the window, clicks the named elements, closes it, and ends the run. Returns the store's section after that.
     std::string Choose(std::initializer_list<std::string_view> names) {
-        machine.onDialog = [&](Window& dialog) { opened = &dialog; };
+        machine.onDialog = [&](Window& dialog) {
+            opened = &dialog;
+            if (whenOpened) whenOpened(dialog);
+        };
         for (const std::string_view name : names) machine.QueueAnswer(std::string(name));
         machine.QueueAnswer("Command1");
         PressKey(machine.Input(), main->window, Key::F1);
@@ -27,6 +30,7 @@ class ExtrasPlayer : public TestGame {
     }
 
     Window* opened = nullptr;
+    std::function<void(Window& dialog)> whenOpened;
 };
 
 TEST(Extras, AreStoredOnlyOnceTheyDiffer) {
@@ -42,6 +46,29 @@ TEST(Extras, AreStoredOnlyOnceTheyDiffer) {
     EXPECT_EQ(main.settings.extras.MusicVolume, 100) << "a volume that there is not";
     PressKey(player.Machine().Input(), main.window, Key::M);
     EXPECT_EQ(player.Choose({"Pace100", "Palette"}), "MusicVolume=100 Mute=0 Pace=100 Palette=0 ");
+}
+
+TEST(Extras, KeysAreExchangedRefusedAndKeptOnceTheyDiffer) {
+    ExtrasPlayer player;
+    VMain& main = player.QuietStore().Load();
+    const auto change = [&](std::string_view asked, Key key) {
+        player.whenOpened = [&](Window& dialog) {
+            dialog.on.elementClick(dialog[asked]);
+            EXPECT_TRUE(dialog.on.takesKey(key));
+        };
+        std::string stored = player.Choose({});
+        player.whenOpened = nullptr;
+        return stored;
+    };
+    EXPECT_EQ(change("KeyBend", static_cast<Key>('F')), "KeyBend=70 ");
+    EXPECT_EQ(change("KeyRun", static_cast<Key>('F')), "KeyBend=13 KeyRun=70 ") << "taken from its former action";
+    EXPECT_EQ(change("KeyPause", Key::Left), "KeyBend=13 KeyRun=70 ") << "refused";
+    EXPECT_EQ(main.settings.extras.Keys.Meaning(Key::Enter), Key::Space);
+    EXPECT_EQ(main.settings.extras.Keys.Meaning(Key::Space), Key::None);
+    EXPECT_EQ(main.settings.extras.Keys.Meaning(Key::F1), Key::F1);
+    player.Machine().PutSetting("Extras", "KeyPause", "70");
+    EXPECT_EQ(player.Load().settings.extras.Keys, KeyMap{}) << "a key that serves twice";
+    EXPECT_EQ(player.Choose({"KeyBend", "DefaultKeys"}), "KeyBend=32 KeyPause=80 KeyRun=13 ");
 }
 
 TEST(Extras, ASlowerGameSaysSoAndEntersNoTable) {
@@ -104,6 +131,40 @@ TEST(Looks, ShowColoursByTheirTableAndMarksOverThem) {
     looks.TakeDamage(boxes);
     for (int y = 0; y < Surface::kHeight; ++y)
         ASSERT_TRUE(std::equal(looks.Row(y), looks.Row(y) + Surface::kWidth, surface.Row(y))) << y;
+}
+
+// A beam's end strikes the middle of another, whose own end is far away and low.
+TEST(Looks, SparksBurnWhereBeamsMeetAndGlowsLieBelowLowEnds) {
+    Surface surface;
+    Looks looks(surface);
+    Window window;
+    std::vector<SeenBeam> beams = {{.what = &surface, .startX = 100, .startY = 100, .x = 200, .y = 200},
+                                   {.what = &looks, .startX = 300, .startY = 100, .x = 100, .y = 300}};
+    window.on.beams = [&beams](std::vector<SeenBeam>& seen) { seen = beams; };
+    std::vector<PixelBox> boxes;
+    const auto lit = [&](double now, bool isCalm, int left, int top) {
+        looks.Enliven(&window, now, isCalm);
+        looks.TakeDamage(boxes);
+        int pixels = 0;
+        for (int y = top; y < top + 50; ++y)
+            pixels += 50 - static_cast<int>(std::count(looks.Row(y) + left, looks.Row(y) + left + 50, 0U));
+        return pixels;
+    };
+    EXPECT_EQ(lit(0, false, 175, 175), 0);
+    for (SeenBeam& beam : beams) beam.isStruck = true;
+    for (const bool isCalm : {true, false}) {
+        looks.Enliven(nullptr, 0, false);
+        EXPECT_EQ(lit(50, isCalm, 175, 175) > 0, !isCalm);
+        EXPECT_EQ(looks.AreMoving(), !isCalm);
+        EXPECT_EQ(lit(80, isCalm, 75, 275), 0) << "the far end";
+    }
+    EXPECT_EQ(lit(1000, false, 175, 175), 0) << "it has burnt out, and leaves no trace";
+    beams = {{.what = &surface, .x = 500, .y = 560, .colour = kRed, .isGrowing = true}};
+    EXPECT_GT(lit(1000, true, 475, 540), 0);
+    EXPECT_EQ(looks.Row(585)[500] >> 8 & 0xFF, 0U) << "in the beam's colour";
+    looks.Enliven(nullptr, 1000, true);
+    looks.TakeDamage(boxes);
+    EXPECT_EQ(looks.Row(585)[500], Surface::kUnpainted);
 }
 
 }  // namespace

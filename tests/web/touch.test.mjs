@@ -1,5 +1,5 @@
-// The page by fingers alone, on a phone held upright and across: node --test, with the name of a browser in BROWSER. With
-// TOUCH=all everything is played in both ways.
+// The page by fingers alone, on a phone held upright and across, and by a gamepad: node --test, with the name of a browser in
+// BROWSER. With TOUCH=all everything is played in both ways.
 import assert from 'node:assert';
 import { test } from 'node:test';
 import { sleep } from './browsers.mjs';
@@ -76,8 +76,9 @@ class Fingers extends Game {
     }
 }
 
-async function begin(way) {
+async function begin(way, prepare = () => undefined) {
     const page = await browser.newPage();
+    await page.page.evaluateOnNewDocument(prepare);
     const game = new Fingers(page);
     await page.page.evaluateOnNewDocument(`localStorage.setItem('prismfall', ${JSON.stringify(stored)})`);
     await game.turn(way);
@@ -130,3 +131,34 @@ for (const only of ways) {
         await game.page.close();
     });
 }
+
+/** A gamepad that this test makes up, with buttons by their numbers in the standard layout. */
+const madeUpPad = () => {
+    const buttons = Array.from({ length: 17 }, () => ({ pressed: false }));
+    navigator.getGamepads = () => [{ mapping: 'standard', buttons, axes: [0, 0, 0, 0] }];
+    globalThis.hold = (button, pressed) => (buttons[button].pressed = pressed);
+};
+
+test('a gamepad picks a puzzle, pauses and resumes it', { skip: name !== 'chromium' }, async () => {
+    const game = await begin('across', madeUpPad);
+    await game.page.evaluate(() => globalThis.dispatchEvent(new globalThis.Event('gamepadconnected')));
+    const press = async (button) => {
+        for (const pressed of [true, false]) {
+            await game.page.evaluate((number, is) => globalThis.hold(number, is), button, pressed);
+            await sleep(150);
+        }
+    };
+    const [a, y, start, down, right] = [0, 3, 9, 13, 15];
+    await press(right);
+    await press(a);
+    await game.placeOf('Next page');
+    for (const button of [right, down, a]) await press(button);
+    await game.until('puzzle 5', () => /Puzzle 5/.test(document.getElementById('picture').textContent));
+    await press(y);
+    await game.untilMoved();
+    await press(start);
+    await game.until('the pause', () => document.getElementById('notice').textContent === 'Paused');
+    await press(start);
+    await game.untilSolved();
+    await game.page.close();
+});

@@ -12,6 +12,7 @@ namespace prismfall {
 struct DesktopFacts {
     float scale = 1;  // pixels per pixel of a standard display, as set by the user; 1 or more
     int doubleClickMilliseconds = 500;
+    bool isCalm = false;  // the user wants nothing to move by itself
 };
 
 // Turns the system's request to end the program into an SDL_QUIT event, where SDL itself does not. Call it before any

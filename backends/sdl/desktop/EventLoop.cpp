@@ -17,8 +17,9 @@ constexpr Nanoseconds kSleptByClock = 1ms;  // at least; the last stretch before
 constexpr Nanoseconds kNearby = 20ms;       // timers due within this time tick exactly on time
 constexpr Nanoseconds kLongestWait = 24h;
 constexpr Nanoseconds kYieldRest = 1ms;
-constexpr Nanoseconds kPaintPause = 15ms;  // between checks for exposed windows while nothing else may happen
-constexpr int kEventsAtOnce = 64;          // then timers and painting get their turn
+constexpr Nanoseconds kNextPicture = 40ms;  // where something moves by itself
+constexpr Nanoseconds kPaintPause = 15ms;   // between checks for exposed windows while nothing else may happen
+constexpr int kEventsAtOnce = 64;           // then timers and painting get their turn
 
 void SleepUntil(Nanoseconds moment) {
     std::this_thread::sleep_until(
@@ -56,7 +57,8 @@ bool EventLoop::Work(const std::function<bool()>& condition) {
 
 void EventLoop::Rest() {
     const std::optional<Nanoseconds> due = timers.NextDue();
-    const Nanoseconds left = due ? time.ByClock(*due - time.Now()) : kLongestWait;
+    Nanoseconds left = due ? time.ByClock(*due - time.Now()) : kLongestWait;
+    if (desktop.IsMoving()) left = std::min(left, kNextPicture);
     using std::chrono::milliseconds;
     const auto listening = left < kNearby ? std::chrono::floor<milliseconds>(left - kSleptByClock)
                                           : std::chrono::ceil<milliseconds>(std::min(left, kLongestWait));

@@ -22,7 +22,7 @@ struct KeyRow {
     Key key;
 };
 
-constexpr std::array<KeyRow, 17> kKeys = {{{SDLK_TAB, Key::Tab},
+constexpr std::array<KeyRow, 13> kKeys = {{{SDLK_TAB, Key::Tab},
                                            {SDLK_RETURN, Key::Enter},
                                            {SDLK_KP_ENTER, Key::Enter},
                                            {SDLK_SPACE, Key::Space},
@@ -33,10 +33,6 @@ constexpr std::array<KeyRow, 17> kKeys = {{{SDLK_TAB, Key::Tab},
                                            {SDLK_UP, Key::Up},
                                            {SDLK_RIGHT, Key::Right},
                                            {SDLK_DOWN, Key::Down},
-                                           {SDLK_g, Key::G},
-                                           {SDLK_m, Key::M},
-                                           {SDLK_p, Key::P},
-                                           {SDLK_r, Key::R},
                                            {SDLK_F1, Key::F1},
                                            {SDLK_F2, Key::F2}}};
 
@@ -44,6 +40,8 @@ constexpr std::array<KeyRow, 17> kKeys = {{{SDLK_TAB, Key::Tab},
 Key KeyOf(const SDL_Keysym& pressed) {
     if ((pressed.mod & kCommandKeys) != 0) return Key::None;
     if (pressed.sym == SDLK_TAB && (pressed.mod & KMOD_SHIFT) != 0) return Key::ShiftTab;
+    if (pressed.sym >= SDLK_a && pressed.sym <= SDLK_z) return static_cast<Key>(pressed.sym - SDLK_a + 'A');
+    if (pressed.sym >= SDLK_0 && pressed.sym <= SDLK_9) return static_cast<Key>(pressed.sym);
     const auto row = std::ranges::find(kKeys, pressed.sym, &KeyRow::code);
     return row != kKeys.end() ? row->key : Key::None;
 }
@@ -157,11 +155,14 @@ void SdlDesktop::Close(const Window& window) {
 
 void SdlDesktop::SetComfort(const Comfort& comfort) {
     ringsAtPointer = comfort.ringsAtPointer;
+    isLively = comfort.isLively;
+    keys = comfort.keys;
     looks.Recolour(comfort.recolourings);
 }
 
 void SdlDesktop::MarkOn(Window& mainWindow) {
     looks.Mark(PlaceToMark(mainWindow, ringsAtPointer));
+    looks.Enliven(isLively ? &mainWindow : nullptr, SDL_GetTicks(), facts.isCalm);
     looks.MarkPause(mainWindow.on.isPaused && mainWindow.on.isPaused());
 }
 
@@ -223,7 +224,8 @@ void SdlDesktop::HandleDrop(const SDL_DropEvent& event) const {
 
 void SdlDesktop::HandleKey(const SDL_KeyboardEvent& event) {
     if (event.keysym.sym == SDLK_F11 || IsAltEnter(event)) return windows.front().real->ToggleFullScreen();
-    Press(IsCloseKey(event) ? Key::Escape : KeyOf(event.keysym));
+    const Key key = IsCloseKey(event) ? Key::Escape : KeyOf(event.keysym);
+    Press(windows.back().real->Data().isDialog ? key : keys.Meaning(key));
 }
 
 // In a dialog Esc is its close box.

@@ -50,6 +50,8 @@ class SdlDesktop {
     bool IsEndWaiting();
     // Tells the main window whether it is minimised, if that has changed since the last time. Returns whether it has.
     bool DeliverMinimised();
+    // Whether there is something new to show in a moment, even if nothing happens.
+    bool IsMoving() const { return looks.AreMoving(); }
 
     Extent OuterSize(const Window& window);
     Place Position(const Window& window);
@@ -96,6 +98,8 @@ class SdlDesktop {
     Surface layer;
     Looks looks{layer};
     bool ringsAtPointer = false;
+    bool isLively = false;
+    KeyMap keys;
     float scaleToAskFor = 1;  // points per game pixel, for the first window
     bool scaleChosen = false;
     bool frameAwaited = false;

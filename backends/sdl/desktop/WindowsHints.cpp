@@ -89,6 +89,8 @@ DesktopFacts AskDesktop() {
     if (SDL_GetDisplayDPI(0, &dotsPerInch, nullptr, nullptr) == 0)
         facts.scale = std::clamp(std::round(dotsPerInch / kPlainDotsPerInch * 4) / 4, 1.0F, kLargestScale);
     facts.doubleClickMilliseconds = static_cast<int>(GetDoubleClickTime());
+    BOOL moves = TRUE;
+    if (SystemParametersInfoW(SPI_GETCLIENTAREAANIMATION, 0, &moves, 0) != 0) facts.isCalm = moves == FALSE;
     return facts;
 }
 

@@ -282,6 +282,7 @@ DesktopFacts AskDesktop() {
     if (dotsPerInch) facts.scale = ScaleOf(*dotsPerInch);
     if (const auto time = settings.Find("Net/DoubleClickTime"); time && *time > 0)
         facts.doubleClickMilliseconds = *time;
+    facts.isCalm = settings.Find("Gtk/EnableAnimations").value_or(1) == 0;
     XCloseDisplay(display);
     return facts;
 }

@@ -12,13 +12,10 @@ const arrows: Readonly<Record<string, number>> = { ArrowLeft: 37, ArrowUp: 38, A
 const presses: Readonly<Record<string, number>> = { Enter: 13, ' ': 32 };
 const tab = 9;
 const f1 = 112;
+const byPad = 1024; // added to the number of a key that a gamepad stands for
 const anywhere: Readonly<Record<string, number>> = {
     PageUp: 33,
     PageDown: 34,
-    g: 'G'.charCodeAt(0),
-    m: 'M'.charCodeAt(0),
-    p: 'P'.charCodeAt(0),
-    r: 'R'.charCodeAt(0),
     F1: f1,
 };
 
@@ -48,7 +45,7 @@ export class Keys {
         if (code === undefined) return;
         event.preventDefault();
         if (event.repeat) return;
-        if (code !== 0) this.waiting.send(EventKind.Key, dialog ?? mainWindow, code);
+        if (code !== 0) this.waiting.send(EventKind.Key, dialog ?? mainWindow, event.isTrusted ? code : code + byPad);
         else if (dialog === undefined) this.input.escape();
         else this.waiting.send(EventKind.Close, dialog);
     }
@@ -68,7 +65,7 @@ export class Keys {
             return undefined;
         }
         if (key === 'Tab') return this.areForField && focus === this.field && !shiftKey ? tab : undefined;
-        return (isOnField ? presses[key] : undefined) ?? anywhere[key.length === 1 ? key.toLowerCase() : key];
+        return (isOnField ? presses[key] : undefined) ?? codeAnywhere(key);
     }
 }
 
@@ -83,7 +80,13 @@ export function moveFocus(step: number): void {
     controls[next % controls.length]?.focus();
 }
 
-/** Enter is the OK of a dialog, except where a button has the focus. */
+/** Of the keys that the program takes wherever the focus is: it knows what letters and digits do. */
+function codeAnywhere(key: string): number | undefined {
+    return /^[a-z0-9]$/i.test(key) ? key.toUpperCase().charCodeAt(0) : anywhere[key];
+}
+
+/** Enter is the OK of a dialog, except where a button has the focus, or the dialog asks for a key. */
 function codeInDialog({ key }: KeyboardEvent): number | undefined {
+    if (document.querySelector('dialog input[name="Key to change"]:checked')) return presses[key] ?? codeAnywhere(key);
     return document.activeElement instanceof HTMLButtonElement ? undefined : key === 'Enter' ? presses[key] : undefined;
 }

@@ -27,6 +27,8 @@ import type { Waiting } from './waiting';
 import type { Watching } from './watching';
 import type { Windows } from './windows';
 
+const calm = matchMedia('(prefers-reduced-motion: reduce)');
+
 export interface Machine {
     readonly waiting: Waiting;
     readonly windows: Windows;
@@ -155,6 +157,7 @@ async function instantiate(
             keys.canChoose = canChoose !== 0;
             keys.areForField = toField !== 0;
         },
+        isCalm: () => (calm.matches ? 1 : 0),
         showPaused: (isPaused: number) => notices.show('pause', isPaused === 0 ? '' : 'Paused'),
         showNotice: (address: number, length: number) => notices.show('saving', text(address, length)),
         endProgram: () => end(),
