@@ -38,6 +38,7 @@ void Recorder::Begin(std::string_view head) {
     ofLines.Print(head);
     origin = wheel.MomentInMilliseconds();
     nextCheck = kCheckEvery;
+    lastRenewal = 0;
     isRecording = true;
 }
 
@@ -67,14 +68,16 @@ void Recorder::BeforeInput(const InputEvent& event) {
 }
 
 void Recorder::MomentRenewed(std::int64_t moment) {
-    if (isRecording) Write(RenewalLine(moment - origin));
+    if (!isRecording) return;
+    lastRenewal = moment - origin;
+    Write(RenewalLine(lastRenewal));
 }
 
-// The state after everything before the last full five seconds. If nothing has happened for longer, one check covers it
-// all.
+// The state after everything before the last full five seconds, or the last renewal if that was later: moments never
+// decrease. If nothing has happened for longer, one check covers it all.
 void Recorder::CheckBefore(std::int64_t moment) {
     const std::int64_t last = moment / kCheckEvery * kCheckEvery;
-    WriteCheck(last);
+    WriteCheck(std::max(last, lastRenewal));
     nextCheck = last + kCheckEvery;
 }
 

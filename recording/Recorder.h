@@ -62,6 +62,7 @@ class Recorder final : public HandlerListener {
     Fingerprint ofLines;
     std::int64_t origin = 0;
     std::int64_t nextCheck = 0;
+    std::int64_t lastRenewal = 0;
     bool isRecording = false;
 };
 
