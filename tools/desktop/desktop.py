@@ -129,8 +129,9 @@ class Desktop:
             self.environment["DISPLAY"] = ":" + (told.readline().strip() or "the virtual display has not started")
         self.screen = Screen(self.folder / "Xvfb_screen0")
         if manager:
-            self.start(["openbox", "--sm-disable"])
-            wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), 10, "openbox")
+            ready = self.folder / "openbox-is-ready"  # it says sooner that it is there, but then has not begun to look
+            self.start(["openbox", "--sm-disable", "--startup", f"touch {ready}"])
+            wait_for(ready.exists, 10, "openbox")
 
     def start(self, command, **options):
         options = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, "env": self.environment} | options

@@ -79,7 +79,10 @@ class Game:
         try:
             self.main = self.desktop.window(layout.MAIN, seconds)
         except Missing as missing:
-            raise Missing(f"{missing}; exit status {self.process.poll()}, said {self.said()!r}") from None
+            status = self.process.poll()
+            windows = self.desktop.output("xwininfo", "-root", "-tree")
+            self.process.kill()  # the next window of that title must be another game's
+            raise Missing(f"{missing}; exit status {status}, said {self.said()!r}, windows:\n{windows}") from None
 
     def said(self):
         return self.messages.read_text()

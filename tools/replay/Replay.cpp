@@ -69,10 +69,13 @@ void Replay::Play() { PlayUntil(recording.length); }
 
 bool Replay::LetNextHappen() {
     if (IsOver() || next == recording.events.size()) return false;
-    const RecordedEvent& event = recording.events[next++];
+    const std::size_t number = next;
+    const RecordedEvent& event = recording.events[number];
     const Nanoseconds moment = InMachineTime(event.moment);
     machine.TickThrough(moment);
     if (IsOver()) return false;
+    if (next != number) return true;  // the renewal of a tick that let events run
+    ++next;
     machine.MoveClockTo(moment);
     machine.Timers().HandleAt(moment, [&] { Do(event); });
     Compare();
