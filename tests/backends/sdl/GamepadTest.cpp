@@ -35,9 +35,9 @@ class GamepadTest : public ::testing::Test {
         ASSERT_NE(joystick, nullptr) << "the gamepad is taken in";
     }
 
-    // The codes of the keys pressed so far.
-    std::string Keys() {
-        std::string keys;
+    // The keys pressed since the last call.
+    std::vector<Key> Taken() {
+        std::vector<Key> keys;
         SDL_JoystickUpdate();
         SDL_PumpEvents();
         SDL_Event event;
@@ -45,7 +45,7 @@ class GamepadTest : public ::testing::Test {
             if (const Key key = gamepads.KeyOf(event); key != Key::None) keys.push_back(key);
         return keys;
     }
-    // The numbers of the keys that have been pressed.
+    // Their codes.
     std::string Keys() {
         std::string numbers;
         for (const Key key : Taken()) numbers += std::to_string(static_cast<int>(key)) + " ";
@@ -87,8 +87,8 @@ TEST_F(GamepadTest, ActsAsKeysAndMayComeAndGo) {
 class PadPlayer : public GamepadTest {
   protected:
     void PressFor(SDL_GameControllerButton button) {
-        for (const std::uint8_t isDown : {1, 0}) {
-            SDL_JoystickSetVirtualButton(joystick, button, isDown);
+        for (const bool isDown : {true, false}) {
+            SDL_JoystickSetVirtualButton(joystick, button, isDown ? 1 : 0);
             for (const Key key : Taken()) PressKey(game.Machine().Input(), game.Main().window, key);
         }
     }
@@ -155,7 +155,7 @@ class PadPlayer : public GamepadTest {
 TEST_F(PadPlayer, SolvesPuzzles) {
     PlugIn();
     game.QuietStore().Load();
-    for (const std::int16_t puzzle : {2, 3, 8, 12, 16}) EXPECT_TRUE(Solves(puzzle)) << puzzle;
+    for (const int puzzle : {2, 3, 8, 12, 16}) EXPECT_TRUE(Solves(static_cast<std::int16_t>(puzzle))) << puzzle;
 }
 
 }  // namespace
