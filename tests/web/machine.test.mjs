@@ -129,7 +129,7 @@ test('screen readers meet no obstacle', async () => {
         assert.deepEqual(obstacles, [], where);
     };
     await check('menu');
-    const dialogs = { About: 'About Prisfall v1.1', Scores: 'Highscore', Options: 'Options' };
+    const dialogs = { About: 'About Prisfall v1.1', Scores: 'Highscore', Options: 'Options', Extras: 'Extras' };
     for (const [button, title] of Object.entries(dialogs)) {
         await game.click(button);
         await game.dialog(title);

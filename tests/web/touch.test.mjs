@@ -152,7 +152,7 @@ test('a gamepad picks a puzzle, pauses and resumes it', { skip: name !== 'chromi
     await press(right);
     await press(a);
     await game.placeOf('Next page');
-    for (const button of [right, down, a]) await press(button);
+    for (const button of [right, right, down, a]) await press(button);
     await game.until('puzzle 5', () => /Puzzle 5/.test(document.getElementById('picture').textContent));
     await press(y);
     await game.untilMoved();

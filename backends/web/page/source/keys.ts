@@ -50,7 +50,7 @@ export class Keys {
         else this.waiting.send(EventKind.Close, dialog);
     }
 
-    private codeFor({ key, shiftKey }: KeyboardEvent): number | undefined {
+    private codeFor({ key, shiftKey, isTrusted }: KeyboardEvent): number | undefined {
         const focus = document.activeElement;
         const isOnField = focus === this.field || focus === document.body || focus === null;
         const arrow = arrows[key];
@@ -61,9 +61,11 @@ export class Keys {
             return arrow;
         }
         if (arrow !== undefined && !(focus instanceof HTMLInputElement || focus instanceof HTMLSelectElement)) {
-            moveFocus(arrow === arrows['ArrowLeft'] || arrow === arrows['ArrowUp'] ? -1 : 1);
+            // A gamepad moves the focus itself.
+            if (isTrusted) moveFocus(arrow === arrows['ArrowLeft'] || arrow === arrows['ArrowUp'] ? -1 : 1);
             return undefined;
         }
+        if (focus instanceof HTMLSelectElement) return undefined;
         if (key === 'Tab') return this.areForField && focus === this.field && !shiftKey ? tab : undefined;
         return (isOnField ? presses[key] : undefined) ?? codeAnywhere(key);
     }
