@@ -39,6 +39,9 @@ export class Games {
             void this.open();
         });
         games.whenPlayed = () => (last.hidden = false);
+        games.whenKept = () => {
+            if (this.dialog.open) void this.fill();
+        };
         last.addEventListener('click', () => {
             if (games.last) void this.share(games.last);
         });

@@ -20,6 +20,8 @@ export class KeptGames {
     last: KeptGame | undefined;
     /** Called when there is another last game. */
     whenPlayed: () => void = () => undefined;
+    /** Called when it has been stored. */
+    whenKept: () => void = () => undefined;
 
     private scores = new Set<string>();
 
@@ -49,6 +51,7 @@ export class KeptGames {
             };
         }).catch(() => undefined);
         await this.list();
+        this.whenKept();
     }
 
     /** The newest first; none if the browser has no database for the page. */
