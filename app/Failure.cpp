@@ -74,8 +74,8 @@ void KeepGameOnFailure(const GameRecorder& recorder, const RecordingFolder& fold
     prepared.recorder = &recorder;
     prepared.file = folder.FileFor("unfinished");
     const std::u8string name = prepared.file.u8string();
-    prepared.message = "Prismfall has failed. The game up to that moment is in " +
-                       std::string(name.begin(), name.end()) + ", which is the best report of it.";
+    prepared.message = "Prismfall has failed. The best report of it is the game up to that moment, which is in\n" +
+                       std::string(name.begin(), name.end());
     for (std::size_t i = 0; i < kSignals.size(); ++i) prepared.handlers[i] = std::signal(kSignals[i], HandleFailure);
 }
 
