@@ -64,9 +64,10 @@ void Recorder::BeforeTick(std::int64_t moment) {
 void Recorder::BeforeInput(const InputEvent& event) {
     if (!isRecording) return;
     const std::int64_t moment = Moment();
-    if (moment >= nextCheck) CheckBefore(moment);
     const std::string line = EventLine(moment, event);
-    if (!line.empty()) Write(line);
+    if (line.empty()) return;  // nor a check, for which there would be no reason when the game is played again
+    if (moment >= nextCheck) CheckBefore(moment);
+    Write(line);
 }
 
 void Recorder::MomentRenewed(std::int64_t moment) {

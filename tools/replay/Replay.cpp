@@ -54,8 +54,11 @@ std::int64_t Replay::Moment() const { return (machine.Now() - start) / std::chro
 
 void Replay::PlayUntil(std::int64_t moment) {
     while (!IsOver() && next < recording.events.size() && recording.events[next].moment <= moment) LetNextHappen();
-    if (IsOver()) return;
-    const Nanoseconds end = InMachineTime(std::min(moment, recording.length));
+    if (!IsOver()) PassTimeUntil(std::min(moment, recording.length));
+}
+
+void Replay::PassTimeUntil(std::int64_t moment) {
+    const Nanoseconds end = InMachineTime(moment);
     machine.TickThrough(end);
     if (!IsOver()) machine.MoveClockTo(end);
     Compare();
@@ -68,7 +71,11 @@ void Replay::PlayUntil(std::int64_t moment) {
 void Replay::Play() { PlayUntil(recording.length); }
 
 bool Replay::LetNextHappen() {
-    if (IsOver() || next == recording.events.size()) return false;
+    if (IsOver()) return false;
+    if (next == recording.events.size()) {
+        if (recording.isWhole) PassTimeUntil(recording.length);  // a dialog is open, and was until the program ended
+        return false;
+    }
     const std::size_t number = next;
     const RecordedEvent& event = recording.events[number];
     const Nanoseconds moment = InMachineTime(event.moment);

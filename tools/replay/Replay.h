@@ -61,6 +61,8 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     Nanoseconds InMachineTime(std::int64_t moment) const { return start + std::chrono::milliseconds(moment); }
     void Do(const RecordedEvent& event);
     void Press(Window& window, const RecordedEvent& event);
+    // With no event before that moment.
+    void PassTimeUntil(std::int64_t moment);
     // Compares what has been recorded again since the last call.
     void Compare();
     void Stop(ReplayFault found);
