@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::array<int, 4> kSignals = {SIGSEGV, SIGABRT, SIGFPE, SIGILL};
 
-// All texts are made in advance: little can be relied on afterwards.
+// All texts are prepared in advance: little can be relied on after a crash.
 struct Prepared {
     const GameRecorder* recorder = nullptr;
     std::filesystem::path file;
@@ -46,7 +46,7 @@ bool WriteGame() {
     return std::fclose(file) == 0 && isWritten;
 }
 
-// In a process of its own, where there are such, so that nothing that waits for the program's end waits for the player.
+// In a separate process where possible, so that whoever waits for the program to end need not wait for the player.
 void ShowBox() {
 #ifndef _WIN32
     if (fork() != 0) return;
@@ -74,7 +74,7 @@ void KeepGameOnFailure(const GameRecorder& recorder, const RecordingFolder& fold
     prepared.recorder = &recorder;
     prepared.file = folder.FileFor("unfinished");
     const std::u8string name = prepared.file.u8string();
-    prepared.message = "Prismfall has failed. The best report of it is the game up to that moment, which is in\n" +
+    prepared.message = "Prismfall has crashed. If you report it, please include this recording of your game:\n" +
                        std::string(name.begin(), name.end());
     for (std::size_t i = 0; i < kSignals.size(); ++i) prepared.handlers[i] = std::signal(kSignals[i], HandleFailure);
 }

@@ -1,4 +1,4 @@
-// An error that ends the program leaves the recording of the game at hand, which is the best report of it.
+// When the program crashes, it saves the recording of the current game, which is the best bug report.
 #pragma once
 
 #include "backends/sdl/recordings/RecordingFolder.h"
@@ -6,8 +6,8 @@
 
 namespace prismfall {
 
-// From now on, whatever crashes or aborts the program first writes that recording to the folder, cut off where the game
-// was, and says where it is, on standard error and in a box. Both must outlive the program. To be called once.
+// From now on, a crash or an abort first writes the recording so far to the folder, and says where, on standard error
+// and in a box. Both arguments must exist until the program ends. Call this once.
 void KeepGameOnFailure(const GameRecorder& recorder, const RecordingFolder& folder);
 
 }  // namespace prismfall

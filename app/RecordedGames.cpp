@@ -78,8 +78,7 @@ void RecordedGames::Show() {
                           .save = onGame(&RecordedGames::Save),
                           .remove = onGame(&RecordedGames::Remove)};
     const bool isPlaying = RowOf(main.GameMode).isGame;
-    const auto watched =
-        ShowGames(main.dialogs, games, isPlaying ? "To watch one is to leave the game in progress." : "");
+    const auto watched = ShowGames(main.dialogs, games, isPlaying ? "Watching one ends the game in progress." : "");
     if (watched && *watched < names.size()) SdlPlatform::Drop(Words(folder.File(names[*watched])));
 }
 
@@ -116,7 +115,7 @@ std::string RecordedGames::Save(const std::string& name) const {
 std::string RecordedGames::Remove(const std::string& name) const {
     std::error_code failure;
     fs::remove(folder.File(name), failure);
-    return failure ? "It could not be deleted: " + failure.message() : "The game is deleted.";
+    return failure ? "It could not be deleted: " + failure.message() : "The game has been deleted.";
 }
 
 }  // namespace prismfall

@@ -55,7 +55,7 @@ void WatchInPage::BeginAsked() {
     watch.emplace(main, std::move(*recording), false);
 }
 
-// As the player would, so that the recording of a game that is left is a true one.
+// By the player's own keys, so that the recording of the game left behind stays genuine.
 bool WatchInPage::GoToMenu() {
     watch.reset();
     for (int i = 0; i < kScreensDeep && main.GameMode != Mode::MainMenu; ++i)

@@ -1,4 +1,4 @@
-// Watching recorded games in the page, which has the controls for it outside the game's picture.
+// Watching recorded games in the page, which has its own controls outside the game's picture.
 #pragma once
 
 #include <optional>
@@ -11,8 +11,8 @@ namespace prismfall {
 
 class WatchInPage {
   public:
-    // Both must outlive this. A recording that the page has ready at the program's start is watched at once, and then
-    // nothing of a first run is shown.
+    // Both must outlive this. A recording that the page has ready when the program starts is shown at once, and the
+    // introduction of a first run is left out.
     WatchInPage(WebPlatform& machine, VMain& player);
     ~WatchInPage();
     WatchInPage(const WatchInPage&) = delete;
@@ -25,13 +25,13 @@ class WatchInPage {
     void Take(page::WatchCommand command, float value);
     void BeginAsked();
     bool GoToMenu();
-    // The recording that the page has ready; the page is told what is wrong with it.
+    // The recording that the page has ready. Tells the page if it cannot be watched.
     static std::optional<Recording> TakeRecording();
 
     WebPlatform& platform;
     VMain& main;
     std::optional<Watch> watch;
-    bool isAsked = false;  // for what the page has ready
+    bool isAsked = false;  // to show what the page has ready
     page::WatchRecord reported;
 };
 

@@ -42,8 +42,8 @@ fs::path FindPictures() {
     return folder / kPictureFolders.front();
 }
 
-// Desktops start a program that opens a file in that file's folder. Where the music is beside the program, that is the
-// folder to be in. Relative names of files hold for the folder that it was started in.
+// To open a file, desktops start a program in the file's folder. If the music is next to the program, changes to the
+// program's folder, and returns the file's name so that it is still found from there.
 std::string EnterMusicFolder(const std::string& file) {
     std::error_code ignored;
     const fs::path folder = ProgramFolder();

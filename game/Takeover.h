@@ -1,5 +1,4 @@
-// The player goes on with a game that another program on another machine has brought to its present moment, such as one
-// that was recorded.
+// Lets the player take over a game that has been played so far on another machine, such as a recorded one.
 #pragma once
 
 #include "game/VMain.h"
@@ -9,9 +8,9 @@ namespace prismfall {
 // Makes the elements of a main window look like those of another.
 void ShowSameElements(VMain& main, const VMain& from);
 
-// Moves the game of `from`, outside of all handlers, into `main`: beams, numbers, timers and elements, but nothing that
-// was painted. It goes on at the pace of the extras with the music of its screen; a solution becomes the player's. The
-// score of such a game enters no table, and a puzzle that it solves does not count as solved.
+// Moves the game of `from` into `main`: beams, numbers, timers and elements, but nothing painted. Call it outside all
+// handlers. The game continues at the pace set in the extras, with its screen's music; a solution becomes the player's
+// to play. Its score enters no table, and a puzzle it solves does not count as solved.
 void TakeOverGame(VMain& main, VMain& from);
 
 }  // namespace prismfall

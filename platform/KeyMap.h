@@ -1,4 +1,4 @@
-// Which keys do what in the main window: each action has a key of its own, by default the one that it is named after.
+// Which keys do what in the main window. Each action has one key, by default the one it is named after.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace prismfall {
 
-// The keys that can be exchanged for others.
+// The actions whose keys can be changed.
 constexpr std::array<Key, 7> kActions = {Key::Space, Key::Enter, Key::P, Key::R, Key::PageUp, Key::PageDown, Key::M};
 
 constexpr bool IsLetterOrDigit(Key key) {
@@ -22,16 +22,17 @@ constexpr bool CanBeChosen(Key key) {
 }
 
 struct KeyMap {
-    std::array<Key, kActions.size()> keys = kActions;  // different ones
+    std::array<Key, kActions.size()> keys = kActions;  // no two alike
 
-    // The action of a pressed key; a key that has no part in this means itself, and None one that has lost its action.
+    // The action of a pressed key. A key that was never an action's stands for itself; one that has lost its action is
+    // None.
     constexpr Key Meaning(Key pressed) const {
         const auto found = std::ranges::find(keys, pressed);
         if (found != keys.end()) return kActions[static_cast<std::size_t>(found - keys.begin())];
         return std::ranges::find(kActions, pressed) != kActions.end() ? Key::None : pressed;
     }
 
-    // Gives an action another key. If that is another action's, the two exchange theirs.
+    // Gives an action another key. If another action has that key, the two swap.
     constexpr void Give(std::size_t action, Key key) {
         if (const auto former = std::ranges::find(keys, key); former != keys.end()) *former = keys[action];
         keys[action] = key;

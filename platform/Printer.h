@@ -1,5 +1,5 @@
-// Prints text and whole numbers piece by piece, as a stream does in the C locale, without anything that a stream
-// brings along: a page's program is less than half the size without them. Allocates nothing.
+// Prints text and whole numbers piece by piece, like a stream in the C locale, but without the code that streams pull
+// in: the page's program is less than half the size without them. Allocates nothing.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 
 namespace prismfall {
 
-// This one prints nowhere.
+// This one discards everything.
 class Printer {
   public:
     Printer() = default;

@@ -11,7 +11,7 @@ namespace prismfall {
 
 namespace {
 
-// Game pixels, but for the times.
+// In game pixels, except for times.
 constexpr PixelBox kField{14, 16, 670, 586};
 constexpr double kStep = 40;  // milliseconds
 constexpr int kSteps = 10;
@@ -26,7 +26,7 @@ struct Ray {
 };
 constexpr std::array<Ray, 8> kRays = {{{2, 0}, {1, 1}, {0, 2}, {-1, 1}, {-2, 0}, {-1, -1}, {0, -2}, {1, -1}}};
 
-// `share` of 256 of a colour, added to what is there.
+// Adds `share` 256ths of a colour to a pixel.
 std::uint32_t Added(std::uint32_t below, std::uint32_t pixel, int share) {
     std::uint32_t sum = 0xFF000000;
     for (const int shift : {0, 8, 16}) {
@@ -54,7 +54,7 @@ PixelBox Sparks::BoxOf(const Glow& glow) {
     return Overlap(kField, {glow.x - kGlowHalf, kField.bottom - kGlowHeight, glow.x + kGlowHalf, kField.bottom});
 }
 
-// Where a beam's end has met another that is being destroyed since then, too.
+// Where the beam's end has met another beam that is now being destroyed with it.
 void Sparks::Kindle(const std::vector<SeenBeam>& beams, double now) {
     const auto isNew = [this](const SeenBeam& beam) {
         return beam.isStruck && std::ranges::find(struck, beam.what) == struck.end();

@@ -1,5 +1,5 @@
-// What makes the playfield livelier, laid over its pixels: a spark where beams destroy each other, and a glow on the
-// ground below a beam's end that has come close to it.
+// Effects laid over the playfield's pixels: a spark where beams destroy each other, and a glow on the ground below a
+// beam's end that has come close to it.
 #pragma once
 
 #include <cstdint>
@@ -12,10 +12,10 @@ namespace prismfall {
 
 class Sparks {
   public:
-    // Takes what can be seen of the beams at `now`, in milliseconds. Without `sparks` nothing moves by itself.
+    // Takes the visible state of the beams at `now`, in milliseconds. Without `sparks` nothing is animated.
     void See(const std::vector<SeenBeam>& beams, double now, bool sparks);
 
-    // Whether a spark is burning, so that there is something new to show in a moment.
+    // Whether a spark is burning, so that the picture is about to change.
     bool AreBurning() const { return !burning.empty(); }
     bool IsEmpty() const { return burning.empty() && glows.empty(); }
 
@@ -47,7 +47,7 @@ class Sparks {
 
     std::vector<Spark> burning;
     std::vector<Glow> glows;
-    std::vector<const void*> struck;  // the beams that were being destroyed when last seen
+    std::vector<const void*> struck;  // the beams that were being destroyed at the last look
     std::vector<PixelBox> lost;
 };
 

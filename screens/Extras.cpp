@@ -103,7 +103,7 @@ constexpr std::array<KeyRow, kActions.size()> kKeyRows = {{
 }};
 constexpr int kFirstKeyTop = 54;
 constexpr std::string_view kHowToChange = "To change a key, click it and press another.";
-constexpr std::string_view kAsks = "Now press the key that is to do that.";
+constexpr std::string_view kAsks = "Now press the new key.";
 constexpr std::string_view kRefuses = "Only letters, digits, Space, Enter and Page keys.";
 
 std::string NameOf(Key key) {
@@ -166,13 +166,13 @@ void Mark(Window& dialog, const Extras& extras) {
     dialog["DefaultKeys"].checked = extras.Keys == KeyMap{};
 }
 
-// The row of the key that is to be changed, or of none.
+// The row of the key being changed, or none.
 void AskForKey(Window& dialog, const KeyRow* asked, std::string_view note) {
     for (const KeyRow& row : kKeyRows) dialog[row.name].checked = &row == asked;
     dialog["KeyNote"].text = note;
 }
 
-// The key that was asked for. Whether one was.
+// Takes the new key. Returns whether one was awaited.
 bool TakeKey(Window& dialog, KeyMap& keys, Key key) {
     const auto asked = std::ranges::find_if(kKeyRows, [&](const KeyRow& row) { return dialog[row.name].checked; });
     if (asked == kKeyRows.end()) return false;

@@ -101,7 +101,7 @@ class GamesDialog {
     std::optional<std::size_t> Show() {
         dialog = MakeDialog(host.audio, "VGames", "Games", kInner, MakeElements(), MakeClicks());
         dialog->stopsTime = true;
-        if (lines.empty()) advice = "No game is kept yet: one is after each game you play.";
+        if (lines.empty()) advice = "No games yet. Every game that you play is added here.";
         Fill();
         ShowDialog(host, dialog);
         return watched;
@@ -139,7 +139,7 @@ class GamesDialog {
         dialog->Hide();
     }
 
-    // The second press in a row deletes.
+    // Only the second press in a row deletes.
     void Delete() {
         if (!std::exchange(mayDelete, true)) {
             advice = "Press Delete again to delete this game.";

@@ -1,5 +1,4 @@
-// The dialog VGames: the games that are kept, to be watched, passed on or deleted. Game time is stopped while it is
-// open.
+// The dialog VGames: the kept games, to watch, share or delete. Game time is frozen while it is open.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +11,7 @@
 
 namespace prismfall {
 
-// What the dialog says of a game. Each part may be empty.
+// What the dialog says about a game. Each part may be empty.
 struct GameLine {
     std::string when = {};
     std::string game = {};
@@ -21,8 +20,8 @@ struct GameLine {
     std::string length = {};
 };
 
-// What can be done with the games, which are counted from 0 in the order of `list`. Those that return a text do what
-// they are named after, and say in a short line what has come of it.
+// What can be done with the games, numbered from 0 in the order of `list`. The functions that return a text do what
+// their names say, and report the outcome in a short line.
 struct KeptGames {
     std::function<std::vector<GameLine>()> list;
     std::function<std::string(std::size_t game)> copyLink;

@@ -1,11 +1,11 @@
-// The dialog VPlayOn: what becomes of a recorded game that the player goes on with.
+// The dialog VPlayOn: what taking over a recorded game means.
 #pragma once
 
 #include "screens/Dialogs.h"
 
 namespace prismfall {
 
-// Shows the dialog, while game time stands still. Returns whether the player agreed by its OK.
+// Shows the dialog; game time is frozen while it is open. Returns whether the player clicked OK.
 bool AgreeToPlayOn(const DialogHost& host);
 
 }  // namespace prismfall

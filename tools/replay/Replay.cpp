@@ -73,7 +73,7 @@ void Replay::Play() { PlayUntil(recording.length); }
 bool Replay::LetNextHappen() {
     if (IsOver()) return false;
     if (next == recording.events.size()) {
-        if (recording.isWhole) PassTimeUntil(recording.length);  // a dialog is open, and was until the program ended
+        if (recording.isWhole) PassTimeUntil(recording.length);  // a dialog was open when the program ended
         return false;
     }
     const std::size_t number = next;
@@ -97,7 +97,7 @@ std::optional<Nanoseconds> Replay::TakeRenewal() {
 void Replay::Do(const RecordedEvent& event) {
     Window* const front = machine.Input().Front();
     if (front == nullptr) return;
-    // One that belongs to no handler of this game is from a dialog before it.
+    // A renewal outside this game's handlers comes from a dialog opened before it.
     if (event.isRenewal) return machine.Timers().RenewMoment();
     switch (event.kind) {
         case InputKind::Press:

@@ -37,7 +37,7 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     void PlayUntil(std::int64_t moment);
     // To the end.
     void Play();
-    // Whether what has been played is compared with the recording. Initially it is.
+    // Whether the game played is compared with the recording. It is by default.
     void SetComparing(bool isOn) { isComparing = isOn; }
 
     std::int64_t Moment() const;
@@ -61,7 +61,7 @@ class Replay final : private HeadlessScript, private HandlerListener, private Ga
     Nanoseconds InMachineTime(std::int64_t moment) const { return start + std::chrono::milliseconds(moment); }
     void Do(const RecordedEvent& event);
     void Press(Window& window, const RecordedEvent& event);
-    // With no event before that moment.
+    // There must be no event before that moment.
     void PassTimeUntil(std::int64_t moment);
     // Compares what has been recorded again since the last call.
     void Compare();

@@ -33,8 +33,8 @@ std::string Clock(std::int64_t milliseconds) {
     return text.data();
 }
 
-// The machine of the game that is shown. Its strokes go to the player's surface as well, and its sounds to the
-// player's speakers, if the game is shown at the pace it was played at.
+// The machine that the game shown runs on. Its strokes also go to the player's surface, and its sounds to the player's
+// speakers if the pace is the original one.
 class StageMachine final : public HeadlessPlatform {
   public:
     explicit StageMachine(Platform& playersMachine) : real(playersMachine) {}
@@ -64,7 +64,7 @@ class StageMachine final : public HeadlessPlatform {
 
 }  // namespace
 
-// The game that is shown.
+// The game shown.
 class Watch::Stage {
   public:
     Stage(VMain& player, const Recording& recording)
@@ -142,7 +142,7 @@ void Watch::TakeWindow() {
 
 bool Watch::GiveBack() {
     if (!std::exchange(isWatching, false)) return false;
-    std::swap(main.window.on, handlers);  // one of those that go may be running
+    std::swap(main.window.on, handlers);  // one of the handlers swapped out may be running
     main.platform.Timers().StopAll();
     for (const TimerName& row : kTimerNames) main.platform.SetTimerInterval(row.timer, IntervalAtStart(row.timer));
     main.platform.SetTickHandler([&player = main](Timer timer) { TickTimer(player, timer); });

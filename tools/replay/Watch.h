@@ -1,6 +1,6 @@
-// Shows a recorded game in the main window, as it was played: painted, heard, paused, faster, forwards and back. The
-// game that is shown runs on a machine of its own, so settings, scores and progress of the player stay as they are. The
-// player can go on with it at any moment.
+// Shows a recorded game in the main window as it was played, with sound, at any pace, forwards and back. The game shown
+// runs on a separate machine, so the player's settings, scores and progress are untouched. The player can take it over
+// at any moment.
 #pragma once
 
 #include <algorithm>
@@ -21,9 +21,9 @@ constexpr int kFastestPace = 8;
 struct WatchState {
     bool isWatching = false;
     bool isPaused = false;
-    bool isOver = false;  // it has come to its end, or to where it differs from its recording
+    bool isOver = false;  // it has reached its end, or the point where it differs from its recording
     bool differs = false;
-    int pace = 1;               // times as fast as it was played
+    int pace = 1;               // as a multiple of the original
     std::int64_t position = 0;  // milliseconds of the game
     std::int64_t length = 0;
 };
@@ -31,21 +31,21 @@ struct WatchState {
 class Watch final : private GameLog {
   public:
     // Takes over the window, the timers and the surface of `player`, a program that is in its main menu, until Leave.
-    // While one watches, P or a left press pauses, Page Up and Page Down go ten seconds back and forth, a right press
-    // changes the pace, R begins again, G or a double click goes on with the game and Esc leaves; lines beside the
-    // playfield, or beside the whole picture where there is room, say so at first and in every pause. A page, which has
-    // controls of its own, does without the lines.
+    // P or a left press pauses, Page Up and Page Down jump ten seconds back and forth, a right press changes the pace,
+    // R restarts, G or a double click takes the game over, and Esc leaves. Lines beside the playfield, or beside the
+    // whole picture where there is room, say so at first and in every pause; the page has controls instead of the
+    // lines.
     Watch(VMain& player, Recording recorded, bool hasLine = true);
     ~Watch() override;
 
     WatchState State() const;
     void SetPaused(bool paused) { isPaused = paused; }
     void SetPace(int newPace) { pace = std::clamp(newPace, 1, kFastestPace); }
-    // To that moment of the game, in milliseconds; back is from its start again.
+    // Jumps to that moment of the game, in milliseconds. Going back plays it again from its start.
     void GoTo(std::int64_t newPosition);
-    // Asks the player, and if they agree, hands the game over at the moment that is shown (see Takeover.h). Does
-    // nothing at its end. What the player's next games find from before is as it was before the watching as soon as
-    // that game is over or left.
+    // Asks the player and, if they agree, hands the game over at the moment shown (see Takeover.h). Does nothing at the
+    // end of the game. As soon as that game is over or left, the state that the player's next games begin with is what
+    // it was before watching.
     void PlayOn();
     // Gives back the window and the timers, with no game in progress. Does nothing the second time.
     void Leave();
@@ -53,13 +53,13 @@ class Watch final : private GameLog {
   private:
     class Stage;
 
-    // Of a game that the player goes on with.
+    // Of a game that the player has taken over.
     void Begins(VMain& begun, GameKind kind) override;
     void Ends(VMain& ended, GameEnding ending) override;
     void EndPlayedOn();
 
     void TakeWindow();
-    // Gives back the window and the timers, with no game in progress. Returns false if that has been done.
+    // Gives back the window and the timers, with no game in progress. Returns false if that was done before.
     bool GiveBack();
     void Tick();
     void Show();
@@ -76,7 +76,7 @@ class Watch final : private GameLog {
     std::vector<Element> elements;  // of the main window, when nobody watches
     GameNumbers numbers;            // the player's
     GameLog* log = nullptr;         // the player's, while a game is played on
-    std::int64_t position = 0;      // milliseconds of the game that is shown
+    std::int64_t position = 0;      // milliseconds of the game shown
     std::int64_t ticks = 0;         // since the lines were shown
     int pace = 1;
     bool isPaused = false;

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kEnding = ".prismfall";
 
-// So that names sort by age wherever the user travels, the time is UTC.
+// In UTC, so that names sort by age in any time zone.
 constexpr const char* kTimeFormat = "%Y-%m-%d %H.%M.%S";
 
 std::string Printed(const char* format, const std::tm* moment) {

@@ -1,4 +1,4 @@
-// The user's recordings of games on disk, a file each. Their names sort by age.
+// The user's recorded games on disk, one file each. Their names sort by age.
 #pragma once
 
 #include <filesystem>
@@ -24,16 +24,16 @@ class RecordingFolder {
     // The names of all files, the newest first.
     std::vector<std::string> Names() const;
     std::filesystem::path File(std::string_view name) const;
-    // The title in a name and the local time in it, as in "2026-11-26 05:30". A name that is not of this folder's
-    // making is all title.
+    // The title in a file name, and its time as local time, as in "2026-11-26 05:30". A name that was not made here
+    // is all title.
     struct Name {
         std::string time;
         std::string title;
     };
     static Name Parse(std::string_view name);
 
-    // Removes all files but the newest, `most` of them, and those that `isSpared` is true for, given their names. What
-    // cannot be removed stays.
+    // Removes all files except the newest `most` and those whose names `isSpared` accepts. Files that cannot be removed
+    // stay.
     void Prune(std::size_t most, const std::function<bool(std::string_view name)>& isSpared) const;
 
   private:

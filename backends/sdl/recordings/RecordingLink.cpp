@@ -15,10 +15,10 @@ constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kDigits = "0123456789";
 constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
 constexpr int kLetterBits = 6;
-constexpr int kRaw = -MAX_WBITS;  // deflate's own format, without header and sum
+constexpr int kRaw = -MAX_WBITS;  // plain deflate, without header and checksum
 constexpr int kMostMemory = 9;
 constexpr int kStrategy = Z_FILTERED;  // fewer short matches: in such texts it saves 2 to 4 %
-constexpr const char* kDamaged = "The link is damaged or not complete.";
+constexpr const char* kDamaged = "The link is damaged or incomplete.";
 
 struct Parts {
     std::string_view format;
@@ -36,7 +36,7 @@ std::optional<Parts> PartsOf(std::string_view link) {
     return Parts{after.substr(0, stop), letters};
 }
 
-// Both texts must stay where they are.
+// Both texts must outlive this.
 void Connect(z_stream& stream, std::string& from, std::string& to) {
     stream.next_in = reinterpret_cast<Bytef*>(from.data());
     stream.avail_in = static_cast<uInt>(from.size());
@@ -44,7 +44,7 @@ void Connect(z_stream& stream, std::string& from, std::string& to) {
     stream.avail_out = static_cast<uInt>(to.size());
 }
 
-// The bits that do not fill a letter, or a byte, are 0.
+// Bits left over from the last letter or byte are 0.
 template <typename Take>
 void Regroup(std::string_view from, int bitsFrom, int bitsTo, Take take) {
     std::uint32_t bits = 0;

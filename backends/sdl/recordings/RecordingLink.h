@@ -1,4 +1,4 @@
-// Recordings as links: everything is after the `#`, which browsers keep to themselves, so no server ever sees the game.
+// Recordings as links. The game is after the `#`, which browsers do not send, so no server ever sees it.
 #pragma once
 
 #include <cstddef>
@@ -19,7 +19,7 @@ struct LinkContents {
     std::string fault = {};  // why there is none, in a sentence
 };
 
-// The text in such a link, which may come from anywhere; not checked. At most `most` bytes of it.
+// The unchecked text in such a link, which may come from anyone; at most `most` bytes of it.
 LinkContents ReadRecordingLink(std::string_view link, std::size_t most);
 
 }  // namespace prismfall

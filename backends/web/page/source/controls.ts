@@ -1,9 +1,9 @@
-// What the page offers beside the picture: the switch that makes fingers press the right button, the extras, and the full
+// The page's own controls beside the picture: the switch that makes fingers press the right button, the extras, and full
 // screen.
 import type { Input } from './input';
 import type { Keys } from './keys';
 
-const longestTap = 300; // milliseconds; a longer press of the switch ends with it
+const longestTap = 300; // milliseconds; a longer press holds the switch only until it is released
 
 export function connectControls(
     input: Input,
@@ -18,12 +18,12 @@ export function connectControls(
     addEventListener('pointerdown', (event) => {
         if (event.pointerType === 'touch') right.hidden = false;
     });
-    // By a key; what a pointer does is told below.
+    // By a key. Pointers are handled below.
     right.addEventListener('click', (event) => {
         if (event.detail === 0) set(!input.fingersPressRight);
     });
 
-    // A thumb that holds the switch lets the other hand's fingers press the right button meanwhile.
+    // While a thumb holds the switch, the other hand's fingers press the right button.
     let before = false;
     let heldSince = 0;
     const set = (isRight: boolean) => {

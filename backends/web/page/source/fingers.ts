@@ -1,14 +1,14 @@
-// Players who use their fingers: what they are told, and what a finger presses, since it covers more than a pointer does.
+// Playing by touch: what players are told, and what a finger presses, since it covers more than a pointer does.
 import type { Notices } from './notices';
 
 export const leftButton = 1;
 export const rightButton = 2;
 
-const reach = 22; // half of the least size of what a finger can press, in the page's pixels
+const reach = 22; // half the smallest size of a touch target, in the page's pixels
 const lineLasts = 12_000; // milliseconds
 const line = 'Tap the end of a beam to bend it. To run one forward, hold “Speed up” or tap with a second finger.';
 
-// What the tutorial's pictures say of a mouse, for fingers.
+// What the tutorial's pictures say about the mouse, in words for fingers.
 const words: Readonly<Record<string, string>> = {
     PictTut2: 'Bend the red beam: tap its end.',
     PictTut4: 'Start the blue beam, which does not move: tap its end.',
@@ -18,7 +18,7 @@ const words: Readonly<Record<string, string>> = {
 // The player has touched the page, or has nothing else to play with.
 let areUsed = matchMedia('(pointer: coarse)').matches;
 
-/** What a picture of the tutorial asks of a finger; undefined if that is what it asks of everyone. */
+/** What a picture of the tutorial asks of a finger; undefined if its own words fit. */
 export function fingersWords(picture: string): string | undefined {
     return areUsed ? words[picture] : undefined;
 }
@@ -41,13 +41,13 @@ export function answerFirstTouch(notices: Notices): void {
 export interface Touched {
     readonly clientX: number;
     readonly clientY: number;
-    /** The mouse button that it acts as, where what is touched says so. */
+    /** The mouse button that the finger acts as, if the touched element calls for one. */
     readonly button?: number;
 }
 
 /**
- * What a finger touches: the middle of the nearest control within its reach, or the place itself. On the field no control
- * beside it counts.
+ * What a finger touches: the middle of the nearest control within reach, or else the place itself. A finger on the field never
+ * touches a control beside it.
  */
 export function touched(root: HTMLElement, { clientX, clientY }: PointerEvent): Touched {
     let nearest: Touched = { clientX, clientY };
@@ -69,12 +69,12 @@ export function touched(root: HTMLElement, { clientX, clientY }: PointerEvent): 
     return nearest;
 }
 
-/** How far a place is outside of a range. */
+/** How far a place lies outside a range. */
 function outside(place: number, from: number, to: number): number {
     return Math.max(from - place, place - to, 0);
 }
 
-/** Whether a place is in a range, or in one for a finger around its middle. */
+/** Whether a place is in a range, or within a finger's reach of its middle. */
 function isWithin(place: number, from: number, to: number): boolean {
     return outside(place, from, to) === 0 || Math.abs(place - (from + to) / 2) <= reach;
 }

@@ -1,5 +1,5 @@
-// The games that were played here, in a dialog of the page's own: to watch, share, save and delete. Also the button that shares
-// the last game, files that are opened or dropped, and links to games.
+// The dialog with the games played here, to watch, share, save and delete; the button that shares the last game; files that are
+// opened or dropped; and links to games.
 import { add, make } from './elements';
 import type { Keys } from './keys';
 import type { KeptGame, KeptGames, StoredGame } from './keptGames';
@@ -76,12 +76,12 @@ export class Games {
         }
     }
 
-    /** The program has ended: a game can be watched after a new start. */
+    /** The program has ended. To watch a game, the page has to be loaded again. */
     noteEnd(): void {
         this.hasEnded = true;
     }
 
-    /** The dialog hides the page's line, so it has one of its own. */
+    /** Shown in the dialog too, which hides the page's line. */
     private tell(sentence: string): void {
         this.status.textContent = sentence;
         this.parts.notices.show('games', sentence);
@@ -110,7 +110,7 @@ export class Games {
 
     private makeDialog(): void {
         const { dialog, file } = this;
-        // The focus is the dialog's own at first, so that its title is read.
+        // The dialog itself has the focus at first, so that its title is read out.
         dialog.tabIndex = -1;
         const header = add(dialog, make('header'));
         const title = add(header, make('h2'));
@@ -174,7 +174,7 @@ async function startWith(recording: string): Promise<void> {
     location.reload();
 }
 
-/** A page that is loaded again starts as always. */
+/** Afterwards, reloading the page starts it as always. */
 function dropLink(): void {
     if (isLink(location.hash)) history.replaceState(history.state, '', location.pathname + location.search);
 }

@@ -4,8 +4,8 @@ import { leftButton, rightButton, touched, type Touched } from './fingers';
 import { EventKind } from './records';
 import type { Waiting } from './waiting';
 
-const byFinger = 16; // added to the number of a button
-const steady = 22; // how far a finger may move on what it has touched, in the page's pixels
+const byFinger = 16; // added to a button's number
+const steady = 22; // how far a finger may move and still press what it touched, in the page's pixels
 const escapeCode = 27;
 const mainWindow = 0;
 
@@ -55,8 +55,8 @@ export class Input {
     }
 
     /**
-     * A second finger is the right button, as is every finger while the switch says so, but where what is touched has a
-     * button of its own.
+     * A second finger is the right button, and so is every finger while the switch is on, unless the touched element calls
+     * for a button itself.
      */
     private touchStart(event: PointerEvent, held: Held): void {
         if (event.pointerType !== 'touch') return;
@@ -124,7 +124,7 @@ export class Input {
     }
 }
 
-/** Where the panel lies elsewhere than the program has it, a press on it is one on the middle of its element. */
+/** Where the page has moved the panel, a press on an element in it counts as one on the middle of that element. */
 function panelPlace(x: number, y: number): [number, number] | undefined {
     const node = document.elementFromPoint(x, y)?.closest<HTMLElement>('.apart > .panel');
     if (!node) return undefined;

@@ -1,5 +1,5 @@
-// The games that were played here, as recordings in the browser's own database: the last ones, and those of the score table.
-// A database that is full or refused costs a recording and nothing else.
+// The games played here, as recordings in the browser's database: the last ones, and those in the score table. If the database
+// is full or not allowed, only the recording is lost.
 import { GameKind, type GameRecord, type ScoreRecord } from './records';
 
 const database = 'prismfall';
@@ -16,9 +16,9 @@ export interface StoredGame extends KeptGame {
 }
 
 export class KeptGames {
-    /** The last game that was played since the page was loaded. */
+    /** The last game played since the page was loaded. */
     last: KeptGame | undefined;
-    /** Called when there is another last game. */
+    /** Called when `last` has changed. */
     whenPlayed: () => void = () => undefined;
     /** Called when it has been stored. */
     whenKept: () => void = () => undefined;
@@ -29,7 +29,7 @@ export class KeptGames {
         void this.list();
     }
 
-    /** Whether an Arcade game with that result was kept when last looked. */
+    /** Whether an Arcade game with that result was kept at the last look. */
     isKept(score: number, level: number): boolean {
         return this.scores.has(`${score} ${level}`);
     }
@@ -74,7 +74,7 @@ function isResult({ kind, score, level }: StoredGame, best: ScoreRecord): boolea
     return kind === GameKind.Arcade && score === best.score && level === best.level;
 }
 
-/** Of games from the oldest to the newest. Each row of the table keeps one. */
+/** The games to delete, given all of them, oldest first. Each row of the score table keeps one game. */
 function superfluous(games: readonly StoredGame[], table: readonly ScoreRecord[]): StoredGame[] {
     const rows = [...table];
     return [...games].reverse().filter((game, age) => {
@@ -84,7 +84,7 @@ function superfluous(games: readonly StoredGame[], table: readonly ScoreRecord[]
     });
 }
 
-/** Runs one transaction, and rejects if nothing of it was done. */
+/** Runs one transaction, and rejects if it was not carried out. */
 async function change(act: (games: IDBObjectStore) => void, mode: IDBTransactionMode = 'readwrite'): Promise<void> {
     const opened = await open();
     try {

@@ -1,8 +1,8 @@
-// Recordings as links: `#1.`, then the text deflated, in base64 for addresses. No server ever sees what follows a #. Links and
-// files come from anywhere; what they hold is only ever given to the program, which reads it with care.
+// Recordings as links: `#1.`, then the deflated text in base64url. No server ever sees what follows a #. Links and files may
+// come from anyone; their contents are only passed to the program, which checks them.
 const format = 1;
-const mostBytes = 2_000_000; // of a recording; the program takes no more
-const bytesAtOnce = 4096; // so that no part of a link can unpack to more than some megabytes before it is counted
+const mostBytes = 2_000_000; // of a recording; the program accepts no more
+const bytesAtOnce = 4096; // small enough that no piece of a link unpacks to more than a few megabytes before it is counted
 const linkPattern = /^#(\d{1,9})\.([\w-]*)$/;
 
 /** Why something cannot be watched, as a sentence for the player. */
@@ -14,7 +14,7 @@ export function isLink(hash: string): boolean {
     return /^#\d+\./.test(hash);
 }
 
-/** What comes after the page's address. Of the checks the last one is enough. */
+/** The part after the page's address. Only the last check is kept, which is enough. */
 export async function packed(recording: string): Promise<string> {
     const short = recording.replaceAll(/^check .*\n(?!check |end )/gm, '');
     const deflated = new Blob([short]).stream().pipeThrough(new CompressionStream('deflate-raw'));
@@ -35,7 +35,7 @@ export async function unpacked(hash: string): Promise<string> {
     return checked(recording);
 }
 
-/** The recording itself, unless it is one of another version. */
+/** The recording itself, unless its format has another version. */
 export function checked(recording: string): string {
     const number = /^recording (\d{1,9})\n/.exec(recording)?.[1];
     if (number !== undefined && Number(number) !== format) throw newer(recording, `recordings of format ${number}`);
@@ -61,7 +61,7 @@ async function inflated(letters: string): Promise<string> {
         for (let at = 0; at < bytes.length; at += bytesAtOnce) await writer.write(bytes.subarray(at, at + bytesAtOnce));
         await writer.close();
     };
-    write().catch(() => undefined); // what is wrong shows when it is read
+    write().catch(() => undefined); // errors show up when reading
     return decoded(stream.readable);
 }
 

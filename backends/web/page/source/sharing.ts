@@ -1,11 +1,11 @@
-// Giving a game to others: by what the device has for sharing, else as a link in the clipboard, else as a link to be copied by
-// hand; or as a file.
+// Sharing a game: with the device's share sheet, or else as a link on the clipboard, or else as a link to copy by hand; or as a
+// file.
 import { add, make } from './elements';
 import { packed } from './links';
 import type { KeptGame } from './keptGames';
 import { GameEnding, GameKind } from './records';
 
-/** Says what was done, or nothing if the player was asked or has changed their mind. */
+/** Returns a sentence on what was done, or an empty one if the player was asked or has cancelled. */
 export async function share(game: KeptGame): Promise<string> {
     if (!('CompressionStream' in globalThis)) return 'This browser cannot make links. The game can be saved as a file.';
     const url = location.origin + location.pathname + (await packed(game.recording));
@@ -64,7 +64,7 @@ export function titleOf({ kind, ending, puzzle, score, level }: KeptGame): strin
     return (isArcade ? `Arcade, ${score} points, level ${level}` : `Puzzle ${puzzle}`) + endings[ending];
 }
 
-/** For names of files: the same order as time, wherever one travels. */
+/** For file names: in UTC, so that they sort by age in any time zone. */
 function dayAndTime(when: number): string {
     return new Date(when).toISOString().slice(0, 19).replace('T', ' ').replaceAll(':', '.');
 }

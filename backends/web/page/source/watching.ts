@@ -1,4 +1,4 @@
-// Watching a recorded game: the program shows it in the picture, and the controls are here, below it.
+// Watching a recorded game: the program shows it in the picture, and the controls below it are made here.
 import { add, make } from './elements';
 import type { Notices } from './notices';
 import { EventKind, WatchCommand, type WatchRecord } from './records';
@@ -37,14 +37,14 @@ export class Watching {
         footer.before(this.bar);
     }
 
-    /** Leaves what is being played and shows a recording, which may be any text. Before the program starts: as it starts. */
+    /** Leaves the current game and shows a recording, which may be any text; once the program has started, if it has not. */
     begin(recording: string): void {
         this.notices.show('games', '');
         this.ready = new TextEncoder().encode(recording);
         if (this.hasStarted) this.command(WatchCommand.Begin);
     }
 
-    /** The length in bytes of the recording to be shown, which is then ready to be copied. */
+    /** The length in bytes of the recording to show, which is then ready to be copied. */
     open(): number {
         this.hasStarted = true;
         return this.ready.length;
@@ -102,7 +102,7 @@ export class Watching {
         button.type = 'button';
         button.textContent = words;
         button.addEventListener('click', () => {
-            // At the end, playing begins again.
+            // At the end, Play starts again from the beginning.
             if (this.record?.isOver && button === this.pause) this.command(WatchCommand.GoTo, 0);
             this.command(command());
         });
@@ -115,7 +115,7 @@ export class Watching {
         this.slider.setAttribute('aria-label', 'Time in the game');
         this.slider.addEventListener('input', () => this.command(WatchCommand.GoTo, Number(this.slider.value)));
         this.bar.append(this.slider, this.time);
-        this.time.setAttribute('aria-live', 'off'); // the slider says it
+        this.time.setAttribute('aria-live', 'off'); // the slider announces it
     }
 
     private addPace(): void {
