@@ -185,7 +185,7 @@ void HeadlessDriver::BeginRecording(Arguments& words) {
     const Words line = {words.Name(), words.Word()};
     Load(words);
     if (!words.IsGood()) return;
-    game.emplace();
+    game = std::make_unique<RecordedGame>();
     AddToRecording(line);
 }
 

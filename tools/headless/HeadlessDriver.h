@@ -75,9 +75,9 @@ class HeadlessDriver {
 
     std::ostream& out;
     HeadlessPlatform platform;
-    std::unique_ptr<VMain> main;  // null while the program is not running
-    std::optional<RecordedGame> game;
-    int number = 0;  // of the line
+    std::unique_ptr<VMain> main;         // null while the program is not running
+    std::unique_ptr<RecordedGame> game;  // null while no line of one has come
+    int number = 0;                      // of the line
     int lineOfFault = 0;
 };
 
