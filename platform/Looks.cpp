@@ -148,7 +148,7 @@ void Looks::TakeDamage(std::vector<PixelBox>& boxes) {
         CopyFrom(kWhole);
     }
     for (const PixelBox& box : boxes) CopyFrom(box);
-    if (!sparks.IsEmpty()) sparks.Paint(pixels.data(), Surface::kWidth);
+    if (!sparks.IsEmpty()) sparks.Paint(pixels, Surface::kWidth);
     if (mark.isShown) PaintMark();
     if (isPauseMarked) PaintPause();
 }

@@ -37,10 +37,10 @@ std::uint32_t Added(std::uint32_t below, std::uint32_t pixel, int share) {
 }
 
 // How far a beam's end is from another beam.
-float Distance(const SeenBeam& end, const SeenBeam& beam) {
-    const float along = std::clamp(end.y, std::min(beam.startY, beam.y), std::max(beam.startY, beam.y));
-    const float way = beam.y == beam.startY ? 0 : (along - beam.startY) / (beam.y - beam.startY);
-    return std::hypot(end.x - beam.startX - way * (beam.x - beam.startX), end.y - along);
+float Distance(const SeenBeam& ending, const SeenBeam& line) {
+    const float along = std::clamp(ending.y, std::min(line.startY, line.y), std::max(line.startY, line.y));
+    const float way = line.y == line.startY ? 0 : (along - line.startY) / (line.y - line.startY);
+    return std::hypot(ending.x - line.startX - way * (line.x - line.startX), ending.y - along);
 }
 
 }  // namespace
@@ -95,10 +95,10 @@ void Sparks::TakeDamage(std::vector<PixelBox>& boxes) {
     lost.clear();
 }
 
-void Sparks::Paint(std::uint32_t* pixels, int stride) const {
+void Sparks::Paint(std::span<std::uint32_t> pixels, int stride) const {
     const auto add = [&](int x, int y, std::uint32_t pixel, int share) {
         if (x < kField.left || x >= kField.right || y < kField.top || y >= kField.bottom) return;
-        std::uint32_t& place = pixels[static_cast<std::ptrdiff_t>(y) * stride + x];
+        std::uint32_t& place = pixels[static_cast<std::size_t>(y * stride + x)];
         place = Added(place, pixel, share);
     };
     for (const Glow& glow : glows) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "platform/PixelBox.h"
@@ -22,7 +23,7 @@ class Sparks {
     // Adds the boxes that have changed since the last call.
     void TakeDamage(std::vector<PixelBox>& boxes);
     // Paints on rows of pixels 0xAARRGGBB, `stride` pixels apart.
-    void Paint(std::uint32_t* pixels, int stride) const;
+    void Paint(std::span<std::uint32_t> pixels, int stride) const;
 
   private:
     struct Spark {

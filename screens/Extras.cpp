@@ -144,6 +144,7 @@ void AddLines(std::vector<Element>& table, std::span<const Line> lines) {
 
 std::vector<Element> MakeElements() {
     std::vector<Element> table;
+    table.reserve(std::size(kFrames) + std::size(kChoices));
     for (const Frame& frame : kFrames)
         table.push_back(MakeOption(frame.name, ElementKind::GroupFrame, frame.left, frame.top, frame.width,
                                    frame.height, std::string(frame.title)));
