@@ -98,7 +98,8 @@ void Sparks::TakeDamage(std::vector<PixelBox>& boxes) {
 void Sparks::Paint(std::span<std::uint32_t> pixels, int stride) const {
     const auto add = [&](int x, int y, std::uint32_t pixel, int share) {
         if (x < kField.left || x >= kField.right || y < kField.top || y >= kField.bottom) return;
-        std::uint32_t& place = pixels[static_cast<std::size_t>(y * stride + x)];
+        std::uint32_t& place =
+            pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(stride) + static_cast<std::size_t>(x)];
         place = Added(place, pixel, share);
     };
     for (const Glow& glow : glows) {
