@@ -1,7 +1,6 @@
-// When the picture changes: at most once per display frame, however often the program has worked since the last time.
-// If a frame's time has passed, the picture changes at once, which shows a press soonest and gives the browser work
-// only if something has changed. A hidden page has no frames; there, too, the picture changes at once, so that nothing
-// outdated is seen when the page is shown again.
+// When the picture changes: at most as often as displays usually do, however often the program has worked since the last time.
+// If that long has passed it changes at once, which shows a press soonest. The browser's own frames are not waited for: it would
+// lay out the whole page for each. On a hidden page the picture changes at once too, so that nothing old is seen later.
 const frame = 1000 / 60 - 1; // milliseconds, a little less than on most displays
 
 export class Frames {
@@ -16,12 +15,13 @@ export class Frames {
 
     /** Requests the next frame. */
     ask(): void {
-        if (document.hidden || performance.now() - this.presented >= frame) this.tryPresent();
-        else if (this.asked === 0) this.asked = requestAnimationFrame(() => this.tryPresent());
+        const rest = this.presented + frame - performance.now();
+        if (document.hidden || rest <= 0) this.tryPresent();
+        else if (this.asked === 0) this.asked = setTimeout(() => this.tryPresent(), rest);
     }
 
     private tryPresent(): void {
-        cancelAnimationFrame(this.asked);
+        clearTimeout(this.asked);
         this.asked = 0;
         this.presented = performance.now();
         try {
