@@ -130,6 +130,7 @@ async function instantiate(
             program.present();
             focus.keep();
         },
+        () => waiting.lastPress,
         (error) => waiting.fail(error),
     );
     const wait = suspending((until, forInput) => {

@@ -10,6 +10,8 @@ interface Pause {
 }
 
 export class Waiting {
+    /** When the player last did something other than move the pointer, on the page's clock. */
+    lastPress = -Infinity;
     private readonly queue: PageEvent[] = [];
     private readonly channel = new MessageChannel();
     private gone = false;
@@ -44,7 +46,9 @@ export class Waiting {
         const isMove =
             kind === EventKind.Move || (kind === EventKind.Watch && (number as WatchCommand) === WatchCommand.GoTo);
         if (isMove && last?.kind === kind && last.number === number) this.queue.pop();
-        this.queue.push({ kind, window, number, x, y, time: performance.now() });
+        const time = performance.now();
+        if (kind !== EventKind.Move) this.lastPress = time;
+        this.queue.push({ kind, window, number, x, y, time });
         if (this.forInput) this.end();
     }
 
