@@ -10,6 +10,7 @@ import { promisify } from 'node:util';
 const run = promisify(execFile);
 const lossless = ['-lossless', '-z', '7'];
 const nearly = ['-q', '90', '-m', '6', '-sharp_yuv'];
+const small = ['-q', '75', '-m', '6', '-sharp_yuv']; // icons, which are shown smaller than they are
 const largest = 50_000; // bytes, lossless
 
 const sizeOf = (file) => statSync(file).size;
@@ -50,6 +51,6 @@ export async function makeIcons(from, to, kept) {
     mkdirSync(to, { recursive: true });
     const icons = readdirSync(from).filter((file) => file.endsWith('.png'));
     const make = async (file) =>
-        copyFileSync(await encode(join(from, file), nearly, kept), join(to, basename(file, '.png') + '.webp'));
+        copyFileSync(await encode(join(from, file), small, kept), join(to, basename(file, '.png') + '.webp'));
     await Promise.all(icons.map(make));
 }
