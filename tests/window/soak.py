@@ -1,10 +1,11 @@
 """Random input from a real mouse and keyboard: clicks, drags, keys, close boxes, minimising, moving the window, in every
 screen and dialog that comes up, some of it where beams end, while the program is halted now and then. The game may end when told
-to; it may not crash, hang or complain, and every recording that it leaves must be true. Meant for a build with the sanitizers
-(script/soak).
+to; it may not crash, hang or complain, and every recording that it leaves must be true. Several desktops are played on side by
+side until that many games have been recorded; a smaller number is for a build with the sanitizers (script/soak).
 
-    python3 tests/window/soak.py PROGRAM SECONDS [SEED]
+    python3 tests/window/soak.py PROGRAM GAMES [SEED [DESKTOPS]]
 """
+import multiprocessing
 import pathlib
 import random
 import signal
@@ -26,11 +27,14 @@ ACTIONS = {"mousemove --window W P click B": 60, "mousemove --window W P click -
            "mousemove --window W P mousedown B mousemove --window W P mouseup B": 6, "mousemove --window W P click 4": 2,
            "windowmove W P": 2, "windowminimize W sleep 0.2 windowmap W": 1, "windowunmap W sleep 0.1 windowmap W": 1}
 PLACES = [(x + width // 2, y + height // 2) for x, y, width, height in layout.BOXES.values()]
+PLACES += [layout.middle(name) for name in ("CommandArcade", "CommandPuzzle", "CmdStart")] * 4  # which lead to games
+PLACES += [layout.cell(puzzle) for puzzle in range(1, 10)]
 
 
 def chosen(chance, number):
     x, y = chance.choice((chance.choice(PLACES), (chance.randrange(802), chance.randrange(602))))
-    keys = ("Escape", "Return", "space", "Tab", "F1", "F2", "g", "a", "Left", chance.choice(("alt+F4", "ctrl+c", "b", "c", "d")))
+    rare = chance.choice(("alt+F4", "ctrl+c", "b", "c", "d", "p", "m"))
+    keys = ("Escape", "Return", "space", "Tab", "F1", "F2", "g", "a", "Left", "r", rare)
     return {"W": number, "P": f"{x} {y}", "B": str(chance.choice((1, 1, 1, 1, 3, 3, 2))), "K": chance.choice(keys)}
 
 
@@ -62,12 +66,12 @@ def verify(screen, driver):
     return len(files), wrong
 
 
-def play(screen, program, chance, end):
+def play(screen, program, chance):
     """One run of the program. Returns what went wrong, or nothing."""
     general = {"Music": chance.choice(("True", "False")), "StartLevel": str(chance.randint(1, 12))}
-    settings = game.Settings(None if chance.random() < 0.2 else game.later_run(**general))
+    settings = game.Settings(None if chance.random() < 0.1 else game.later_run(**general))
     run = game.Game(screen, program, settings, HERE.parents[1] / "assets", environment=LEAKS, shows_up=False)
-    stop = min(end, time.monotonic() + LONGEST_RUN)
+    stop = time.monotonic() + LONGEST_RUN
     while run.is_running() and time.monotonic() < stop:
         found = screen.output("xdotool", "search", "--onlyvisible", "--class", "prismfall").split()
         if found and chance.random() < 0.6:
@@ -76,7 +80,7 @@ def play(screen, program, chance, end):
             halt(run.process, chance)
         for number in found[-2:] or screen.output("xdotool", "search", "--name", f"^{layout.MAIN}$").split():
             words = [] if found else ["windowmap", number, "windowactivate", number]  # with its button in the taskbar
-            for action in chance.choices(list(ACTIONS), list(ACTIONS.values()), k=4):
+            for action in chance.choices(list(ACTIONS), list(ACTIONS.values()), k=chance.choice((1, 4))):
                 words += [part for word in action.split() for part in chosen(chance, number).get(word, word).split()]
             screen.mouse(*words)
     if run.is_running():
@@ -86,14 +90,34 @@ def play(screen, program, chance, end):
     return f"exit status {status}\n{run.said()}" if status or run.said() else ""
 
 
-program, seconds = pathlib.Path(sys.argv[1]).resolve(), float(sys.argv[2])
-seed = int(sys.argv[3]) if len(sys.argv) > 3 else int(time.time())
-screen, chance, end = desktop.Desktop(), random.Random(seed), time.monotonic() + seconds
-verified = 0
-while time.monotonic() < end:
-    wrong = play(screen, program, chance, end)
-    count, differences = verify(screen, program.parent / "prismfall-headless")
-    verified += count
-    if wrong or differences:
-        sys.exit(f"seed {seed}: {wrong}{differences}")
-print(f"{verified} of {verified} recordings are true")
+def play_on_one_desktop(program, seed, left, true):
+    """Plays until no games are left to record; counts them in `left`, and those that are true. Exits with what was wrong."""
+    screen, chance = desktop.Desktop(), random.Random(seed)
+    try:
+        while left.value > 0:
+            wrong = play(screen, program, chance)
+            count, differences = verify(screen, program.parent / "prismfall-headless")
+            with left.get_lock():
+                left.value -= count
+                true.value += 0 if differences else count
+            if wrong or differences:
+                sys.exit(f"seed {seed}: {wrong}{differences}")
+    finally:
+        desktop.end_all()
+
+
+def main(program, games, seed=None, desktops=8):
+    left, true = multiprocessing.Value("i", int(games)), multiprocessing.Value("i", 0)
+    seed = int(seed or time.time())
+    players = [multiprocessing.Process(target=play_on_one_desktop, args=(pathlib.Path(program).resolve(), seed + i, left, true))
+               for i in range(int(desktops))]
+    for player in players:
+        player.start()
+    for player in players:
+        player.join()
+    print(f"seed {seed}: {true.value} of {int(games) - left.value} recordings are true")
+    return 1 if any(player.exitcode for player in players) else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
