@@ -62,10 +62,8 @@ void Replay::PassTimeUntil(std::int64_t moment) {
     machine.TickThrough(end);
     if (!IsOver()) machine.MoveClockTo(end);
     Compare();
-    if (recording.isWhole && moment >= recording.length && !IsOver()) {
-        recorder.End("left");  // when the program ended
-        Compare();
-    }
+    if (!recording.isWhole || moment < recording.length || IsOver()) return;
+    machine.Timers().HandleAt(end, [this] { Ends(main, GameEnding::Left); });  // the program ended, perhaps in a dialog
 }
 
 void Replay::Play() { PlayUntil(recording.length); }
