@@ -45,6 +45,7 @@ export default tseslint.config(
                         'innerWidth',
                         'innerHeight',
                         'sessionStorage',
+                        'CanvasRenderingContext2D',
                         'IDBObjectStore',
                         'indexedDB',
                         'DOMException',

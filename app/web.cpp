@@ -1,6 +1,7 @@
 // The game in a browser: the page calls `run`, which returns when the program has ended.
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -13,18 +14,22 @@
 
 namespace {
 
+prismfall::page::GameRecord RecordOf(const prismfall::PlayedGame& game) {
+    return {.kind = static_cast<std::int32_t>(game.kind),
+            .ending = static_cast<std::int32_t>(game.ending),
+            .puzzle = game.puzzle,
+            .score = game.score,
+            .level = game.level,
+            .length = static_cast<std::int32_t>(game.length),
+            .recording = std::string_view(game.recording)};
+}
+
 void KeepGame(const prismfall::VMain& main, const prismfall::PlayedGame& game) {
     if (game.length < prismfall::kShortestKept) return;
     std::vector<prismfall::page::ScoreRecord> table;
     for (const prismfall::ScoreRow& row : main.settings.Scores)
         if (row.score > 0) table.push_back({row.score, row.endLevel});
-    const prismfall::page::GameRecord record{.kind = static_cast<std::int32_t>(game.kind),
-                                             .ending = static_cast<std::int32_t>(game.ending),
-                                             .puzzle = game.puzzle,
-                                             .score = game.score,
-                                             .level = game.level,
-                                             .length = static_cast<std::int32_t>(game.length),
-                                             .recording = std::string_view(game.recording)};
+    const prismfall::page::GameRecord record = RecordOf(game);
     prismfall::page::KeepGame(&record, table.data(), static_cast<std::int32_t>(table.size()));
 }
 
@@ -41,6 +46,14 @@ SuspendedStack stack;
 // While the program runs.
 prismfall::WebPlatform* machine = nullptr;
 prismfall::WatchInPage* watching = nullptr;
+const prismfall::GameRecorder* recorder = nullptr;
+
+void KeepGameSoFar() {
+    const auto game = recorder->LeftNow();
+    if (!game || game->length < prismfall::kShortestKept) return;
+    const prismfall::page::GameRecord record = RecordOf(*game);
+    prismfall::page::KeepUnfinished(&record);
+}
 
 }  // namespace
 
@@ -56,17 +69,27 @@ __attribute__((export_name("recordSizes"))) const prismfall::page::RecordSizes* 
     return &kSizes;
 }
 
+// The program has failed: keeps the game as it was after the last thing that happened in it.
+__attribute__((export_name("keepGameSoFar"))) void KeepGameOnFailure() {
+    if (machine == nullptr) return;
+    prismfall::TimerWheel& timers = machine->Timers();
+    timers.HandleAt(timers.LastMoment(), KeepGameSoFar);
+}
+
 __attribute__((export_name("run"))) void Run() {
     prismfall::WebPlatform platform;
     prismfall::VMain main(platform);
     prismfall::MakeMainWindow(main);
-    const prismfall::GameRecorder recorder(main, [&](const prismfall::PlayedGame& game) { KeepGame(main, game); });
+    const prismfall::GameRecorder games(main, [&](const prismfall::PlayedGame& game) { KeepGame(main, game); });
     prismfall::WatchInPage watch(platform, main);
     machine = &platform;
     watching = &watch;
+    recorder = &games;
+    platform.whenHidden = KeepGameSoFar;
     platform.Run(main.window);
     machine = nullptr;
     watching = nullptr;
+    recorder = nullptr;
 }
 
 // The page calls this once a frame while the program waits.

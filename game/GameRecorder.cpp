@@ -54,9 +54,17 @@ void GameRecorder::Begins(VMain& main, GameKind kind) {
 void GameRecorder::Ends(VMain& main, GameEnding ending) {
     if (!recorder.IsRecording()) return;
     if (main.GameMode == Mode::SolutionReplay) return recorder.Drop();
-    const std::int64_t length = recorder.Moment();
     recorder.End(EndingWords(main, ending));
-    if (keep) keep({recorder.Text(), begunAs, ending, main.CurrentPuzzle, main.Score, main.Level, length});
+    if (keep) keep(Played(ending, recorder.Text()));
+}
+
+std::optional<PlayedGame> GameRecorder::LeftNow() const {
+    if (!recorder.IsRecording() || game.GameMode == Mode::SolutionReplay) return std::nullopt;
+    return Played(GameEnding::Left, recorder.EndedNow(EndingWords(game, GameEnding::Left)));
+}
+
+PlayedGame GameRecorder::Played(GameEnding ending, std::string text) const {
+    return {std::move(text), begunAs, ending, game.CurrentPuzzle, game.Score, game.Level, recorder.Moment()};
 }
 
 std::string_view GameRecorder::TextSoFar() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "game/GameLog.h"
@@ -36,8 +37,12 @@ class GameRecorder final : public GameLog {
 
     // The recording so far of the game in progress; empty if there is none. Valid until the next handler.
     std::string_view TextSoFar() const;
+    // The game in progress, as if it were left now; the real one goes on. Nothing if there is none.
+    std::optional<PlayedGame> LeftNow() const;
 
   private:
+    PlayedGame Played(GameEnding ending, std::string text) const;
+
     VMain& game;
     Recorder recorder;
     std::function<void(const PlayedGame& game)> keep;

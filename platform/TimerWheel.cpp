@@ -44,6 +44,13 @@ std::int64_t TimerWheel::Remaining(Timer timer) const {
     return std::chrono::duration_cast<std::chrono::milliseconds>(due - Moment()).count();
 }
 
+Nanoseconds TimerWheel::MomentBeforeDue() const {
+    const std::optional<Timer> first = First();
+    if (!first) return MomentAt(lastReading);
+    const Nanoseconds due = states[static_cast<std::size_t>(*first)].due;
+    return MomentAt(std::min<Nanoseconds>(lastReading, due - std::chrono::milliseconds(1)));
+}
+
 std::optional<Timer> TimerWheel::First() const {
     const State* first = nullptr;
     for (const State& state : states)

@@ -34,6 +34,8 @@ class TimerWheel {
 
     // The moment of the running handler, in milliseconds of game time.
     std::int64_t MomentInMilliseconds() const;
+    // The latest moment of any handler so far.
+    Nanoseconds LastMoment() const { return lastMoment; }
 
     bool IsOn(Timer timer) const { return states[static_cast<std::size_t>(timer)].isOn; }
     int Interval(Timer timer) const;  // milliseconds
@@ -51,11 +53,12 @@ class TimerWheel {
     // ticks. While game time is frozen, nothing ticks. Returns whether anything did.
     bool TickDue();
 
-    // Runs the handler of an input event, an activation or the like, after everything due by then has ticked.
+    // Runs the handler of an input event, an activation or the like, after everything due by then has ticked. While
+    // game time is frozen nothing ticks, and the handler's moment is before everything that is still due.
     template <typename Call>
     void Handle(Call handler) {
         TickDue();
-        const Running handling(*this, MomentAt(lastReading));
+        const Running handling(*this, MomentBeforeDue());
         handler();
     }
 
@@ -135,6 +138,7 @@ class TimerWheel {
     Nanoseconds MomentAt(Nanoseconds gameTime) const {
         return std::max<Nanoseconds>(std::chrono::floor<std::chrono::milliseconds>(gameTime), lastTick);
     }
+    Nanoseconds MomentBeforeDue() const;
     Nanoseconds Moment() const { return running ? running->moment : MomentAt(time.Now()); }
     std::optional<Timer> First() const;
     // Reads the clock into lastReading, and leaves out a stall.

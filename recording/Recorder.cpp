@@ -26,6 +26,10 @@ void PrintHexadecimal(Printer& out, std::uint32_t number) {
     for (int shift = 28; shift >= 0; shift -= 4) out << kDigits[number >> shift & 15];
 }
 
+std::string EndLine(std::int64_t moment, std::string_view how) {
+    return "end " + std::to_string(moment) + ' ' + std::string(how);
+}
+
 }  // namespace
 
 void Fingerprint::Print(std::string_view text) {
@@ -48,8 +52,14 @@ void Recorder::End(std::string_view how) {
     if (!isRecording) return;
     const std::int64_t moment = Moment();
     WriteCheck(moment);
-    Write("end " + std::to_string(moment) + ' ' + std::string(how));
+    Write(EndLine(moment, how));
     isRecording = false;
+}
+
+std::string Recorder::EndedNow(std::string_view how) const {
+    std::string ended = text;
+    AppendCheck(ended, Moment());
+    return ended + EndLine(Moment(), how) + '\n';
 }
 
 void Recorder::Drop() {
@@ -85,15 +95,19 @@ void Recorder::CheckBefore(std::int64_t moment) {
 }
 
 void Recorder::WriteCheck(std::int64_t moment) {
+    const std::size_t before = text.size();
+    AppendCheck(text, moment);
+    ofLines.Print(std::string_view(text).substr(before));
+}
+
+void Recorder::AppendCheck(std::string& lines, std::int64_t moment) const {
     Fingerprint whole;
     whole.Begin(ofLines.Value());
     printState(whole);
-    const std::size_t before = text.size();
-    TextPrinter line(text);
+    TextPrinter line(lines);
     line << "check " << moment << ' ';
     PrintHexadecimal(line, whole.Value());
     line << '\n';
-    ofLines.Print(std::string_view(text).substr(before));
 }
 
 void Recorder::Write(std::string_view line) {

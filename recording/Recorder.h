@@ -38,6 +38,8 @@ class Recorder final : public HandlerListener {
     // The game ends at that moment: writes the last check, and a line `end MOMENT how`. What comes after that is not
     // recorded.
     void End(std::string_view how);
+    // The text as it would be if the game ended now; recording goes on.
+    std::string EndedNow(std::string_view how) const;
     // Forgets what has been recorded.
     void Drop();
 
@@ -54,6 +56,7 @@ class Recorder final : public HandlerListener {
   private:
     void CheckBefore(std::int64_t moment);
     void WriteCheck(std::int64_t moment);
+    void AppendCheck(std::string& lines, std::int64_t moment) const;
     void Write(std::string_view line);
 
     const TimerWheel& wheel;

@@ -103,6 +103,7 @@ void WebPlatform::Work() {
 
 // One event at a time: each may close the window that the next one was meant for.
 bool WebPlatform::HandleEvents() {
+    TellHidden();
     page::Event event;
     bool handled = false;
     while (!ended && page::TakeEvent(&event) != 0) {
@@ -196,6 +197,12 @@ void WebPlatform::NoteVisibility() {
     if (isHidden == hidden) return;
     hidden = isHidden;
     if (hidden && main != nullptr && main->on.queryUnload) main->on.queryUnload();
+}
+
+void WebPlatform::TellHidden() {
+    if (ended || hidden == wasHidden) return;
+    wasHidden = hidden;
+    if (hidden && whenHidden) timers.Handle(whenHidden);
 }
 
 void WebPlatform::DeliverMinimised() {

@@ -33,6 +33,10 @@ class WebPlatform final : public Platform {
     // Called again and again as a handler of its own, but never while another one is running.
     std::function<void()> betweenHandlers;
 
+    // Called as a handler of its own, or within one that lets events run, after the page has been hidden, perhaps for
+    // ever.
+    std::function<void()> whenHidden;
+
     // Sends the page what has changed in the picture since the last call. May be called while the program waits.
     void Present();
 
@@ -83,6 +87,7 @@ class WebPlatform final : public Platform {
     void Rest();
     void WaitFor(double length);
     void NoteVisibility();
+    void TellHidden();
     void DeliverMinimised();
     void Open(Window& window, Place place);
     void SendSurface();
@@ -117,6 +122,7 @@ class WebPlatform final : public Platform {
     bool fieldHasKeys = false;  // likewise
     bool isPausedAsTold = false;
     bool hidden = false;     // as last seen on the page
+    bool wasHidden = false;  // as `whenHidden` was last told
     bool minimised = false;  // as the main window was last told
 };
 

@@ -188,6 +188,17 @@ TEST(TimerWheel, NothingTicksWhileGameTimeStandsStill) {
     EXPECT_EQ(bench.At(106), "EA");
 }
 
+TEST(TimerWheel, WhatIsHandledWhileTimeStandsStillComesBeforeWhatIsStillDue) {
+    Bench bench;
+    bench.Start(Timer::TimerA, 10);
+    bench.clock = std::chrono::milliseconds(12);  // such as by opening the box
+    const GameTime::Freeze box(bench.time);
+    std::int64_t moment = 0;
+    bench.wheel.Handle([&] { moment = bench.wheel.MomentInMilliseconds(); });
+    EXPECT_EQ(bench.ticks, "");
+    EXPECT_EQ(moment, 9);
+}
+
 TEST(TimerWheel, ATurnEndsThoughTicksTakeLongerThanTheirInterval) {
     Bench bench;
     bench.Start(Timer::LineExtender, 1);

@@ -79,6 +79,45 @@ test('a game that was played with the mouse is true, as a link and as a file', a
     assert.deepEqual(game.page.faults, []);
 });
 
+test('a game outlives its page and its program, and is kept once', async () => {
+    const game = await openGame();
+    const play = async () => {
+        await game.click('Arcade');
+        await game.untilMoved();
+        await sleep(1200); // what is left sooner is no game
+    };
+    const savedGames = async (count) => {
+        await game.click('Games');
+        const isFull = (number) => document.querySelectorAll('dialog li button').length === 4 * number;
+        await game.until(`${count} games`, isFull, count);
+        await game.click('Save as file');
+        await game.click('Close');
+        return verdict((await given(game)).at(-1));
+    };
+    await play();
+    await game.page.page.reload();
+    await game.placeOf('Arcade');
+    assert.match(await savedGames(1), /^Arcade, 0 points, level 9, 0:/);
+    await play();
+    await game.page.evaluate(() => {
+        CanvasRenderingContext2D.prototype.putImageData = () => {
+            throw new Error('planted');
+        };
+    });
+    await game.until('the sentence', () => document.body.innerText.includes('stopped because of an error. If you'));
+    assert.match(await savedGames(2), /^Arcade, 0 points, level 9, 0:/);
+    await game.page.page.reload();
+    await play();
+    await game.click('Games'); // which pauses the game, like a page that is hidden
+    await game.click('Close');
+    await game.page.key('Escape');
+    await game.placeOf('Arcade');
+    assert.match(await savedGames(3), /^Arcade, 0 points, level 9, 0:/);
+    await game.page.page.reload();
+    await game.placeOf('Arcade');
+    await savedGames(3);
+});
+
 test('a link is watched at any pace and moment, and nothing of the player’s changes', async () => {
     const game = await openGame(linkTo(recording));
     const before = await game.page.evaluate(() => localStorage.prismfall);

@@ -5,6 +5,7 @@ import { GameKind, type GameRecord, type ScoreRecord } from './records';
 const database = 'prismfall';
 const store = 'games';
 const mostLast = 20;
+const unfinishedKey = 'prismfall-unfinished'; // in the storage that can be written while a page is being closed
 
 export interface KeptGame extends GameRecord {
     /** Milliseconds since 1970. */
@@ -20,13 +21,13 @@ export class KeptGames {
     last: KeptGame | undefined;
     /** Called when `last` has changed. */
     whenPlayed: () => void = () => undefined;
-    /** Called when it has been stored. */
+    /** Called when a game has been stored. */
     whenKept: () => void = () => undefined;
 
     private scores = new Set<string>();
 
     constructor() {
-        void this.list();
+        void this.takeUnfinished();
     }
 
     /** Whether an Arcade game with that result was kept at the last look. */
@@ -43,6 +44,7 @@ export class KeptGames {
         this.last = { ...game, when: Date.now() };
         this.whenPlayed();
         const kept = this.last;
+        dropUnfinished();
         await change((games) => {
             games.add(kept);
             const all = games.getAll() as IDBRequest<StoredGame[]>;
@@ -52,6 +54,24 @@ export class KeptGames {
         }).catch(() => undefined);
         await this.list();
         this.whenKept();
+    }
+
+    /** Stores a game at once, in case the page is about to be closed. */
+    keepUnfinished(game: GameRecord): void {
+        try {
+            localStorage.setItem(unfinishedKey, JSON.stringify({ ...game, when: Date.now() }));
+        } catch {
+            // Only the recording is lost.
+        }
+    }
+
+    /** Moves a game that was left unfinished to the others. Returns whether there was one. */
+    async takeUnfinished(): Promise<boolean> {
+        const game = unfinished();
+        if (game) await change((games) => games.add(game)).then(dropUnfinished, () => undefined);
+        await this.list();
+        this.whenKept();
+        return game !== undefined;
     }
 
     /** The newest first; none if the browser has no database for the page. */
@@ -67,6 +87,22 @@ export class KeptGames {
     async forget(id: number): Promise<void> {
         await change((games) => games.delete(id)).catch(() => undefined);
         await this.list();
+    }
+}
+
+function unfinished(): KeptGame | undefined {
+    try {
+        return JSON.parse(localStorage.getItem(unfinishedKey) ?? '') as KeptGame;
+    } catch {
+        return undefined;
+    }
+}
+
+function dropUnfinished(): void {
+    try {
+        localStorage.removeItem(unfinishedKey);
+    } catch {
+        // Nor was it stored.
     }
 }
 

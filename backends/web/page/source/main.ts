@@ -83,9 +83,11 @@ async function start(): Promise<void> {
     await kept.watchLink();
     const run = (await program).run(machine);
     void fetchTheRest(pictures, sounds, music);
-    await run.catch((error: unknown) => {
+    await run.catch(async (error: unknown) => {
         console.error(error);
-        end('Prismfall has stopped because of an error.');
+        const isKept = await games.takeUnfinished();
+        const request = ' If you report it, please include the recording of your game, the newest one under Games.';
+        end('Prismfall has stopped because of an error.' + (isKept ? request : ''));
     });
 }
 

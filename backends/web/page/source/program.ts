@@ -50,6 +50,7 @@ interface Exports {
     readonly _initialize: () => void;
     readonly run: () => void;
     readonly present: () => void;
+    readonly keepGameSoFar: () => void;
     readonly recordSizes: () => number;
     readonly suspendedStack: () => number;
     readonly asyncify_start_unwind: (stack: number) => void;
@@ -89,7 +90,7 @@ async function runSuspending(module: WebAssembly.Module, machine: Machine): Prom
     const { Suspending, promising } = WebAssembly as unknown as Suspension;
     const start = (wait: Wait) => new Suspending(wait);
     const program = await instantiate(module, machine, start);
-    await promising(program.run)();
+    await promising(program.run)().catch((error: unknown) => fail(program, error));
 }
 
 /** Each wait unwinds all the way to this loop, which calls the program again when the wait is over. */
@@ -107,15 +108,29 @@ async function runUnwinding(module: WebAssembly.Module, machine: Machine): Promi
         stack = program.suspendedStack();
         program.asyncify_start_unwind(stack);
     });
-    for (;;) {
-        program.run();
-        if (!waited) return;
-        program.asyncify_stop_unwind();
-        await waited;
-        waited = undefined;
-        isRewinding = true;
-        program.asyncify_start_rewind(stack);
+    try {
+        for (;;) {
+            program.run();
+            if (!waited) return;
+            program.asyncify_stop_unwind();
+            await waited;
+            waited = undefined;
+            isRewinding = true;
+            program.asyncify_start_rewind(stack);
+        }
+    } catch (error) {
+        fail(program, error);
     }
+}
+
+/** A program that has failed still knows the game, whose recording tells what led to it. */
+function fail(program: Exports, error: unknown): never {
+    try {
+        program.keepGameSoFar();
+    } catch (another) {
+        console.error(another);
+    }
+    throw error;
 }
 
 async function instantiate(
@@ -167,6 +182,7 @@ async function instantiate(
         writeSettings: (address: number, length: number) => (settings.write(text(address, length)) ? 1 : 0),
         keepGame: (game: number, table: number, rows: number) =>
             void games.keep(readGame(memory, game), readScores(memory, table, rows)),
+        keepUnfinished: (game: number) => games.keepUnfinished(readGame(memory, game)),
         openRecording: () => watching.open(),
         readRecording: (address: number) => watching.copyTo(new Uint8Array(memory.buffer, address)),
         refuseRecording: (line: number, address: number, length: number) =>
