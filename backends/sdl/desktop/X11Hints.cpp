@@ -146,15 +146,15 @@ int IgnoreError(Display*, XErrorEvent*) { return 0; }
 
 XErrorHandler otherErrors = nullptr;
 
-// SDL interrupts its own wait by sending an event to one of the windows over a second connection. The server may read
-// it after that window, a dialog, has been closed, and then reply with an error that would end the program.
-int IgnoreLateWakeUp(Display* display, XErrorEvent* error) {
-    constexpr unsigned char kSendEvent = 25;  // the request's number in the X protocol
-    if (error->error_code == BadWindow && error->request_code == kSendEvent) return 0;
+// Windows go at any moment: a dialog that is closed, the frame that the window manager gave it. What SDL has still asked
+// about one, or sent to it over its second connection to interrupt its own wait, has an error for an answer, which would
+// end the program.
+int IgnoreGoneWindow(Display* display, XErrorEvent* error) {
+    if (error->error_code == BadWindow || error->error_code == BadDrawable) return 0;
     return otherErrors(display, error);
 }
 
-void IgnoreLateWakeUpErrors() { otherErrors = XSetErrorHandler(IgnoreLateWakeUp); }
+void IgnoreGoneWindows() { otherErrors = XSetErrorHandler(IgnoreGoneWindow); }
 
 std::function<void()> endWithoutDisplay;
 std::thread::id endingThread;
@@ -249,7 +249,7 @@ bool OpenDisplay(std::string& failure) {
     // the time until the first picture is shown. Wayland's keyboards would complain about the empty table.
     if (std::getenv("DISPLAY") != nullptr) setenv("XCOMPOSEFILE", "/dev/null", 0);
     // Before SDL sets its own handler: that one calls this one, and restores it when the connections are closed.
-    IgnoreLateWakeUpErrors();
+    IgnoreGoneWindows();
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
         failure = std::string("No X11 or Wayland display can be opened (") + SDL_GetError() + ").";
         return false;
