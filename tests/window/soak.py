@@ -22,6 +22,7 @@ import layout  # noqa: E402
 
 LEAKS = {"LSAN_OPTIONS": f"suppressions={HERE / 'leaks.txt'}:print_suppressions=0"}
 LONGEST_RUN = 60  # seconds; then the game gets a SIGTERM
+REPORT_PAUSE = 60  # seconds
 # xdotool commands, weighted by repetition: W is a window, P a place in it, B a mouse button, K a key.
 ACTIONS = {"mousemove --window W P click B": 60, "mousemove --window W P click --repeat 2 --delay 30 B": 8, "key K": 6,
            "mousemove --window W P mousedown B mousemove --window W P mouseup B": 6, "mousemove --window W P click 4": 2,
@@ -113,8 +114,9 @@ def main(program, games, seed=None, desktops=8):
                for i in range(int(desktops))]
     for player in players:
         player.start()
-    for player in players:
-        player.join()
+    while any(player.is_alive() for player in players):
+        time.sleep(REPORT_PAUSE)
+        print(f"{true.value} so far", flush=True)
     print(f"seed {seed}: {true.value} of {int(games) - left.value} recordings are true")
     return 1 if any(player.exitcode for player in players) else 0
 
