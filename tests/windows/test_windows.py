@@ -7,6 +7,7 @@ PACKAGES is build/windows-packages; screenshots of failures go to FOLDER. PRISMF
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import time
@@ -86,9 +87,14 @@ class Programs(WindowsTest):
         (folder / "replays").write_bytes(replays)
         expected["replays"] = subprocess.run([NATIVE], input=replays, capture_output=True, check=True).stdout
         self.assertEqual(expected["replays"].count(b"dialog VPuzzleResult solved"), 90)
+        shutil.copytree(ROOT / "tests/recordings", folder / "games")
+        verify = ["verify", *(f"games/{game.name}" for game in (folder / "games").iterdir())]
+        (folder / "verified").touch()
+        expected["verified"] = subprocess.run([NATIVE, *verify], cwd=folder, capture_output=True, check=True).stdout
         (folder / "driver.exe").symlink_to(BUILT / "prismfall-headless.exe")
-        run = "driver.exe <{0} >{0}.out 2>{0}.err\r\nif errorlevel 1 >>{0}.err echo exit status %errorlevel%\r\n"
-        (folder / "all.bat").write_text("".join(run.format(name) for name in expected))
+        run = "driver.exe {1} <{0} >{0}.out 2>{0}.err\r\nif errorlevel 1 >>{0}.err echo exit status %errorlevel%\r\n"
+        words = {"verified": " ".join(verify)}
+        (folder / "all.bat").write_text("".join(run.format(name, words.get(name, "")) for name in expected))
         self.wine("cmd", "/c", "all.bat", cwd=folder, stdout=subprocess.DEVNULL)
         for name, text in expected.items():
             errors = (folder / f"{name}.err").read_bytes().replace(b"\r", b"")
