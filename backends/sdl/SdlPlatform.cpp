@@ -93,13 +93,6 @@ void SdlPlatform::Run(Window& mainWindow) {
     loop.Run();
 }
 
-void SdlPlatform::Drop(const std::string& dropped) {
-    SDL_Event event{};
-    event.type = SDL_DROPFILE;
-    event.drop.file = SDL_strdup(dropped.c_str());
-    SDL_PushEvent(&event);
-}
-
 void SdlPlatform::CloseProgram() {
     if (main != nullptr && main->on.queryUnload) main->on.queryUnload();
     if (main != nullptr && main->on.unload) main->on.unload();

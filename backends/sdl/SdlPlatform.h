@@ -31,8 +31,7 @@ class SdlPlatform final : public Platform {
 
     // See SdlDesktop.h.
     void WhenDropped(std::function<void(const std::string& dropped)> act) { desktop.WhenDropped(std::move(act)); }
-    // Acts as if the player had dropped that, once the running handlers have returned.
-    static void Drop(const std::string& dropped);
+    static void Drop(const std::string& dropped) { SdlDesktop::Drop(dropped); }
 
     void SurfaceLine(int x1, int y1, int x2, int y2, Colour colour, int width) override;
     void SurfaceBox(int x1, int y1, int x2, int y2, Colour colour, int width) override;

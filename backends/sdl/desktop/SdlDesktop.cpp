@@ -15,6 +15,9 @@ namespace {
 
 constexpr std::uint32_t kFrameMilliseconds = 100;  // how long a desktop may take to draw a frame
 
+// SDL2 on top of SDL3 crashes on a drop event that a program pushes.
+constexpr std::uint32_t kDroppedByProgram = SDL_USEREVENT;
+
 constexpr int kCommandKeys = KMOD_CTRL | KMOD_ALT | KMOD_GUI;
 
 struct KeyRow {
@@ -201,7 +204,8 @@ bool SdlDesktop::IsEndWaiting() {
 void SdlDesktop::Handle(const SDL_Event& event) {
     if (AsksForEnd(event)) return endAsked();
     if (event.type == SDL_AUDIODEVICEREMOVED && event.adevice.iscapture == 0) return soundLost();
-    if (event.type == SDL_DROPFILE || event.type == SDL_DROPTEXT) return HandleDrop(event.drop);
+    if (event.type == SDL_DROPFILE || event.type == SDL_DROPTEXT) return HandleDrop(event.drop.file);
+    if (event.type == kDroppedByProgram) return HandleDrop(static_cast<char*>(event.user.data1));
     if (windows.empty()) return;
     if (event.type == SDL_WINDOWEVENT) return HandleWindowEvent(event.window);
     // Keys go to the topmost window even if the desktop focuses none.
@@ -216,10 +220,17 @@ void SdlDesktop::Handle(const SDL_Event& event) {
     Press(gamepads.KeyOf(event));
 }
 
-void SdlDesktop::HandleDrop(const SDL_DropEvent& event) const {
-    const std::unique_ptr<char, void (*)(void*)> dropped(event.file, SDL_free);
-    if (dropped && whenDropped && windows.size() == 1 && windows.front().real->Data().takesInput)
-        whenDropped(dropped.get());
+void SdlDesktop::Drop(const std::string& dropped) {
+    SDL_Event event{};
+    event.type = kDroppedByProgram;
+    event.user.data1 = SDL_strdup(dropped.c_str());
+    SDL_PushEvent(&event);
+}
+
+void SdlDesktop::HandleDrop(char* dropped) const {
+    const std::unique_ptr<char, void (*)(void*)> owned(dropped, SDL_free);
+    if (owned && whenDropped && windows.size() == 1 && windows.front().real->Data().takesInput)
+        whenDropped(owned.get());
 }
 
 void SdlDesktop::HandleKey(const SDL_KeyboardEvent& event) {

@@ -29,6 +29,8 @@ class SdlDesktop {
     // Called with the name of a file, or a text, that is dropped on the main window while that has input. From then on
     // the desktop shows that the window takes them.
     void WhenDropped(std::function<void(const std::string& dropped)> act) { whenDropped = std::move(act); }
+    // Acts as if the player had dropped that, once the running handlers have returned.
+    static void Drop(const std::string& dropped);
     SdlDesktop(const SdlDesktop&) = delete;
     SdlDesktop& operator=(const SdlDesktop&) = delete;
     ~SdlDesktop();
@@ -76,7 +78,7 @@ class SdlDesktop {
     void HandleWindowEvent(const SDL_WindowEvent& event);
     void HandleFocus(Shown& shown);
     void HandleFocusLoss(const Shown& shown);
-    void HandleDrop(const SDL_DropEvent& event) const;
+    void HandleDrop(char* dropped) const;
     void HandleButton(const SDL_MouseButtonEvent& event);
     void HandleKey(const SDL_KeyboardEvent& event);
     void Press(Key key);
