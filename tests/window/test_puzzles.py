@@ -21,8 +21,7 @@ class Puzzles(harness.WindowTest):
             run.main.key("Escape")
         run.wait_for_main_menu()
         self.end_in_menu(run)
-        solved = [name for name, value in settings.read()["SolvedPuzzles"].items() if value == "True"]
-        self.assertEqual(solved, ["Puzzle1"])
+        self.assertEqual(settings.solved(), ["1"])
 
     def test_a_lost_puzzle_is_watched_being_solved(self):
         run = self.start()

@@ -60,6 +60,10 @@ class Settings:
         parser.read(self.file)
         return {name: dict(parser[name]) for name in parser.sections()}
 
+    def solved(self):
+        """The numbers of the solved puzzles, as text."""
+        return [name.removeprefix("Puzzle") for name, is_solved in self.read()["SolvedPuzzles"].items() if is_solved == "True"]
+
 
 class Game:
     """A run of the program. It starts at once; `main` is its window once it is open."""
