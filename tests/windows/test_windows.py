@@ -171,9 +171,10 @@ class Player(WindowsTest):
         recordings = settings.file.parent / "recordings"
         self.assertEqual(set(self.user.rglob("*rismfall*")), {settings.file.parent, *recordings.iterdir()})
         self.assertEqual(set(settings.file.parent.iterdir()), {settings.file, recordings})
-        (recording,) = recordings.iterdir()
-        verdict = subprocess.run([NATIVE, "verify", recording], capture_output=True, text=True)
-        self.assertRegex(verdict.stdout, r": Arcade, \d+ points, level \d+, \d+:\d\d\n$")
+        # On a slow machine the first game has been long enough to be kept, too.
+        verdict = subprocess.run([NATIVE, "verify", *recordings.iterdir()], capture_output=True, text=True)
+        self.assertEqual(verdict.returncode, 0, verdict.stdout)
+        self.assertRegex(verdict.stdout, r"(?m): Arcade, \d+ points, level \d+, \d+:\d\d$")
 
     def test_a_folder_of_any_name_and_the_end_of_the_session(self):
         folder = self.folder() / "Zoë & 遊戯"
