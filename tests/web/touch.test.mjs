@@ -14,8 +14,8 @@ const stored = '[General]\nPlayFirstTime=False\nMusic=False\nSoundEffects=False\
 /** The tick, what a finger does then, and which end of a beam it meets where. */
 const solutions = JSON.parse(readFileSync('tests/support/solutions.json'));
 const tickLength = 75; // milliseconds, on a machine that never stalls
-const early = 8; // ticks
-const late = 2000; // milliseconds; then it is met a little off its way
+const early = 2; // ticks
+const late = 5000; // milliseconds; then it is met a little off its way
 
 class Fingers extends Game {
     menuPage = 0;
@@ -40,8 +40,10 @@ class Fingers extends Game {
     /** Waits until the end of a beam comes by, and touches it. */
     async act(what, x, y) {
         const isPainted = ([left, top]) => {
-            const field = document.querySelector('canvas + canvas').getContext('2d');
-            return field.getImageData(left - 30, top - 18, 28, 1).data.some((part, i) => i % 4 < 3 && part > 0);
+            const field = document.querySelector('canvas + canvas');
+            const [fromLeft, fromTop] = [left - parseInt(field.style.left), top - parseInt(field.style.top)];
+            const { data } = field.getContext('2d').getImageData(fromLeft - 8, fromTop - 2, 16, 4);
+            return data.some((part, i) => i % 4 < 3 && part > 0);
         };
         for (const end = Date.now() + late; Date.now() < end && !(await this.page.evaluate(isPainted, [x, y]));)
             await sleep(50);
@@ -60,12 +62,13 @@ class Fingers extends Game {
             await this.act(what, +x, +y);
             [last, then] = [tick, Date.now()];
         }
-        await this.untilSolved();
+        await this.untilSolved(`puzzle ${puzzle}`);
     }
 
-    async untilSolved() {
+    async untilSolved(what) {
         await this.dialog('Puzzle Result');
-        assert.ok(await this.page.evaluate(() => !!document.querySelector('[alt="You Succeeded!"]')?.offsetParent));
+        const isSolved = () => !!document.querySelector('[alt="You Succeeded!"]')?.offsetParent;
+        assert.ok(await this.page.evaluate(isSolved), what);
         await this.tap('Menu');
         await this.noDialog();
         await this.page.page.goBack().catch(() => undefined);
@@ -114,7 +117,7 @@ for (const only of ways) {
             if (place === 3 && !only) await game.turn('across');
         }
         assert.match(said.join('\n'), /red beam: tap.*\n.*\n.*blue beam.*tap(.*\n)+.*faster: tap/);
-        await game.untilSolved();
+        await game.untilSolved('the tutorial');
         await game.page.close();
     });
 
@@ -128,6 +131,42 @@ for (const only of ways) {
         await game.page.close();
     });
 }
+
+test('the extras are large enough for fingers, which scroll them, and take a new key', async () => {
+    const scrollTo = (words) => {
+        const isMeant = (node) => [node.textContent, node.firstElementChild?.alt].includes(words);
+        [...document.querySelectorAll('.long [data-element]')].find(isMeant).scrollIntoView({ block: 'center' });
+    };
+    const marked = () =>
+        [...document.querySelectorAll('.choice:has(:checked)')].map((node) => node.textContent).join(', ');
+    const smallest = () =>
+        Math.min(...[...document.querySelectorAll('.choice')].map((node) => node.getBoundingClientRect().height));
+    for (const way of ['upright', 'across']) {
+        const game = await begin(way);
+        await game.tap('Extras');
+        await game.placeOf('OK');
+        assert.ok((await game.page.evaluate(smallest)) >= 30, way);
+        for (const words of ['A pattern for each colour', 'R', 'x', '25 %', 'OK']) {
+            await sleep(600); // no double click
+            if (words === 'x') await game.page.key(words);
+            else {
+                await game.page.evaluate(scrollTo, words);
+                await game.tap(words);
+            }
+        }
+        await game.noDialog();
+        await sleep(600);
+        assert.equal(
+            await game.page.evaluate(() => document.querySelector('dialog')),
+            null,
+            'nothing below was clicked',
+        );
+        await game.tap('Extras');
+        await game.placeOf('X');
+        assert.equal(await game.page.evaluate(marked), 'A pattern for each colour, 100 %, 25 %, 100 %');
+        await game.page.close();
+    }
+});
 
 /** A gamepad that this test makes up, with buttons by their numbers in the standard layout. */
 const madeUpPad = () => {
@@ -156,6 +195,6 @@ test('a gamepad picks a puzzle, pauses and resumes it', { skip: name !== 'chromi
     await press(start);
     await game.until('the pause', () => document.getElementById('notice').textContent === 'Paused');
     await press(start);
-    await game.untilSolved();
+    await game.untilSolved('puzzle 5');
     await game.page.close();
 });

@@ -3,7 +3,8 @@
 import type { Input } from './input';
 import type { Keys } from './keys';
 
-const longestTap = 300; // milliseconds; a longer press holds the switch only until it is released
+// Milliseconds. A longer press holds the switch only until it is released, and so does one in which another finger presses.
+const longestTap = 300;
 
 export function connectControls(
     input: Input,
@@ -26,6 +27,7 @@ export function connectControls(
     // While a thumb holds the switch, the other hand's fingers press the right button.
     let before = false;
     let heldSince = 0;
+    let touchesBefore = 0;
     const set = (isRight: boolean) => {
         input.fingersPressRight = isRight;
         right.setAttribute('aria-pressed', String(isRight));
@@ -33,12 +35,13 @@ export function connectControls(
     right.addEventListener('pointerdown', () => {
         before = input.fingersPressRight;
         heldSince = performance.now();
+        touchesBefore = input.touches;
         set(true);
     });
     for (const kind of ['pointerup', 'pointercancel'])
         right.addEventListener(kind, () => {
-            const wasHeld = performance.now() - heldSince > longestTap || kind === 'pointercancel';
-            set(wasHeld ? before : !before);
+            const isTap = performance.now() - heldSince <= longestTap && input.touches === touchesBefore;
+            set(isTap && kind === 'pointerup' ? !before : before);
         });
 
     full.hidden = !document.fullscreenEnabled;

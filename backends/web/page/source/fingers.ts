@@ -59,6 +59,7 @@ export function touched(root: HTMLElement, { clientX, clientY }: PointerEvent): 
             continue;
         const { left, right, top, bottom } = node.getBoundingClientRect();
         const middle = { clientX: (left + right) / 2, clientY: (top + bottom) / 2 };
+        if (isScrolledAway(middle.clientY, root)) continue;
         if (isOnField && (left > field.right || top > field.bottom)) continue;
         const isInReach = isWithin(clientX, left, right) && isWithin(clientY, top, bottom);
         const distance = Math.hypot(outside(clientX, left, right), outside(clientY, top, bottom));
@@ -67,6 +68,11 @@ export function touched(root: HTMLElement, { clientX, clientY }: PointerEvent): 
         nearest = { ...middle, button: node.className === 'spot' ? Number(node.dataset['button']) : leftButton };
     }
     return nearest;
+}
+
+function isScrolledAway(y: number, root: HTMLElement): boolean {
+    const { top, bottom } = root.getBoundingClientRect();
+    return root.matches('.long') && outside(y, top, bottom) > 0;
 }
 
 /** How far a place lies outside a range. */

@@ -1,6 +1,7 @@
 // Mouse, fingers and keys as events of the game. The program finds out which element a press is on; the page's own
 // elements matter only where a key or a screen reader clicks them.
 import { leftButton, rightButton, touched, type Touched } from './fingers';
+import { middleOf, placeInLong } from './longDialog';
 import { EventKind } from './records';
 import type { Waiting } from './waiting';
 
@@ -23,6 +24,8 @@ interface Finger extends Held {
 export class Input {
     /** Whether a finger acts as the right button. */
     fingersPressRight = false;
+    /** How often fingers have pressed so far. */
+    touches = 0;
     private readonly fingers = new Map<number, Finger>();
     private readonly held = new Map<number, Held>();
     private pressSeen = false;
@@ -38,6 +41,8 @@ export class Input {
         root.addEventListener('mousedown', (event) => this.press(event, held));
         root.addEventListener('mousemove', (event) => this.send(EventKind.Move, held, 0, event));
         root.addEventListener('pointerdown', (event) => this.touchStart(event, held));
+        // No click: a dialog may have closed by then, and what lay below it would get the click.
+        root.addEventListener('touchend', (event) => event.cancelable && event.preventDefault());
         root.addEventListener('contextmenu', (event) => event.preventDefault());
         root.addEventListener('click', (event) => this.click(event, held));
     }
@@ -62,6 +67,7 @@ export class Input {
         if (event.pointerType !== 'touch') return;
         event.preventDefault();
         this.pressSeen = true;
+        this.touches += 1;
         const place = touched(held.root, event);
         const isRight = this.fingersPressRight || this.fingers.size > 0;
         const button = place.button ?? (isRight ? rightButton : leftButton);
@@ -113,21 +119,24 @@ export class Input {
         number: number,
         event: Pick<MouseEvent, 'clientX' | 'clientY'>,
     ): void {
-        const moved = root.classList.contains('apart') ? panelPlace(event.clientX, event.clientY) : undefined;
+        const { clientX, clientY } = event;
+        const moved = root.matches('.apart')
+            ? panelPlace(clientX, clientY)
+            : root.matches('.long')
+              ? placeInLong(clientX, clientY)
+              : undefined;
         if (moved) {
             this.waiting.send(kind, window, number, ...moved);
             return;
         }
         const box = root.getBoundingClientRect();
         const scale = box.width / root.offsetWidth;
-        this.waiting.send(kind, window, number, (event.clientX - box.left) / scale, (event.clientY - box.top) / scale);
+        this.waiting.send(kind, window, number, (clientX - box.left) / scale, (clientY - box.top) / scale);
     }
 }
 
 /** Where the page has moved the panel, a press on an element in it counts as one on the middle of that element. */
 function panelPlace(x: number, y: number): [number, number] | undefined {
     const node = document.elementFromPoint(x, y)?.closest<HTMLElement>('.apart > .panel');
-    if (!node) return undefined;
-    const { left, top, width, height } = node.style;
-    return [parseFloat(left) + parseFloat(width) / 2, parseFloat(top) + parseFloat(height) / 2];
+    return node ? middleOf(node) : undefined;
 }

@@ -2,6 +2,7 @@
 import { add, Elements, make, makeSpot } from './elements';
 import type { Input } from './input';
 import { type Layout, place } from './layout';
+import { layOutLong } from './longDialog';
 import type { Notices } from './notices';
 import type { Pictures } from './pictures';
 import { type ElementRecord, EventKind, type SpotRecord, type WindowRecord } from './records';
@@ -50,6 +51,8 @@ export class Windows {
         const window = { record, elements, dialog };
         this.windows.set(number, window);
         this.placeDialog(window);
+        // Its elements are there only then.
+        queueMicrotask(() => this.placeDialog(window));
         this.input.attach(root, number);
         dialog?.showModal();
         dialog?.focus();
@@ -92,8 +95,6 @@ export class Windows {
     private makeDialog(number: number, record: WindowRecord): HTMLDialogElement {
         const dialog = add(document.body, make('dialog', 'dialog'));
         const inner = add(dialog, make('div', 'inner'));
-        inner.style.width = `${record.width}px`;
-        inner.style.height = `${record.height}px`;
         inner.id = `inner${number}`;
         dialog.setAttribute('aria-describedby', inner.id);
         // The dialog itself has the focus at first, so that its title and texts are read.
@@ -115,6 +116,9 @@ export class Windows {
     }
 
     private placeDialog({ dialog, record }: OpenWindow): void {
-        if (dialog) place(dialog, this.layout.dialog(record.left, record.top, record.width, record.height));
+        const inner = dialog?.querySelector<HTMLElement>('.inner');
+        if (!dialog || !inner) return;
+        const { left, top, width, height } = record;
+        place(dialog, layOutLong(inner, record) ?? this.layout.dialog(left, top, width, height));
     }
 }
