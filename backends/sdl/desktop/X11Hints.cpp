@@ -146,9 +146,9 @@ int IgnoreError(Display*, XErrorEvent*) { return 0; }
 
 XErrorHandler otherErrors = nullptr;
 
-// Windows go at any moment: a dialog that is closed, the frame that the window manager gave it. What SDL has still asked
-// about one, or sent to it over its second connection to interrupt its own wait, has an error for an answer, which would
-// end the program.
+// Windows go at any moment: a dialog that is closed, the frame that the window manager gave it. What SDL has still
+// asked about one, or sent to it over its second connection to interrupt its own wait, has an error for an answer,
+// which would end the program.
 int IgnoreGoneWindow(Display* display, XErrorEvent* error) {
     if (error->error_code == BadWindow || error->error_code == BadDrawable) return 0;
     return otherErrors(display, error);
