@@ -173,7 +173,7 @@ test('links from strangers are refused in a sentence, soon, and never become mar
         assert.ok(performance.now() - start < PATIENCE, `${sentence} takes too long`);
         assert.ok(words.includes(sentence), `${words}: ${sentence}`);
     }
-    assert.equal(await game.page.evaluate(() => document.querySelector('[src=x]') ?? document.title), 'Prismfall');
+    assert.equal(await game.page.evaluate(() => document.querySelector('[src=x]') ?? document.title), 'Prismfall v1.1');
     await game.click('Arcade');
     await game.untilMoved();
 });
