@@ -129,6 +129,7 @@ export class Games {
             file.value = '';
         });
         dialog.addEventListener('close', () => {
+            if (dialog.open) return; // again, in the meantime
             dialog.remove();
             this.parts.waiting.cover(false);
         });
