@@ -9,7 +9,7 @@ import { promisify } from 'node:util';
 
 const run = promisify(execFile);
 const lossless = ['-lossless', '-z', '7'];
-const nearly = ['-q', '90', '-m', '6', '-sharp_yuv'];
+const nearly = ['-q', '88', '-m', '6', '-sharp_yuv'];
 const small = ['-q', '75', '-m', '6', '-sharp_yuv']; // icons, which are shown smaller than they are
 const largest = 50_000; // bytes, lossless
 
