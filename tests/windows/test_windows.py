@@ -138,6 +138,7 @@ class Player(WindowsTest):
         settings = WineSettings(self.user, {"General": {"Music": "False"}})
         run = self.play(folder / "prismfall.exe", settings)
         run.answer_dialog(layout.ABOUT, seconds=10)
+        time.sleep(1)  # wine moves the focus after the dialog has gone; a press before that is lost
         spot, button = next(layout.tutorial())
         run.press("CmdStart")
         run.wait_for_motion(10)
