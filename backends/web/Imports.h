@@ -207,8 +207,8 @@ PAGE_IMPORT("writeSettings") std::int32_t WriteSettings(const char* text, std::u
 // Keeps a game, together with the last ones and those of the score table, of which there are `rows`. The page stores it
 // when it can; if it cannot, the recording is lost.
 PAGE_IMPORT("keepGame") void KeepGame(const GameRecord* game, const ScoreRecord* table, std::int32_t rows);
-// Keeps a game that may never be finished, since the page is about to be hidden or the program has failed; at once,
-// since there may be no later. The page drops it when a game is kept, and lists it if it starts again before that.
+// Keeps a game that may never be finished, since the page has been hidden or the program has failed. The page stores it
+// at once, in case it is being closed, drops it when a game is kept, and lists it if it starts again before that.
 PAGE_IMPORT("keepUnfinished") void KeepUnfinished(const GameRecord* game);
 // The length in bytes of the recording that is to be watched, which may be any text; 0 for none.
 PAGE_IMPORT("openRecording") std::uint32_t OpenRecording();

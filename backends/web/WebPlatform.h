@@ -32,9 +32,8 @@ class WebPlatform final : public Platform {
     std::function<void(page::WatchCommand command, float value)> whenWatching;
     // Called again and again as a handler of its own, but never while another one is running.
     std::function<void()> betweenHandlers;
-
-    // Called as a handler of its own, or within one that lets events run, after the page has been hidden, perhaps for
-    // ever.
+    // Called when the page has been hidden, perhaps for good, as a handler of its own or within one that lets events
+    // run.
     std::function<void()> whenHidden;
 
     // Sends the page what has changed in the picture since the last call. May be called while the program waits.

@@ -191,7 +191,7 @@ TEST(TimerWheel, NothingTicksWhileGameTimeStandsStill) {
 TEST(TimerWheel, WhatIsHandledWhileTimeStandsStillComesBeforeWhatIsStillDue) {
     Bench bench;
     bench.Start(Timer::TimerA, 10);
-    bench.clock = std::chrono::milliseconds(12);  // such as by opening the box
+    bench.clock = std::chrono::milliseconds(12);  // opening the box took that long
     const GameTime::Freeze box(bench.time);
     std::int64_t moment = 0;
     bench.wheel.Handle([&] { moment = bench.wheel.MomentInMilliseconds(); });

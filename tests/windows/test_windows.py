@@ -138,7 +138,7 @@ class Player(WindowsTest):
         settings = WineSettings(self.user, {"General": {"Music": "False"}})
         run = self.play(folder / "prismfall.exe", settings)
         run.answer_dialog(layout.ABOUT, seconds=10)
-        time.sleep(1)  # wine moves the focus after the dialog has gone; a press before that is lost
+        time.sleep(1)  # under wine a press right after the dialog has gone is sometimes lost
         spot, button = next(layout.tutorial())
         run.press("CmdStart")
         run.wait_for_motion(10)
@@ -191,7 +191,7 @@ class Player(WindowsTest):
         self.wine("wineboot", "--end-session", "--kill")
         run.wait_for_end(20)
         self.assertEqual(settings.count(), ALL_VALUES)
-        # Whatever starts in the remains of a session is not sure to get its clicks.
+        # A program that starts in what is left of the session may lose its clicks.
         for end in ("-k", "-w"):
             subprocess.run([SERVER, end], env=self.desktop.environment, timeout=60)
 

@@ -146,9 +146,9 @@ int IgnoreError(Display*, XErrorEvent*) { return 0; }
 
 XErrorHandler otherErrors = nullptr;
 
-// Windows go at any moment: a dialog that is closed, the frame that the window manager gave it. What SDL has still
-// asked about one, or sent to it over its second connection to interrupt its own wait, has an error for an answer,
-// which would end the program.
+// Windows disappear at any moment: a dialog that is closed, or the frame that the window manager gave it. Requests
+// about them that SDL still has on the way, such as the event with which it interrupts its own wait, are answered with
+// an error, which would end the program.
 int IgnoreGoneWindow(Display* display, XErrorEvent* error) {
     if (error->error_code == BadWindow || error->error_code == BadDrawable) return 0;
     return otherErrors(display, error);

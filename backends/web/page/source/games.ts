@@ -129,7 +129,7 @@ export class Games {
             file.value = '';
         });
         dialog.addEventListener('close', () => {
-            if (dialog.open) return; // again, in the meantime
+            if (dialog.open) return; // it has been opened again since
             dialog.remove();
             this.parts.waiting.cover(false);
         });
