@@ -36,7 +36,7 @@ async function openGame(hash = '') {
     await page.size(900, 760);
     await page.page.evaluateOnNewDocument(`
         if (location.protocol === 'http:')
-            localStorage.prismfall ??= '[General]\\nPlayFirstTime=False\\nMusic=False\\nStartLevel=9\\n';
+            localStorage.prismfall ??= '[General]\\nPlayFirstTime=False\\nMusic=False\\nStartLevel=3\\n';
         globalThis.given = [];
         const { createObjectURL } = URL;
         URL.createObjectURL = (file) => {
@@ -57,7 +57,7 @@ test('a game that was played with the mouse is true, as a link and as a file', a
     await game.click('Arcade');
     await game.untilMoved();
     for (let i = 0; i < 12; ++i) await game.press(60 + 50 * i, 60 + 5 * i, i % 3 ? 'left' : 'right');
-    await sleep(1000); // what is left sooner is no game
+    await game.untilWorthKeeping();
     await game.click('Games');
     await game.click('Close');
     await game.placeOf('Resume');
@@ -68,7 +68,7 @@ test('a game that was played with the mouse is true, as a link and as a file', a
     await game.click('Save as file');
     const [link, file] = await given(game);
     const linked = inflateRawSync(Buffer.from(link.split('#1.')[1], 'base64url')).toString();
-    assert.match(verdict(file), /^Arcade, \d+ points, level 9, 0:/);
+    assert.match(verdict(file), /^Arcade, \d+ points, level 3, 0:/);
     assert.equal(verdict(linked), verdict(file));
     assert.match(file, /press 1 .*press 2 .*minimise\n/s);
     await game.click('Watch');
@@ -79,12 +79,31 @@ test('a game that was played with the mouse is true, as a link and as a file', a
     assert.deepEqual(game.page.faults, []);
 });
 
+const hasFailed = () => document.body.innerText.includes('stopped because of an error. If you');
+
+function failAlways() {
+    CanvasRenderingContext2D.prototype.putImageData = () => {
+        throw new Error('planted');
+    };
+}
+
+/** Fails only while a press is handled, when the picture changes before the program waits again. */
+function failInPresses() {
+    const { putImageData } = CanvasRenderingContext2D.prototype;
+    const fail = () => {
+        CanvasRenderingContext2D.prototype.putImageData = () => {
+            throw new Error('planted');
+        };
+        setTimeout(() => (CanvasRenderingContext2D.prototype.putImageData = putImageData));
+    };
+    document.addEventListener('mousedown', fail, true);
+}
+
 test('a game outlives its page and its program, and is kept once', async () => {
     const game = await openGame();
     const play = async () => {
         await game.click('Arcade');
-        await game.untilMoved();
-        await sleep(1200); // what is left sooner is no game
+        await game.untilWorthKeeping();
     };
     const savedGames = async (count) => {
         await game.click('Games');
@@ -97,25 +116,27 @@ test('a game outlives its page and its program, and is kept once', async () => {
     await play();
     await game.page.page.reload();
     await game.placeOf('Arcade');
-    assert.match(await savedGames(1), /^Arcade, 0 points, level 9, 0:/);
-    await play();
-    await game.page.evaluate(() => {
-        CanvasRenderingContext2D.prototype.putImageData = () => {
-            throw new Error('planted');
-        };
-    });
-    await game.until('the sentence', () => document.body.innerText.includes('stopped because of an error. If you'));
-    assert.match(await savedGames(2), /^Arcade, 0 points, level 9, 0:/);
-    await game.page.page.reload();
+    assert.match(await savedGames(1), /^Arcade, \d+ points, level 3, 0:/);
+    for (const [plant, count] of [
+        [failAlways, 2],
+        [failInPresses, 3],
+    ]) {
+        await play();
+        await game.page.evaluate(plant);
+        for (let x = 0; x < 600 && !(await game.page.evaluate(hasFailed)); x += 20) await game.press(20 + x, 300);
+        await game.until('the sentence', hasFailed);
+        assert.match(await savedGames(count), /^Arcade, \d+ points, level 3, 0:/);
+        await game.page.page.reload();
+    }
     await play();
     await game.click('Games'); // which pauses the game, like a page that is hidden
     await game.click('Close');
     await game.page.key('Escape');
     await game.placeOf('Arcade');
-    assert.match(await savedGames(3), /^Arcade, 0 points, level 9, 0:/);
+    assert.match(await savedGames(4), /^Arcade, \d+ points, level 3, 0:/);
     await game.page.page.reload();
     await game.placeOf('Arcade');
-    await savedGames(3);
+    await savedGames(4);
 });
 
 test('a link is watched at any pace and moment, and nothing of the player’s changes', async () => {

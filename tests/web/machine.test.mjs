@@ -151,7 +151,7 @@ test('screen readers meet no obstacle', async () => {
         await game.page.evaluate(() => document.getElementById('voice').textContent),
         /Score 0.*High score 340/,
     );
-    await sleep(2500); // what is left sooner is not kept
+    await game.untilWorthKeeping();
     await game.page.key('Escape');
     await game.click('Games');
     await game.placeOf('Watch');

@@ -21,6 +21,7 @@ export class Waiting {
     private timer = 0;
     private isTurnAsked = false;
     private pause: Pause | undefined;
+    private failure: { readonly error: unknown } | undefined;
 
     constructor() {
         this.channel.port1.onmessage = () => this.turn();
@@ -61,13 +62,15 @@ export class Waiting {
         this.forInput = forInput;
         return new Promise((resolve, reject) => {
             this.pause = { resolve, reject };
-            if (this.isOver() || this.rest() < shortestNestedTimer) this.askForTurn();
+            if (this.failure) this.fail(this.failure.error);
+            else if (this.isOver() || this.rest() < shortestNestedTimer) this.askForTurn();
             else this.setTimer();
         });
     }
 
-    /** Makes the program's current wait fail. */
+    /** Makes the program's current wait fail, or its next one if it is working. */
     fail(error: unknown): void {
+        this.failure = { error };
         this.endPause()?.reject(error);
     }
 
