@@ -159,9 +159,13 @@ class Game:
     def open_dialog(self, button, title):
         """Opens a dialog and waits until it is drawn."""
         self.press(button)
-        dialog = self.desktop.window(title)
+        return self.wait_for_dialog(title)
+
+    def wait_for_dialog(self, title, seconds=5):
+        """Waits until a dialog is where it belongs, and drawn."""
+        dialog = self.desktop.window(title, seconds)
         look = dialog.viewer(0, 0, *layout.SIZES[title])
-        wait_for(lambda: still(look, 0.1), 5, f"{title!r} drawn")
+        wait_for(lambda: len(set(look().words())) > 1 and still(look, 0.1), 5, f"{title!r} drawn")
         return dialog
 
     def wait_for_close(self, title):
@@ -169,5 +173,5 @@ class Game:
 
     def answer_dialog(self, title, button=None, seconds=5):
         """Clicks a button of a dialog, OK if none is named, and waits until it is gone."""
-        click_in(self.desktop.window(title, seconds), title, button or layout.OK[title])
+        click_in(self.wait_for_dialog(title, seconds), title, button or layout.OK[title])
         self.wait_for_close(title)

@@ -32,8 +32,7 @@ export function answerFirstTouch(notices: Notices): void {
         removeEventListener('pointerdown', answer);
         areUsed = true;
         note();
-        notices.show('fingers', line);
-        setTimeout(() => notices.show('fingers', ''), lineLasts);
+        notices.show('fingers', line, lineLasts);
     };
     addEventListener('pointerdown', answer);
 }

@@ -7,9 +7,7 @@ import { isLink, packed, recordingIn, Refusal, unpacked } from './links';
 import type { Notices } from './notices';
 import { canShare, saveAsFile, share, titleOf } from './sharing';
 import type { Waiting } from './waiting';
-import { clock, type Watching } from './watching';
-
-const noticeTime = 15_000; // milliseconds
+import { clock, noticeTime, type Watching } from './watching';
 
 export interface Parts {
     readonly games: KeptGames;
@@ -26,7 +24,6 @@ export class Games {
     private readonly rows = make('ul');
     private readonly status = make('p');
     private readonly file = make('input');
-    private clearing = 0;
     private hasEnded = false;
 
     constructor(private readonly parts: Parts) {
@@ -84,9 +81,7 @@ export class Games {
     /** Shown in the dialog too, which hides the page's line. */
     private tell(sentence: string): void {
         this.status.textContent = sentence;
-        this.parts.notices.show('games', sentence);
-        clearTimeout(this.clearing);
-        this.clearing = setTimeout(() => this.parts.notices.show('games', ''), noticeTime);
+        this.parts.notices.show('games', sentence, noticeTime);
     }
 
     private async share(game: KeptGame): Promise<void> {

@@ -6,14 +6,21 @@ export type Subject = 'music' | 'sounds' | 'saving' | 'games' | 'fingers' | 'tut
 
 export class Notices {
     private readonly sentences = new Map<Subject, string>();
+    private readonly endings = new Map<Subject, number>();
 
     constructor(
         private readonly line: HTMLElement,
         private readonly voice: HTMLElement,
     ) {}
 
-    /** A sentence replaces the previous one on the same subject; an empty one removes it. The newest is shown. */
-    show(subject: Subject, sentence: string): void {
+    /**
+     * A sentence replaces the previous one on the same subject; an empty one removes it. The newest is shown. If `lasts` is
+     * given, the sentence is removed after that many milliseconds.
+     */
+    show(subject: Subject, sentence: string, lasts?: number): void {
+        clearTimeout(this.endings.get(subject));
+        const end = () => this.show(subject, '');
+        if (lasts !== undefined) this.endings.set(subject, setTimeout(end, lasts));
         this.sentences.delete(subject);
         if (sentence !== '') this.sentences.set(subject, sentence);
         this.line.textContent = [...this.sentences.values()].pop() ?? '';

@@ -4,6 +4,9 @@ import type { Notices } from './notices';
 import { EventKind, WatchCommand, type WatchRecord } from './records';
 import type { Waiting } from './waiting';
 
+/** How long a sentence about a recorded game is shown, in milliseconds. */
+export const noticeTime = 15_000;
+
 const paces = [1, 2, 4, 8];
 
 export class Watching {
@@ -55,7 +58,7 @@ export class Watching {
     }
 
     refuse(line: number, reason: string): void {
-        this.notices.show('games', `This recording cannot be watched: line ${line}, ${reason}.`);
+        this.notices.show('games', `This recording cannot be watched: line ${line}, ${reason}.`, noticeTime);
         this.whenLeft();
     }
 
