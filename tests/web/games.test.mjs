@@ -79,6 +79,21 @@ test('a game that was played with the mouse is true, as a link and as a file', a
     assert.deepEqual(game.page.faults, []);
 });
 
+/** Makes a picture fail that changes before the program waits again, as most do. */
+function failOutsideTimers() {
+    const { setTimeout } = globalThis;
+    let isInTimer = false;
+    globalThis.setTimeout = (act, rest) =>
+        setTimeout(() => {
+            isInTimer = true;
+            act();
+            isInTimer = false;
+        }, rest);
+    CanvasRenderingContext2D.prototype.putImageData = () => {
+        if (!isInTimer) throw new Error('planted');
+    };
+}
+
 test('a game outlives its page and its program, and is kept once', async () => {
     const game = await openGame();
     const play = async () => {
@@ -98,12 +113,7 @@ test('a game outlives its page and its program, and is kept once', async () => {
     await game.placeOf('Arcade');
     assert.match(await savedGames(1), /^Arcade, \d+ points, level 3, 0:/);
     await play();
-    // At this level pictures change before the program waits again, not by a timer.
-    await game.page.evaluate(() => {
-        CanvasRenderingContext2D.prototype.putImageData = () => {
-            throw new Error('planted');
-        };
-    });
+    await game.page.evaluate(failOutsideTimers);
     await game.until('the sentence', () => document.body.innerText.includes('stopped because of an error. If you'));
     assert.match(await savedGames(2), /^Arcade, \d+ points, level 3, 0:/);
     await game.page.page.reload();
