@@ -35,7 +35,13 @@ export class Game {
             const answer = await this.page.evaluate(question, ...values);
             if (answer) return answer;
         }
-        assert.fail(`waited in vain for ${what}`);
+        assert.fail(`waited in vain for ${what}; ${await this.state()}`);
+    }
+
+    /** What may explain why a test fails. */
+    async state() {
+        const find = () => ({ hidden: document.hidden, focus: document.hasFocus(), text: document.body.innerText });
+        return JSON.stringify({ ...(await this.page.evaluate(find)), faults: this.page.faults });
     }
 
     /** The middle of a button or of a check box or radio button in the front window. */
@@ -101,7 +107,7 @@ export class Game {
         const before = await this.surface();
         for (const end = Date.now() + PATIENCE; Date.now() < end; await sleep(50))
             if ((await this.surface()) !== before) return;
-        assert.fail('nothing moves');
+        assert.fail(`nothing moves; ${await this.state()}`);
     }
 
     /** Waits until an Arcade game has lasted for more than a second of its own time, which a busy machine stretches; what is
