@@ -110,8 +110,10 @@ export class Game {
         assert.fail(`nothing moves; ${await this.state()}`);
     }
 
-    /** Waits until an Arcade game has lasted for more than a second of its own time, which a busy machine stretches; what is
-     * left sooner is not kept. Up to level 3, a picture that differs is at least 48 ms later. */
+    /**
+     * Waits until an Arcade game has lasted for more than a second of its own time, which a busy machine stretches; a game that
+     * is left sooner is not kept. Up to level 3, beams grow every 48 ms or less often, so that 30 new pictures are enough.
+     */
     async untilWorthKeeping() {
         for (let pictures = 0; pictures < 30; ++pictures) await this.untilMoved();
     }
